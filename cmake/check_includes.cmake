@@ -1,0 +1,12 @@
+# Fails when a file below FOLDER includes "other/..." with other not in ALLOWED.
+string(REPLACE "," ";" allowed "${ALLOWED}")
+file(GLOB_RECURSE files ${FOLDER}/*.h ${FOLDER}/*.cpp)
+foreach(file IN LISTS files)
+    file(STRINGS ${file} lines REGEX "^#include \"[^\"/]+/")
+    foreach(line IN LISTS lines)
+        string(REGEX REPLACE "^#include \"([^/]+)/.*" "\\1" other "${line}")
+        if(NOT other IN_LIST allowed)
+            message(FATAL_ERROR "${file}: ${line}\nThis folder may include only: ${allowed}")
+        endif()
+    endforeach()
+endforeach()

@@ -1,0 +1,56 @@
+# Flags of every target, and one function per kind of folder. A folder's sources are
+# found, not listed; posix/ and win32/ inside it belong to one system each.
+
+add_library(terrafold_flags INTERFACE)
+target_include_directories(terrafold_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(MSVC)
+    target_compile_options(terrafold_flags INTERFACE /W4 /WX /fp:precise /utf-8)
+else()
+    # Geometry compares doubles exactly, so no multiply and add may be fused.
+    target_compile_options(terrafold_flags INTERFACE
+        -Wall -Wextra -Wpedantic -Werror -ffp-contract=off)
+endif()
+if(TERRAFOLD_SANITIZE)
+    target_compile_options(terrafold_flags INTERFACE
+        -fsanitize=${TERRAFOLD_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(terrafold_flags INTERFACE -fsanitize=${TERRAFOLD_SANITIZE})
+endif()
+
+function(terrafold_sources out dir)
+    file(GLOB found CONFIGURE_DEPENDS ${dir}/*.cpp)
+    if(WIN32)
+        file(GLOB variant CONFIGURE_DEPENDS ${dir}/win32/*.cpp)
+    else()
+        file(GLOB variant CONFIGURE_DEPENDS ${dir}/posix/*.cpp)
+    endif()
+    set(${out} ${found} ${variant} PARENT_SCOPE)
+endfunction()
+
+# terrafold_library(NAME [folders it may include ...])
+# The folder src/NAME as a static library. An #include of any other folder stops the build.
+function(terrafold_library name)
+    terrafold_sources(sources ${CMAKE_CURRENT_SOURCE_DIR}/${name})
+    add_library(${name} STATIC ${sources})
+    target_link_libraries(${name} PUBLIC terrafold_flags ${ARGN})
+    terrafold_check_includes(${name} ${ARGN})
+endfunction()
+
+# Stops the build of NAME when a file of src/NAME includes a folder that it may not.
+# What a folder may include passes on to those above it.
+function(terrafold_check_includes name)
+    set(allowed ${name})
+    foreach(dependency IN LISTS ARGN)
+        get_property(reach GLOBAL PROPERTY terrafold_reach_${dependency})
+        list(APPEND allowed ${reach})
+    endforeach()
+    list(REMOVE_DUPLICATES allowed)
+    set_property(GLOBAL PROPERTY terrafold_reach_${name} ${allowed})
+    string(REPLACE ";" "," allowed "${allowed}")
+    add_custom_target(${name}_includes
+        COMMAND ${CMAKE_COMMAND} -DFOLDER=${PROJECT_SOURCE_DIR}/src/${name} -DALLOWED=${allowed}
+                -P ${PROJECT_SOURCE_DIR}/cmake/check_includes.cmake
+        VERBATIM)
+    if(TARGET ${name})
+        add_dependencies(${name} ${name}_includes)
+    endif()
+endfunction()

@@ -1,0 +1,123 @@
+// core/host.h - how the program speaks to whoever runs it.
+//
+// Three hosts exist: the window, the command line and the one of the tests. Nothing else in
+// the program knows which it has. Texts and paths are code page 1252; controls of the main
+// form go by their names.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/numbers.h"
+
+/// Buttons of a message box, as a box returns them.
+inline constexpr Int Button_Ok = 1;
+inline constexpr Int Button_Cancel = 2;
+inline constexpr Int Button_Yes = 6;
+inline constexpr Int Button_No = 7;
+
+/// Style of a message box: one icon plus one set of buttons.
+inline constexpr Int Box_Stop = 16;
+inline constexpr Int Box_Question = 32;
+inline constexpr Int Box_Warning = 48;
+inline constexpr Int Box_Information = 64;
+inline constexpr Int Box_Ok = 0;
+inline constexpr Int Box_Ok_Cancel = 1;
+inline constexpr Int Box_Yes_No_Cancel = 3;
+inline constexpr Int Box_Yes_No = 4;
+
+struct Box {
+    std::string Text;  // lines are parted by CR LF
+    Int Style = Box_Ok;
+    std::string Title = "Terrafold";
+    Int Num = 0;  // number of the message as the code asked for it, 0 for a plain box
+};
+
+/// A question for a file. Filter is "Text (*.ext)|*.ext".
+struct File_Question {
+    enum class Kind { Open, Save } Mode = Kind::Open;
+    std::string Title;
+    std::string Start_Dir;
+    std::string File_Name;
+    std::string Filter;
+};
+
+enum class Form_End { Absent, Ok, Closed };
+enum class Pointer_Shape { Normal, Hourglass, Cross };
+
+struct Display_Info {
+    Int Bits_Per_Pixel = 32;
+    bool Has_Raster = true;
+};
+
+/// What the generator does to files, told as it happens.
+enum class File_Event { Deleted, Written };
+
+class Host {
+public:
+    virtual ~Host() = default;
+
+    /// Shows a message box and returns the button pressed.
+    virtual Int Show_Box(const Box& B) = 0;
+    /// Asks for a file; nothing when the user cancels.
+    virtual std::optional<std::string> Ask_File(const File_Question& Q) = 0;
+    /// Runs a dialog modally by its name ("Frm_PGen"). Absent when this host has no such form.
+    virtual Form_End Run_Form(std::string_view Form) = 0;
+
+    /// The main form. "Frm" itself is the window: its caption is the title.
+    virtual void Set_Caption(std::string_view Control, std::string_view Text) = 0;
+    virtual void Set_Enabled(std::string_view Control, bool On) = 0;
+    virtual void Set_Visible(std::string_view Control, bool On) = 0;
+    virtual void Set_Focus(std::string_view Control) = 0;
+    virtual void Set_Pointer(Pointer_Shape Shape) = 0;
+    /// Repaints what changed. May be called for every record: a host does so as seldom as it
+    /// likes.
+    virtual void Refresh() = 0;
+    /// Lets the window system handle what has come in.
+    virtual void Turn() = 0;
+    virtual Display_Info Display() = 0;
+
+    /// Runs an outside tool by its command line and waits for it; Show_Mode 0 is hidden. True
+    /// when it was started and has ended.
+    virtual bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) = 0;
+    /// Told of every file that the generator deletes or has written.
+    virtual void Note_File(File_Event Event, std::string_view Path) = 0;
+};
+
+/// The host in use. There always is one: at first a Silent_Host.
+Host& The_Host();
+
+/// Makes H the host for the life of this object, then puts the former one back.
+class Host_Scope {
+public:
+    explicit Host_Scope(Host& H);
+    ~Host_Scope();
+    Host_Scope(const Host_Scope&) = delete;
+    Host_Scope& operator=(const Host_Scope&) = delete;
+
+private:
+    Host* Former_;
+};
+
+/// The base of hosts: every call has no effect, questions are answered with the button that
+/// changes nothing, tools are started for real.
+class Silent_Host : public Host {
+public:
+    Int Show_Box(const Box& B) override;
+    std::optional<std::string> Ask_File(const File_Question& Q) override;
+    Form_End Run_Form(std::string_view Form) override;
+    void Set_Caption(std::string_view Control, std::string_view Text) override;
+    void Set_Enabled(std::string_view Control, bool On) override;
+    void Set_Visible(std::string_view Control, bool On) override;
+    void Set_Focus(std::string_view Control) override;
+    void Set_Pointer(Pointer_Shape Shape) override;
+    void Refresh() override;
+    void Turn() override;
+    Display_Info Display() override;
+    bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
+    void Note_File(File_Event Event, std::string_view Path) override;
+};
+
+/// A plain message box with an Ok button and the program's name as title.
+void Plain_Box(std::string_view Text);

@@ -1,0 +1,2 @@
+// core/messages.cpp
+#include "core/messages.h"

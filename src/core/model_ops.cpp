@@ -1,0 +1,179 @@
+// core/model_ops.cpp - the changes of the project that touch more than one value.
+#include "core/model_ops.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "core/messages.h"
+
+namespace {
+
+// The rows grow by the pool's own rule; a point is never taken from a hole.
+Long Pt_New(Double X, Double Y) {
+    return Tab_Pt.Append({.Prev = 0, .Next = 0, .X = X, .Y = Y});
+}
+
+void Chain_Start(Obj& O, Long P) {
+    O.First_Pt = P;
+    O.Last_Pt = P;
+    O.Nb_Pts = 1;
+}
+
+}  // namespace
+
+Attr Attr_Zero() {
+    Attr A;
+    A.Attrib = A.SurfShore = A.Largeur = A.LineType = A.LandOnRight = A.FermerLine = 0;
+    A.Alti = A.Alt_Coast = 0.0;
+    A.Layer = 0;
+    A.Link_Ima = A.LWM_VTP2 = A.LandClass = A.LC = A.Layer_Vtp2 = 0;
+    A.Drive_Right = A.Line_Night = A.LayerScasm = A.Vtp1_Line = 0;
+    A.Effil_Deb = A.Effil_Fin = A.VTP1_SpecNor = A.Flip_VTP1Texture = 0;
+    return A;
+}
+
+void Init_Tables() {
+    Tab_Obj.Reset();
+    Tab_Pt.Reset();
+    Tab_Area.Reset();
+    Tab_Lod8.Reset();
+    Tab_Excl.Reset();
+    Tab_LC.Reset();
+    Tab_WC.Reset();
+    Tab_Ima.Reset();
+    Tab_PtGrid.Reset();
+    Tab_Obj.Append({.Attr = Attr_Zero()});
+    Last_Num_Obj = 0;
+    LodMesh = 2;
+    Mesh_Done = 0;
+    The_Edits.Last_Alt = 0.0F;
+    The_Edits.Last_Alt_Set = false;
+    Dialog_Up = 0;
+}
+
+void Model_Reset() {
+    The_Head = {};
+    The_Calibration = {};
+    The_Edits = {};
+    Init_Tables();
+}
+
+Long Obj_Add(const Attr& A, Double X, Double Y) {
+    if (Last_Num_Obj == std::numeric_limits<Long>::max()) return 0;
+    Obj O{.Num = ++Last_Num_Obj, .Attr = A};
+    Chain_Start(O, Pt_New(X, Y));
+    return Tab_Obj.Append(std::move(O));
+}
+
+void Obj_Delete(Long I) {
+    Check(I >= First_Obj, "the reserved element is never deleted");
+    Tab_Obj.Remove(I);
+}
+
+Long Pt_Append(Long I, Double X, Double Y) {
+    const Long P = Pt_New(X, Y);
+    Obj& O = Tab_Obj[I];
+    if (O.Nb_Pts == 0) {
+        Chain_Start(O, P);
+        return P;
+    }
+    Tab_Pt[O.Last_Pt].Next = P;
+    Tab_Pt[P].Prev = O.Last_Pt;
+    O.Last_Pt = P;
+    ++O.Nb_Pts;
+    return P;
+}
+
+Long Pt_Prepend(Long I, Double X, Double Y) {
+    const Long P = Pt_New(X, Y);
+    Obj& O = Tab_Obj[I];
+    if (O.Nb_Pts == 0) {
+        Chain_Start(O, P);
+        return P;
+    }
+    Tab_Pt[O.First_Pt].Prev = P;
+    Tab_Pt[P].Next = O.First_Pt;
+    O.First_Pt = P;
+    ++O.Nb_Pts;
+    return P;
+}
+
+Long Pt_Insert(Long I, Long After, Double X, Double Y) {
+    Obj& O = Tab_Obj[I];
+    if (After == O.Last_Pt) return Pt_Append(I, X, Y);
+    const Long P = Pt_New(X, Y);
+    const Long Before = Tab_Pt[After].Next;
+    Tab_Pt[P].Prev = After;
+    Tab_Pt[P].Next = Before;
+    Tab_Pt[After].Next = P;
+    Tab_Pt[Before].Prev = P;
+    ++O.Nb_Pts;
+    return P;
+}
+
+bool Pt_Delete(Long I, Long P) {
+    Obj& O = Tab_Obj[I];
+    if (O.Nb_Pts == 1) {
+        Msg_Result = Msg_Show(20);
+        if (Msg_Result == Button_No) return false;
+        Obj_Delete(I);
+        return true;
+    }
+    const Long Prev = Tab_Pt[P].Prev;
+    const Long Next = Tab_Pt[P].Next;
+    if (P == O.First_Pt) {
+        O.First_Pt = Next;
+        Tab_Pt[Next].Prev = 0;
+    } else if (P == O.Last_Pt) {
+        O.Last_Pt = Prev;
+        Tab_Pt[Prev].Next = 0;
+    } else {
+        Tab_Pt[Prev].Next = Next;
+        Tab_Pt[Next].Prev = Prev;
+    }
+    --O.Nb_Pts;
+    return true;
+}
+
+Long Lod8_Find(Int AreaLon, Int AreaLat) {
+    for (Long I = 1; I <= Nb_Lod8; ++I)
+        if (Tab_Lod8[I].AreaLon == AreaLon && Tab_Lod8[I].AreaLat == AreaLat) return I;
+    return 0;
+}
+
+Long Lod8_Store(const Lod8& Record) {
+    const Long I = Lod8_Find(Record.AreaLon, Record.AreaLat);
+    if (I == 0) return Tab_Lod8.Append(Record);
+    Tab_Lod8[I] = Record;
+    return I;
+}
+
+Long Ima_Add(Ima Record) {
+    Int Highest = 0;
+    for (const Ima& M : Tab_Ima.Rows()) Highest = std::max(Highest, M.Num);
+    if (Highest == std::numeric_limits<Int>::max()) return 0;
+    Record.Active = 1;
+    Record.Num = static_cast<Int>(Highest + 1);
+    return Tab_Ima.Append(std::move(Record));
+}
+
+void Ima_Delete(Long I) {
+    const Int Num = Tab_Ima[I].Num;
+    for (Long K = First_Obj; K <= Nb_Obj; ++K) {
+        Attr& A = Tab_Obj[K].Attr;
+        if (A.Link_Ima != Num) continue;
+        A.Link_Ima = 0;
+        A.LWM_VTP2 = 0;
+        A.VTP1_SpecNor = 1;
+    }
+    Tab_Ima[I].Active = 0;
+}
+
+Long PtGrid_Add(Double X, Double Y, Single Alt) {
+    return Tab_PtGrid.Append({.Active = 1, .X = X, .Y = Y, .Alt = Alt});
+}
+
+void PtGrid_Delete(Long I) {
+    Tab_PtGrid[I].Active = 0;
+}

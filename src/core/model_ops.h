@@ -1,0 +1,71 @@
+// core/model_ops.h - adding, changing and deleting what the project holds.
+//
+// A row returned is the row in the table named; 0 says that there is none. An object number
+// or texture number that would pass its field's width is not given: the operation then changes
+// nothing and returns 0.
+#pragma once
+
+#include <concepts>
+
+#include "core/model.h"
+
+/// Empties the project for a new one: the reserved element alone in Tab_Obj, all other tables
+/// empty at their first capacities, no object number given, LodMesh 2, Mesh_Done 0. The head
+/// of the project (map, calibration, output names) stays.
+void Init_Tables();
+
+/// Init_Tables, and every scalar and edit copy back to its first value. Nothing of a project
+/// is left; tests begin with it.
+void Model_Reset();
+
+/// The attributes of the reserved element: all numbers 0, all strings empty.
+Attr Attr_Zero();
+
+/// A new object with one point; it gets the next object number.
+Long Obj_Add(const Attr& A, Double X, Double Y);
+/// Removes object I; the objects behind it move down, its points stay in the pool.
+void Obj_Delete(Long I);
+
+/// Adds a point to object I behind its last point, before its first, or behind point After of
+/// its chain. Returns the row of the point in Tab_Pt.
+Long Pt_Append(Long I, Double X, Double Y);
+Long Pt_Prepend(Long I, Double X, Double Y);
+Long Pt_Insert(Long I, Long After, Double X, Double Y);
+
+/// Takes point P out of the chain of object I. The last point of an object takes the object
+/// with it, after message 20; false when the user said No to that.
+bool Pt_Delete(Long I, Long P);
+
+/// A record that hangs on a Cell.
+template <typename R>
+concept Cell_Record = std::derived_from<R, Cell_Pos>;
+
+/// The first record of the Cell, or 0.
+template <Cell_Record R>
+Long Cell_Find(const Table<R>& Tab, const Cell_Pos& Cell) {
+    for (Long I = 1; I <= Tab.Nb(); ++I)
+        if (static_cast<const Cell_Pos&>(Tab[I]) == Cell) return I;
+    return 0;
+}
+
+/// Overwrites the record of the same Cell, or adds the record. Returns its row.
+template <Cell_Record R>
+Long Cell_Store(Table<R>& Tab, const R& Record) {
+    const Long I = Cell_Find(Tab, Record);
+    if (I == 0) return Tab.Append(Record);
+    Tab[I] = Record;
+    return I;
+}
+
+/// The same for the records of an Area.
+Long Lod8_Find(Int AreaLon, Int AreaLat);
+Long Lod8_Store(const Lod8& Record);
+
+/// A new texture rectangle, with Active 1 and a Num above all others.
+Long Ima_Add(Ima Record);
+/// Deletes texture I: objects linked to it become plain LWM polygons.
+void Ima_Delete(Long I);
+
+/// A new altitude sample, with Active 1.
+Long PtGrid_Add(Double X, Double Y, Single Alt);
+void PtGrid_Delete(Long I);

@@ -1,0 +1,99 @@
+// core/table.h - the 1-based table that every list of the program is.
+//
+// A table has a count Nb and a capacity Max. The count is written by the table alone; the
+// capacity grows by the table's own step when a row is added to a full table. Rows live in one
+// block that grows geometrically behind the capacity, so adding n rows costs n.
+#pragma once
+
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "core/check.h"
+#include "core/numbers.h"
+
+#ifdef NDEBUG
+inline constexpr bool Checks_Table_Index = false;
+#else
+inline constexpr bool Checks_Table_Index = true;
+#endif
+
+template <typename T>
+class Table {
+public:
+    constexpr Table(Long First_Capacity, Long Step)
+        : Max_(First_Capacity), First_Capacity_(First_Capacity), Step_(Step) {}
+
+    /// Number of rows; they are 1 to Nb.
+    constexpr const Long& Nb() const { return Nb_; }
+    /// Capacity. It bounds nothing: a full table grows.
+    constexpr const Long& Max() const { return Max_; }
+
+    /// Row I, 1 to Nb. Checked, except in release builds.
+    T& operator[](Long I) {
+        if constexpr (Checks_Table_Index) Check_Index(I);
+        return Row_[static_cast<std::size_t>(I) - 1];
+    }
+    const T& operator[](Long I) const {
+        if constexpr (Checks_Table_Index) Check_Index(I);
+        return Row_[static_cast<std::size_t>(I) - 1];
+    }
+
+    /// Adds a row and returns its index.
+    Long Append(T Row) {
+        Check(Nb_ < std::numeric_limits<Long>::max(), "a table holds at most 2147483647 rows");
+        if (Nb_ == Max_) Grow();
+        Row_.push_back(std::move(Row));
+        return ++Nb_;
+    }
+
+    /// Moves the rows behind I down by one. The capacity stays.
+    void Remove(Long I) {
+        Check_Index(I);
+        Row_.erase(Row_.begin() + (I - 1));
+        --Nb_;
+    }
+
+    /// Drops the rows behind the first Nb.
+    void Truncate(Long Nb) {
+        Check(0 <= Nb && Nb <= Nb_, "a table is cut to at most its rows");
+        Row_.erase(Row_.begin() + Nb, Row_.end());
+        Nb_ = Nb;
+    }
+
+    /// Drops all rows and sets the capacity, which takes no memory.
+    void Dimension(Long Max) {
+        Check(Max >= 0, "a capacity is not negative");
+        Row_.clear();
+        Nb_ = 0;
+        Max_ = Max;
+    }
+
+    /// Takes the memory for Nb rows at once. A hint: give it only a number that the rows at
+    /// hand vouch for.
+    void Reserve(Long Nb) { Row_.reserve(static_cast<std::size_t>(Nb)); }
+
+    /// Back to the state of a new table; the memory is given back.
+    void Reset() {
+        Row_ = {};
+        Nb_ = 0;
+        Max_ = First_Capacity_;
+    }
+
+    /// The rows in order, for loops that need no index.
+    std::span<T> Rows() { return Row_; }
+    std::span<const T> Rows() const { return Row_; }
+
+private:
+    void Check_Index(Long I) const { Check(1 <= I && I <= Nb_, "a row of the table"); }
+    void Grow() {
+        const bool Fits = Max_ <= std::numeric_limits<Long>::max() - Step_;
+        Max_ = Fits ? Max_ + Step_ : std::numeric_limits<Long>::max();
+    }
+
+    std::vector<T> Row_;
+    Long Nb_ = 0;
+    Long Max_;
+    Long First_Capacity_;
+    Long Step_;
+};

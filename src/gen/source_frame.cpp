@@ -1,0 +1,2 @@
+// gen/source_frame.cpp
+#include "gen/source_frame.h"

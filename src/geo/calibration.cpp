@@ -1,0 +1,2 @@
+// geo/calibration.cpp
+#include "geo/calibration.h"

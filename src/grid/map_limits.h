@@ -1,0 +1,15 @@
+// grid/map_limits.h - what follows from the calibration: the map's limits, its Cells and the
+// work grid round them.
+#pragma once
+
+#include "core/model.h"
+#include "geo/calibration.h"
+
+/// Fills the derived values of Cal from its points and the size of the map image in pixels.
+/// Points that are equal, or a south-east point in row or column 0, have no such values; all of
+/// them are then 0.
+void Compute_Map_Limits(Calibration& Cal, Long Width, Long Height);
+
+/// Moves every cell record to the cell that lies under its pixel now, after the calibration in
+/// use has replaced Old. Records that come to share a cell all stay.
+void Reproject_Cells(const Calibration& Old);

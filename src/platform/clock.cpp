@@ -1,0 +1,2 @@
+// platform/clock.cpp
+#include "platform/clock.h"

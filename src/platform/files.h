@@ -1,0 +1,74 @@
+// platform/files.h - files: the only code that opens, lists, renames or deletes them.
+//
+// Paths are in the program's form (paths.h). Failures are return values; nothing throws.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+bool File_Exists(std::string_view Path);  // a file, not a directory
+bool Dir_Exists(std::string_view Path);
+bool Dir_Create(std::string_view Path);  // with its parents; true when it stands at the end
+
+/// Deletes one file. False when there was none or it could not be deleted.
+bool File_Delete(std::string_view Path);
+
+/// Copies a file, replacing an older one.
+bool File_Copy(std::string_view From, std::string_view To);
+
+/// The whole file, or nothing when it cannot be read.
+std::optional<std::string> File_Read(std::string_view Path);
+
+/// Names of the files in a directory, in order of their capitals; names that code page 1252
+/// can't write are left out.
+std::vector<std::string> Dir_Files(std::string_view Dir);
+
+/// Paths of the files whose path is Stem followed by text that matches Pattern. In Pattern "*"
+/// stands for any text and "?" for any one character; Stem has no such marks. Case is ignored.
+std::vector<std::string> Files_Matching(std::string_view Stem, std::string_view Pattern);
+
+/// A text file that is written from its start to its end.
+///
+/// In place: the old file goes first, and what is written is there at once. Safe: everything
+/// goes to a temporary file in the same directory, which takes the name at Commit, so the
+/// directory holds the whole old file or the whole new one at any moment. A writer destroyed
+/// without Commit leaves no temporary file and, when safe, the old file untouched.
+class File_Writer {
+public:
+    enum class Mode { In_Place, Safe };
+
+    File_Writer(std::string_view Path, Mode How);
+    ~File_Writer();
+    File_Writer(File_Writer&&) noexcept;
+    File_Writer& operator=(File_Writer&&) = delete;
+
+    /// False when the file could not be made; writing then has no effect.
+    bool Is_Open() const;
+    void Put(std::string_view Text) {
+        if (Buffer_.size() + Text.size() > Buffer_Size) Flush();
+        Buffer_.append(Text);
+    }
+    /// Writes what is left, makes a safe file durable and gives it its name. False when any
+    /// write failed; a safe file is then dropped.
+    bool Commit();
+
+private:
+    static constexpr std::size_t Buffer_Size = 1 << 16;
+    void Flush();
+
+    struct Handle;
+    std::string Buffer_;
+    std::unique_ptr<Handle> Handle_;
+};
+
+/// Steps of a safe write, in order.
+enum class Save_Step { Create, Write, Sync, Rename, Sync_Dir };
+
+/// Called before each step of every safe write; tests end the program there.
+inline std::function<void(Save_Step)> On_Save_Step;

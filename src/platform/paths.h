@@ -1,0 +1,29 @@
+// platform/paths.h - paths in the program's form and in the system's.
+//
+// The program writes a path as its files hold it: parts divided by "\", code page 1252, with
+// or without a drive letter. Letters' case does not matter when a file is looked for. On a
+// POSIX system "\home\me" is "/home/me", and a drive letter is the drive of that letter of the
+// Wine prefix (WINEPREFIX, else ~/.wine); without one nothing exists there.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// The file or directory that Path names, ignoring case where the exact name is absent; the
+/// path it would have when it does not exist. Nothing when it can't exist here: an unknown
+/// drive, or an empty path.
+std::optional<std::filesystem::path> Native_Path(std::string_view Path);
+
+/// The program's form of a path of the system, made absolute. Nothing when code page 1252
+/// can't write it.
+std::optional<std::string> Program_Path(const std::filesystem::path& Path);
+
+/// The directory part of Path with its final "\", and the rest; "" and Path without a "\".
+std::string_view Path_Dir(std::string_view Path);
+std::string_view Path_Name(std::string_view Path);
+
+/// Path if such a file exists; else the file of the same name in the directory of Beside, as
+/// when a project comes from another computer; else Path.
+std::string File_Locate(std::string_view Path, std::string_view Beside);

@@ -1,0 +1,17 @@
+// platform/program_dir.h - where the program keeps its resources and what it generates.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// The directory that App_Path is to be, in the program's form, no final backslash: the one
+/// named by the environment variable TERRAFOLD_HOME; else the program's own directory if it
+/// holds Resource and can be written; else the user's data directory for Terrafold. Nothing
+/// when none of them can be used.
+std::optional<std::string> Find_App_Dir();
+
+/// Makes Dir ready to be App_Path: makes it if it is absent, and fills it from the installed
+/// resources what its Resource directory lacks. Never replaces a file. False when it cannot be
+/// written.
+bool Prepare_App_Dir(std::string_view Dir);
