@@ -1,4 +1,5 @@
 # Fails when a file below FOLDER includes "other/..." with other not in ALLOWED.
+cmake_minimum_required(VERSION 3.25)
 string(REPLACE "," ";" allowed "${ALLOWED}")
 file(GLOB_RECURSE files ${FOLDER}/*.h ${FOLDER}/*.cpp)
 foreach(file IN LISTS files)

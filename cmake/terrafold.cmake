@@ -50,7 +50,5 @@ function(terrafold_check_includes name)
         COMMAND ${CMAKE_COMMAND} -DFOLDER=${PROJECT_SOURCE_DIR}/src/${name} -DALLOWED=${allowed}
                 -P ${PROJECT_SOURCE_DIR}/cmake/check_includes.cmake
         VERBATIM)
-    if(TARGET ${name})
-        add_dependencies(${name} ${name}_includes)
-    endif()
+    add_dependencies(${name} ${name}_includes)
 endfunction()

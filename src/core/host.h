@@ -34,7 +34,9 @@ struct Box {
     Int Num = 0;  // number of the message as the code asked for it, 0 for a plain box
 };
 
-/// A question for a file. Filter is "Text (*.ext)|*.ext".
+/// A question for a file. Start_Dir may be empty, and end in a backslash or not; Filter is
+/// "Text (*.ext)|*.ext". Before a host gives back a file to save to that exists, it asks the
+/// user whether it may be replaced.
 struct File_Question {
     enum class Kind { Open, Save } Mode = Kind::Open;
     std::string Title;
@@ -65,7 +67,8 @@ public:
     /// Runs a dialog modally by its name ("Frm_PGen"). Absent when this host has no such form.
     virtual Form_End Run_Form(std::string_view Form) = 0;
 
-    /// The main form. "Frm" itself is the window: its caption is the title.
+    /// The main form. "Frm" itself is the window: its caption is the title. Element I of a
+    /// control array goes by "Name(I)", as in "Mnu_File_Prec(0)".
     virtual void Set_Caption(std::string_view Control, std::string_view Text) = 0;
     virtual void Set_Enabled(std::string_view Control, bool On) = 0;
     virtual void Set_Visible(std::string_view Control, bool On) = 0;

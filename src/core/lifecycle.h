@@ -11,9 +11,15 @@
 #include "core/numbers.h"
 
 /// The start of the program, with the command line behind the program's name and the directory
-/// that App_Path is to be. False when the program must end: a second instance, or a display
-/// that cannot serve.
+/// that App_Path is to be. Opens the project of the command line. False when the program must
+/// end, after a message: a second instance, or a display that cannot serve.
 bool Program_Start(std::string_view Command_Line, std::string_view App_Dir);
+
+/// The end of the program: releases map tiles, pictures, tables and the one-instance lock.
+void Program_End();
+
+/// Lets another instance of the program start.
+void Instance_Release();
 
 /// Sets App_Path and the files that stand below it.
 void Set_App_Path(std::string_view App_Dir);
@@ -21,7 +27,8 @@ void Set_App_Path(std::string_view App_Dir);
 /// The path a command line names, without its quotes; "" when it names no file.
 std::string Command_Line_File(std::string_view Command_Line);
 
-/// Asks whether the open project is to be saved, and saves it on Yes. False on Cancel.
+/// Asks whether the open project is to be saved, and saves it on Yes. False on Cancel, and when
+/// the save failed: the command that asked must not go on. True without an open project.
 bool Ask_Save();
 
 /// Reads the project file Path and opens it without showing it. False when it can't be read.
@@ -33,16 +40,33 @@ void Open_Project(std::string_view Path);
 /// Ends the open project without asking.
 void Close_View();
 
+/// New, Open, a recent project and Close ask whether the open project is to be saved, then end
+/// it; Cancel keeps everything as it was.
 void Cmd_New();
 void Mnu_File_Open();
 void Mnu_File_Prec(Int Index);  // 0 to 3: a recent project
-void Cmd_Save();
-void Mnu_File_Enreg_Sous();
 void Mnu_File_Close();
+
+void Cmd_Save();             // the button, which gives the focus back to the canvas
+void Mnu_File_Enreg();       // the menu item
+void Mnu_File_Enreg_Sous();  // writes a copy; the open project stays the old one
+
+/// Empties the open project, after a question; its map, calibration and output names stay.
 void Mnu_Reinit();
 
-/// The end of the program: asks, then releases everything. False when the user cancels.
+/// Quit: asks as Close does, then Program_End. False when the user cancels and the program goes
+/// on.
 bool Mnu_File_Quit();
+
+/// Commands that open a dialog.
+void Mnu_Param_File();
+void Mnu_Param_Gene();
+void Mnu_ModCad();
+void Mnu_par_Remesh();
+void Mnu_Tool_CvLL();
+
+/// There are no help pages: only gives the focus back to the canvas.
+void Cmd_Help();
 
 /// Commands that need an open project.
 void Enable_Project_Cmds();

@@ -24,7 +24,7 @@ inline std::string Msg_Text;
 /// of its box, and fills Msg_Icon, Msg_Buttons and Msg_Text.
 void Msg_Fetch(Int Num, Int& Key_Num, std::string& Title);
 
-/// Shows message Num as "(key) text" and returns the button pressed.
+/// Shows message Num as "(key) text", keeps the button pressed in Msg_Result and returns it.
 Int Msg_Show(Int Num);
 
 /// The same with Extra on a line of its own.

@@ -30,6 +30,7 @@ struct Program_State {
     Int Projet_Open = 0;
     Int New_Projet = 0;           // the project dialog serves a new project
     Int PPro_Ok = 0;              // the project dialog ended by its Ok
+    Int Cad_Cancelled = 1;        // the calibration dialog did not end by its Ok
     Int Edit_On = 0;              // the canvas accepts editing events
     Long Tile_Size = 2000;        // side of a map tile, pixels
     Long Grid_Colour = 0xC0C0C0;  // RGB
@@ -53,6 +54,7 @@ inline std::string& Cmd_File = The_Program.Cmd_File;
 inline Int& Projet_Open = The_Program.Projet_Open;
 inline Int& New_Projet = The_Program.New_Projet;
 inline Int& PPro_Ok = The_Program.PPro_Ok;
+inline Int& Cad_Cancelled = The_Program.Cad_Cancelled;
 inline Int& Edit_On = The_Program.Edit_On;
 inline Long& Tile_Size = The_Program.Tile_Size;
 inline Long& Grid_Colour = The_Program.Grid_Colour;
@@ -64,6 +66,6 @@ inline const char* In_Language(const char* English, const char* French) {
     return Language == "US" ? English : French;
 }
 
-/// Program, project and message state as at the start of the program. Every test begins
-/// with it.
+/// Program, project and message state as at the start of the program, with no routine of
+/// view_calls.h put in; the one-instance lock is free. Every test begins with it.
 void Program_Reset();

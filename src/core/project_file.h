@@ -30,6 +30,9 @@ inline Int V24_Upgrade = 0;  // one of the four is set and the file is of versio
 /// Nom_Projet is not touched in any case.
 void Read_Project_File(std::string_view Path);
 
+/// The same for the bytes of a project file.
+void Read_Project_Text(std::string_view Text);
+
 /// Writes the open project to Nom_Projet, or as a copy to New_Path when Save_As is 1; message
 /// 14 when that is the same. Nothing happens without an open project. The file appears whole
 /// or not at all: a save that fails leaves the old file and says so in a plain box. False when

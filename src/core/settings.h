@@ -7,12 +7,15 @@
 
 #include "core/numbers.h"
 
-/// Reads all settings; looks for the simulator on the computer when DirFS is empty.
+/// Reads all settings into program.h. A DirFS that does not exist is dropped; without one the
+/// simulator is looked for on this computer, and its directory kept as DirFS when it holds a
+/// directory Scenery.
 void Read_Settings();
 
 /// Writes one setting. False when the file cannot be written.
 bool Setting_Put(std::string_view Key, std::string_view Value);
 
 /// Mode 1 puts Path at the head of DerApt, Mode 2 takes it out. Paths are compared in
-/// capitals. A change is written to Ini_File and to the captions of Mnu_File_Prec 0 to 3.
+/// capitals, an empty Path changes nothing. A change is written to Ini_File and to the captions
+/// of the menu items Mnu_File_Prec(0) to (3).
 void Recent_Update(std::string_view Path, Int Mode);

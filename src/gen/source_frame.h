@@ -79,6 +79,9 @@ void Vtp_Skeleton(Source_File& Out, std::span<const Vtp_Area> Areas,
 /// NameBgl without its extension, that is without its last four characters.
 std::string Bgl_Stem();
 
+/// The path of a file of that name in App_Path.
+std::string Source_Path(std::string_view Name);
+
 /// Shows what is being made in the progress labels.
 void Show_Stage(std::string_view Name, std::string_view Stage);
 

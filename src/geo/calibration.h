@@ -4,6 +4,7 @@
 // the column, each with its own scale, without a projection.
 #pragma once
 
+#include "core/model.h"
 #include "core/numbers.h"
 
 /// A position on the map image, in pixels: X east, Y south, fractions allowed, off the map too.
@@ -22,10 +23,24 @@ struct Geo {
     bool operator==(const Geo&) const = default;
 };
 
-Geo Pixel_To_LatLon(Pix P);
-Pix LatLon_To_Pixel(Geo G);
+/// Both are the line through the two points of Cal, evaluated from left to right as it stands
+/// here. Points that share a row, a column, a latitude or a longitude give infinities or no
+/// numbers.
+inline Geo Pixel_To_LatLon(Pix P, const Calibration& Cal = The_Calibration) {
+    const Double Rows = static_cast<Double>(Cal.YPtSE) - Cal.YPtNW;
+    const Double Cols = static_cast<Double>(Cal.XPtSE) - Cal.XPtNW;
+    return {Cal.LatPtNW + (Cal.LatPtSE - Cal.LatPtNW) * (P.Y - Cal.YPtNW) / Rows,
+            Cal.LonPtNW + (Cal.LonPtSE - Cal.LonPtNW) * (P.X - Cal.XPtNW) / Cols};
+}
+inline Pix LatLon_To_Pixel(Geo G, const Calibration& Cal = The_Calibration) {
+    const Double Rows = static_cast<Double>(Cal.YPtSE) - Cal.YPtNW;
+    const Double Cols = static_cast<Double>(Cal.XPtSE) - Cal.XPtNW;
+    return {Cal.XPtNW + Cols * (G.Lon - Cal.LonPtNW) / (Cal.LonPtSE - Cal.LonPtNW),
+            Cal.YPtNW + Rows * (G.Lat - Cal.LatPtNW) / (Cal.LatPtSE - Cal.LatPtNW)};
+}
 
-/// Whether the calibration can serve: two points in north-west to south-east order in pixels
-/// and in degrees, a work grid with an extent, and no more grid lines in it than the globe
-/// has rows or columns of Cells.
-bool Calibration_Can_Serve();
+/// Whether Cal can serve the generators: its points lie in north-west to south-east order in
+/// pixels and in degrees, and its work grid has an extent in both, lies on the globe (so that
+/// it has no more lines than the globe has rows or columns of cells), and has lines that
+/// Doubles of their size can tell apart.
+bool Calibration_Can_Serve(const Calibration& Cal = The_Calibration);

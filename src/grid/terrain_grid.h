@@ -4,7 +4,10 @@
 // A cell of level n is 90/2^n degrees high and 120/2^n degrees wide; rows count from +90 south,
 // columns from -180 east. All steps are binary fractions, so their multiples are exact. A point
 // on a parallel belongs to the cell south of it, one on a meridian to the cell east of it.
-// Positions at or beyond a pole or +180 degrees lie outside every cell; they give the nearest.
+// Positions at or beyond a pole or +180 degrees lie outside every cell; they give the nearest,
+// and what is not a number counts as the first row or column.
+//
+// Operations on pixels go through the calibration in use.
 #pragma once
 
 #include <string>
@@ -31,6 +34,7 @@ struct Loc_Area {
     bool operator==(const Loc_Area&) const = default;
 };
 
+inline constexpr Int Loc_Cell_Span = 255;
 inline constexpr Int Loc_Area_Origin = 4080;
 inline constexpr Int Loc_Area_Span = 8160;  // 32 * 255
 inline constexpr Int Loc_Area_Last = 12240;
@@ -39,12 +43,14 @@ inline constexpr Int Loc_Area_Last = 12240;
 struct Lod10_Pos {
     Int AreaLon = 0, AreaLat = 0;
     Int Col = 0, Row = 0;
+    bool operator==(const Lod10_Pos&) const = default;
 };
 
 /// A Cell as row and column 0 to 255 inside a square of level 5.
 struct Lod5_Pos {
     Int Lod5_Lon = 0, Lod5_Lat = 0;
     Int Col = 0, Row = 0;
+    bool operator==(const Lod5_Pos&) const = default;
 };
 
 /// The height pair of an altitude in metres: whole metres cut toward zero, and the rest in
@@ -52,6 +58,7 @@ struct Lod5_Pos {
 struct Height {
     Long H_Int = 0;
     Long H_Frac = 0;
+    bool operator==(const Height&) const = default;
 };
 Height Height_Pair(Double Alti);
 
@@ -66,9 +73,11 @@ Lod5_Pos LatLon_To_Lod5(Geo G);
 /// The square of level 5 under the centre of a Cell.
 Lod5_Pos Cell_To_Lod5(const Cell_Pos& C);
 
-/// North-west corners, in degrees.
+/// North-west corners and centres, in degrees.
 Geo Area_Corner(Int AreaLon, Int AreaLat);
+Geo Area_Centre(Int AreaLon, Int AreaLat);
 Geo Cell_Corner(const Cell_Pos& C);
+Geo Cell_Centre(const Cell_Pos& C);
 
 /// The Cell under P and the place of P in it, rounded half to even and held inside the Cell.
 Loc_Cell Pixel_To_Cell_Loc(Pix P, Cell_Pos& C);
@@ -83,10 +92,11 @@ Loc_Cell Pixel_Loc_In_Cell(Pix P, const Cell_Pos& C);
 Loc_Area Pixel_Loc_In_Area(Pix P, Int AreaLon, Int AreaLat);
 
 /// The place of P on the Area scale of an Area, neither snapped nor limited to it, so that it
-/// may pass the width of an Int.
+/// may pass the width of an Int. Distances are absolute here too.
 struct Loc_Area_Raw {
     Long LocX = 0;
     Long LocY = 0;
+    bool operator==(const Loc_Area_Raw&) const = default;
 };
 Loc_Area_Raw Pixel_Loc_In_Area_Raw(Pix P, Int AreaLon, Int AreaLat);
 

@@ -1,5 +1,23 @@
-// grid/work_lists.cpp - the end of an emitter's run.
+// grid/work_lists.cpp - the output of a pass, and the end of an emitter's run.
 #include "grid/work_lists.h"
+
+#include <utility>
+
+void NPoly_Append(const WPoly& Like, std::span<const Pix> Points) {
+    WPoly W = Like;
+    W.First = Nb_NPt + 1;
+    for (const Pix P : Points) Tab_NPt.Append({.X = P.X, .Y = P.Y});
+    W.Last = Nb_NPt;
+    W.Nb = static_cast<Long>(Points.size());
+    Tab_NPoly.Append(W);
+}
+
+void WPoly_Commit() {
+    std::swap(Tab_WPoly, Tab_NPoly);
+    std::swap(Tab_WPt, Tab_NPt);
+    Tab_NPoly.Dimension(0);
+    Tab_NPt.Dimension(0);
+}
 
 void Work_Lists_Reset() {
     Tab_WPoly.Reset();

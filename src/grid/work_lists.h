@@ -6,8 +6,11 @@
 // change meanwhile.
 #pragma once
 
+#include <span>
+
 #include "core/model.h"
 #include "core/table.h"
+#include "geo/calibration.h"
 
 /// A polygon or line during preparation and cutting.
 struct WPoly {
@@ -24,6 +27,10 @@ struct WPt {
     Double Y = 0.0;
     Byte Tag = 0;  // used by the line emitters only
 };
+
+inline Pix To_Pix(const WPt& P) {
+    return {P.X, P.Y};
+}
 
 /// A finished piece, inside one cell.
 struct CPoly {
@@ -70,6 +77,13 @@ inline Int Has_Auto = 0;
 /// Pixel of the self-crossing that was found.
 inline Long Err_PixX = 0;
 inline Long Err_PixY = 0;
+
+/// Adds a polygon with the values of Like to the output lists of a pass.
+void NPoly_Append(const WPoly& Like, std::span<const Pix> Points);
+
+/// Makes the output lists of a pass the new work lists. The output lists are empty then and keep
+/// the memory of the old work lists for the next pass.
+void WPoly_Commit();
 
 /// Empties every list and flag of this file and gives their memory back.
 void Work_Lists_Reset();

@@ -12,11 +12,11 @@
 #include <string_view>
 #include <vector>
 
-bool File_Exists(std::string_view Path);  // a file, not a directory
+bool File_Exists(std::string_view Path);  // a file: no directory, device or pipe
 bool Dir_Exists(std::string_view Path);
 bool Dir_Create(std::string_view Path);  // with its parents; true when it stands at the end
 
-/// Deletes one file. False when there was none or it could not be deleted.
+/// Deletes one file, or a link. False when there was none or it could not be deleted.
 bool File_Delete(std::string_view Path);
 
 /// Copies a file, replacing an older one.
@@ -29,16 +29,20 @@ std::optional<std::string> File_Read(std::string_view Path);
 /// can't write are left out.
 std::vector<std::string> Dir_Files(std::string_view Dir);
 
-/// Paths of the files whose path is Stem followed by text that matches Pattern. In Pattern "*"
-/// stands for any text and "?" for any one character; Stem has no such marks. Case is ignored.
+/// Paths of the files whose path is Stem followed by text that matches Pattern, in order of
+/// their capitals. In Pattern "*" stands for any text and "?" for any one character; in Stem
+/// they are ordinary characters. Case is ignored. Only the directory of Stem is looked at (the
+/// current one when it names none); an empty Stem matches nothing.
 std::vector<std::string> Files_Matching(std::string_view Stem, std::string_view Pattern);
 
 /// A text file that is written from its start to its end.
 ///
 /// In place: the old file goes first, and what is written is there at once. Safe: everything
 /// goes to a temporary file in the same directory, which takes the name at Commit, so the
-/// directory holds the whole old file or the whole new one at any moment. A writer destroyed
-/// without Commit leaves no temporary file and, when safe, the old file untouched.
+/// directory holds the whole old file or the whole new one at any moment. The new one has the
+/// permissions of the old, and where Path is a link, the file behind it is replaced. A file
+/// that this user may not write is not replaced either. A writer destroyed without Commit
+/// leaves no temporary file and, when safe, the old file untouched.
 class File_Writer {
 public:
     enum class Mode { In_Place, Safe };
@@ -55,7 +59,7 @@ public:
         Buffer_.append(Text);
     }
     /// Writes what is left, makes a safe file durable and gives it its name. False when any
-    /// write failed; a safe file is then dropped.
+    /// write failed; a safe file is then dropped. Called again it says the same.
     bool Commit();
 
 private:

@@ -12,12 +12,13 @@
 #include <string_view>
 
 /// The file or directory that Path names, ignoring case where the exact name is absent; the
-/// path it would have when it does not exist. Nothing when it can't exist here: an unknown
-/// drive, or an empty path.
+/// path it would have when it does not exist. "/" divides parts as well, "." and ".." are
+/// resolved, and a path without a root goes from the current directory. Nothing when it can't
+/// exist here: an unknown drive, an empty path, one that holds a zero character.
 std::optional<std::filesystem::path> Native_Path(std::string_view Path);
 
-/// The program's form of a path of the system, made absolute. Nothing when code page 1252
-/// can't write it.
+/// The program's form of a path of the system, made absolute; it ends in "\" where that ended
+/// in a divider. Nothing when code page 1252 can't write it or a name in it holds a "\".
 std::optional<std::string> Program_Path(const std::filesystem::path& Path);
 
 /// The directory part of Path with its final "\", and the rest; "" and Path without a "\".

@@ -1,0 +1,136 @@
+// cli/arguments.cpp - words of the command line to a command.
+#include "cli/arguments.h"
+
+#include <algorithm>
+#include <vector>
+
+const char Cli_Help[] =
+    R"(terrafold-cli - scenery generation without a window
+
+Usage:
+  terrafold-cli generate PROJECT [--app-path DIR] [--language FR|US] [--dry-run]
+  terrafold-cli resave IN OUT
+  terrafold-cli info PROJECT
+  terrafold-cli --help | --version
+
+generate  writes the scenery sources of PROJECT (a .LWM file) and compiles them with
+          the outside tools. Prints one line for each thing that happens, in order:
+              delete PATH             an older output or source was deleted
+              write PATH              a source was written
+              run COMMAND LINE        an outside tool is started
+              message NUMBER TEXT     a message; NUMBER 0 is one without a number
+resave    reads IN and writes it as OUT.
+info      prints counts, extent and outputs of PROJECT as JSON.
+
+Options of generate:
+  --app-path DIR     directory of the outside tools, where the sources go as well
+                     (default: TERRAFOLD_HOME, else the program's own directory if it
+                     can be written, else the user's data directory)
+  --language FR|US   language of the messages (default: as in the settings)
+  --dry-run          starts no outside tool and takes every start as a success
+
+Exit status: 0 all well, 1 a message was shown, 2 wrong usage, 3 the project could
+not be opened.
+)";
+
+namespace {
+
+struct Word_List {
+    std::span<const std::string> Rest;
+    std::vector<std::string> Files;
+
+    bool Empty() const { return Rest.empty(); }
+    std::string Take() {
+        std::string Word = Rest.front();
+        Rest = Rest.subspan(1);
+        return Word;
+    }
+};
+
+std::string Upper_Ascii(std::string Text) {
+    for (char& C : Text)
+        if (C >= 'a' && C <= 'z') C = static_cast<char>(C - 'a' + 'A');
+    return Text;
+}
+
+// The value of an option: the text behind its "=", or the next word.
+bool Take_Value(const std::string& Word, const std::string& Option, Word_List& Words,
+                std::string& Value) {
+    if (Word.rfind(Option + "=", 0) == 0) {
+        Value = Word.substr(Option.size() + 1);
+        return true;
+    }
+    if (Word != Option || Words.Empty()) return false;
+    Value = Words.Take();
+    return true;
+}
+
+void Parse_Generate_Option(const std::string& Word, Word_List& Words, Cli_Arguments& A) {
+    if (Word == "--dry-run") {
+        A.Dry_Run = true;
+    } else if (Take_Value(Word, "--app-path", Words, A.App_Dir)) {
+        if (A.App_Dir.empty()) A.Error = "--app-path needs a directory";
+    } else if (Take_Value(Word, "--language", Words, A.Language)) {
+        A.Language = Upper_Ascii(A.Language);
+        if (A.Language != "FR" && A.Language != "US") A.Error = "--language is FR or US";
+    } else if (Word == "--app-path" || Word == "--language") {
+        A.Error = Word + " needs a value";
+    } else {
+        A.Error = "unknown option " + Word;
+    }
+}
+
+// Files and options behind the command; options are those of generate alone.
+void Parse_Rest(Word_List& Words, Cli_Arguments& A, std::size_t Nb_Files, const char* Names) {
+    bool Options_Ended = false;
+    while (!Words.Empty() && A.Error.empty()) {
+        const std::string Word = Words.Take();
+        const bool Is_Option = !Options_Ended && Word.size() > 1 && Word[0] == '-';
+        if (Is_Option && Word == "--")
+            Options_Ended = true;
+        else if (Is_Option && A.What == Cli_Arguments::Command::Generate)
+            Parse_Generate_Option(Word, Words, A);
+        else if (Is_Option)
+            A.Error = "unknown option " + Word;
+        else
+            Words.Files.push_back(Word);
+    }
+    const bool Any_Empty = std::any_of(Words.Files.begin(), Words.Files.end(),
+                                       [](const auto& F) { return F.empty(); });
+    if (A.Error.empty() && (Words.Files.size() != Nb_Files || Any_Empty))
+        A.Error = std::string("expected ") + Names;
+}
+
+}  // namespace
+
+Cli_Arguments Cli_Parse(std::span<const std::string> Words) {
+    using Command = Cli_Arguments::Command;
+    Cli_Arguments A;
+    if (std::find(Words.begin(), Words.end(), "--help") != Words.end() ||
+        std::find(Words.begin(), Words.end(), "-h") != Words.end())
+        return A;
+    if (Words.empty()) {
+        A.Error = "a command is missing";
+        return A;
+    }
+    Word_List List{.Rest = Words, .Files = {}};
+    const std::string Name = List.Take();
+    if (Name == "--version") {
+        A.What = Command::Version;
+        Parse_Rest(List, A, 0, "nothing behind --version");
+    } else if (Name == "generate") {
+        A.What = Command::Generate;
+        Parse_Rest(List, A, 1, "one PROJECT");
+    } else if (Name == "resave") {
+        A.What = Command::Resave;
+        Parse_Rest(List, A, 2, "IN and OUT");
+    } else if (Name == "info") {
+        A.What = Command::Info;
+        Parse_Rest(List, A, 1, "one PROJECT");
+    } else {
+        A.Error = "unknown command " + Name;
+    }
+    if (List.Files.size() > 0) A.Project = List.Files[0];
+    if (List.Files.size() > 1) A.Target = List.Files[1];
+    return A;
+}

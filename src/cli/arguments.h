@@ -1,0 +1,23 @@
+// cli/arguments.h - what the command line asks for.
+#pragma once
+
+#include <span>
+#include <string>
+
+struct Cli_Arguments {
+    enum class Command { Generate, Resave, Info, Help, Version };
+    Command What = Command::Help;
+    std::string Project;   // the system's path, as it was typed; so are the next two
+    std::string Target;    // of resave
+    std::string App_Dir;   // --app-path; empty when not given
+    std::string Language;  // --language: "FR" or "US"; empty when not given
+    bool Dry_Run = false;
+
+    std::string Error;  // what is wrong with the command line; empty when it is right
+};
+
+/// The meaning of Words, the command line behind the program's name.
+Cli_Arguments Cli_Parse(std::span<const std::string> Words);
+
+/// The help text.
+extern const char Cli_Help[];

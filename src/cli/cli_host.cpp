@@ -1,0 +1,88 @@
+// cli/cli_host.cpp - events as lines, progress as one line of the terminal.
+#include "cli/cli_host.h"
+
+#include <chrono>
+
+#include "platform/terminal.h"
+#include "platform/text1252.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// Often enough to look alive, seldom enough to cost nothing.
+constexpr auto Progress_Interval = std::chrono::milliseconds(100);
+
+bool Progress_Is_Due() {
+    static Clock::time_point Next;
+    const Clock::time_point Now = Clock::now();
+    if (Now < Next) return false;
+    Next = Now + Progress_Interval;
+    return true;
+}
+
+// TEXT with every line end as one blank.
+std::string On_One_Line(std::string_view Text) {
+    std::string Line;
+    for (std::size_t I = 0; I < Text.size(); ++I) {
+        if (Text[I] == '\r' && I + 1 < Text.size() && Text[I + 1] == '\n') continue;
+        Line += Text[I] == '\r' || Text[I] == '\n' ? ' ' : Text[I];
+    }
+    return Line;
+}
+
+}  // namespace
+
+Cli_Host::Cli_Host(std::FILE* Out, bool Dry_Run)
+    : Out_(Out), Dry_Run_(Dry_Run), Shows_Progress_(Error_Is_Terminal()) {}
+
+Cli_Host::~Cli_Host() {
+    Clear_Progress();
+    std::fflush(Out_);
+}
+
+void Cli_Host::Clear_Progress() {
+    if (!Progress_Is_Up_) return;
+    std::fputs("\r\x1b[K", stderr);
+    Progress_Is_Up_ = false;
+}
+
+void Cli_Host::Print(std::string_view Line) {
+    Clear_Progress();
+    std::string Utf8 = To_Utf8(On_One_Line(Line));
+    Utf8 += '\n';
+    std::fwrite(Utf8.data(), 1, Utf8.size(), Out_);
+    std::fflush(Out_);
+}
+
+Int Cli_Host::Show_Box(const Box& B) {
+    Any_Message_ = true;
+    Print("message " + std::to_string(B.Num) + " " + B.Text);
+    return Silent_Host::Show_Box(B);
+}
+
+Form_End Cli_Host::Run_Form(std::string_view Form) {
+    return Form == "Frm_V24" ? Form_End::Ok : Form_End::Absent;
+}
+
+void Cli_Host::Set_Caption(std::string_view Control, std::string_view Text) {
+    if (!Shows_Progress_) return;
+    if (Control == "LCompileNom") Name_ = Text;
+    if (Control == "LCompile") Stage_ = Text;
+}
+
+void Cli_Host::Refresh() {
+    if (!Shows_Progress_ || !Progress_Is_Due()) return;
+    std::fprintf(stderr, "\r\x1b[K%s  %s", To_Utf8(Name_).c_str(), To_Utf8(Stage_).c_str());
+    std::fflush(stderr);
+    Progress_Is_Up_ = true;
+}
+
+bool Cli_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
+    Print("run " + std::string(Cmd_Line));
+    return Dry_Run_ || Silent_Host::Run_Tool(Cmd_Line, Show_Mode);
+}
+
+void Cli_Host::Note_File(File_Event Event, std::string_view Path) {
+    Print((Event == File_Event::Deleted ? "delete " : "write ") + std::string(Path));
+}

@@ -1,0 +1,110 @@
+// cli/commands.cpp - what each command does with the program.
+#include "cli/commands.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+
+#include "cli/arguments.h"
+#include "cli/cli_host.h"
+#include "cli/project_info.h"
+#include "core/lifecycle.h"
+#include "core/model.h"
+#include "core/program.h"
+#include "core/project_file.h"
+#include "gen/driver.h"
+#include "platform/paths.h"
+#include "platform/program_dir.h"
+#include "platform/settings_file.h"
+
+namespace {
+
+constexpr int All_Well = 0;
+constexpr int Message_Shown = 1;
+constexpr int Wrong_Usage = 2;
+constexpr int Not_Opened = 3;
+
+void Complain(const std::string& What) {
+    std::fprintf(stderr, "terrafold-cli: %s\n", What.c_str());
+}
+
+// The program's form of a path that was typed.
+std::optional<std::string> Typed_Path(const std::string& Typed) {
+    const std::u8string Utf8(Typed.begin(), Typed.end());
+    const auto Path = Program_Path(std::filesystem::path(Utf8));
+    if (!Path) Complain("the path " + Typed + " has characters that the program cannot write");
+    return Path;
+}
+
+// The directory that the program works in, ready for use.
+bool Set_Up_App_Path(const Cli_Arguments& A) {
+    const auto Dir = A.App_Dir.empty() ? Find_App_Dir() : Typed_Path(A.App_Dir);
+    if (!Dir || !Prepare_App_Dir(*Dir)) {
+        Complain(
+            "no directory for resources and sources can be written" +
+            (A.App_Dir.empty() ? std::string(": give one with --app-path") : ": " + A.App_Dir));
+        return false;
+    }
+    Set_App_Path(*Dir);
+    Language =
+        A.Language.empty() ? Setting_Read(Ini_File, "Terrafold", "Language", "FR") : A.Language;
+    return true;
+}
+
+bool Open_Typed(const std::string& Typed) {
+    const auto Path = Typed_Path(Typed);
+    return Path && Load_Project(*Path);
+}
+
+int Generate(const Cli_Arguments& A) {
+    Cli_Host Host(stdout, A.Dry_Run);
+    const Host_Scope Scope(Host);
+    Gen_Install();
+    if (!Open_Typed(A.Project)) return Not_Opened;
+    Cmd_API();
+    return Host.Any_Message() ? Message_Shown : All_Well;
+}
+
+int Resave(const Cli_Arguments& A) {
+    Cli_Host Host(stdout, true);
+    const Host_Scope Scope(Host);
+    if (!Open_Typed(A.Project)) return Not_Opened;
+    const auto Target = Typed_Path(A.Target);
+    if (!Target) return Wrong_Usage;
+    const bool Saved = Save_Project(1, *Target);
+    return Saved && !Host.Any_Message() ? All_Well : Message_Shown;
+}
+
+int Info(const Cli_Arguments& A) {
+    Cli_Host Host(stderr, true);
+    const Host_Scope Scope(Host);
+    if (!Open_Typed(A.Project)) return Not_Opened;
+    std::fputs(Project_Info().c_str(), stdout);
+    return Host.Any_Message() ? Message_Shown : All_Well;
+}
+
+}  // namespace
+
+int Cli_Run(const std::vector<std::string>& Words) {
+    using Command = Cli_Arguments::Command;
+    const Cli_Arguments A = Cli_Parse(Words);
+    if (!A.Error.empty()) {
+        Complain(A.Error + "\nTry terrafold-cli --help");
+        return Wrong_Usage;
+    }
+    if (A.What == Command::Help || A.What == Command::Version) {
+        std::fputs(A.What == Command::Help ? Cli_Help : "terrafold-cli 5.0\n", stdout);
+        return All_Well;
+    }
+    Program_Reset();
+    const bool Has_Home = Set_Up_App_Path(A);
+    if (!Has_Home && A.What == Command::Generate) return Wrong_Usage;
+    switch (A.What) {
+        case Command::Generate:
+            return Generate(A);
+        case Command::Resave:
+            return Resave(A);
+        default:
+            return Info(A);
+    }
+}

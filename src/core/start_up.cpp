@@ -1,0 +1,131 @@
+// core/start_up.cpp - the start of the program and its end.
+#include <optional>
+
+#include "core/host.h"
+#include "core/lifecycle.h"
+#include "core/messages.h"
+#include "core/model_ops.h"
+#include "core/program.h"
+#include "core/settings.h"
+#include "core/view_calls.h"
+#include "platform/files.h"
+#include "platform/instance_lock.h"
+#include "platform/text1252.h"
+
+namespace {
+
+constexpr std::size_t Palette_Bytes = std::size_t{256} * 3;
+constexpr std::size_t Shortest_Command_Line = 3;
+constexpr Int Fewest_Bits_Per_Pixel = 8;
+
+// Held from the start of the program to its end.
+std::optional<Instance_Lock> Lock;
+
+bool Is_First_Instance() {
+    if (!Lock) Lock.emplace();
+    if (Lock->Take()) return true;
+    Instance_Release();
+    Plain_Box("This program is already running");
+    return false;
+}
+
+bool Display_Serves() {
+    const Display_Info Screen = The_Host().Display();
+    if (Screen.Bits_Per_Pixel < Fewest_Bits_Per_Pixel) {
+        Msg_Show(23);
+        return false;
+    }
+    if (!Screen.Has_Raster) {
+        Msg_Show(24);
+        return false;
+    }
+    return true;
+}
+
+// Without the file, which belongs to the simulator's world, all colours stay black.
+void Read_Palette() {
+    Pal_Fs5.fill({});
+    const auto Bytes = File_Read(App_Path + "\\Fs5.pal");
+    if (!Bytes || Bytes->size() != Palette_Bytes) return;
+    const auto At = [&](std::size_t I) { return static_cast<Byte>((*Bytes)[I]); };
+    for (std::size_t I = 0; I < Pal_Fs5.size(); ++I)
+        Pal_Fs5[I] = {.Blue = At(3 * I + 2), .Green = At(3 * I + 1), .Red = At(3 * I), .Zero = 0};
+}
+
+void Set_Up_Main_Form() {
+    Tile_Size = 2000;
+    Grid_Colour = 0xC0C0C0;
+    Grid_Colour_Index = 2;
+    The_Host().Set_Caption("Frm", Program_Title);
+    Nom_Projet.clear();
+    Call(The_View.Apply_Language);
+    Call(The_View.Tool_Bar_Layout);
+    Call(The_View.Route_Reset);
+    Disable_Project_Cmds();
+    Init_Tables();
+    Call(The_View.View_Reset);
+}
+
+// The program is of no use before its language and the simulator's directory are confirmed;
+// only a host without the dialog goes on.
+void Confirm_Parameters() {
+    while (Fl1Fois == 0)
+        if (The_Host().Run_Form("Frm_PGen") == Form_End::Absent) return;
+}
+
+void Open_Command_Line_Project() {
+    if (Cmd_File.empty()) return;
+    The_Host().Set_Pointer(Pointer_Shape::Hourglass);
+    Open_Project(Cmd_File);
+    The_Host().Set_Pointer(Pointer_Shape::Normal);
+}
+
+}  // namespace
+
+void Set_App_Path(std::string_view App_Dir) {
+    if (App_Dir.ends_with('\\')) App_Dir.remove_suffix(1);
+    App_Path = std::string(App_Dir);  // App_Dir may be a view of it
+    Msg_File = App_Path + "\\Resource\\FicErr.txt";
+    Ini_File = App_Path + "\\Resource\\Terrafold.Ini";
+}
+
+std::string Command_Line_File(std::string_view Command_Line) {
+    std::string_view Line = Trim(Command_Line);
+    if (Line.size() < Shortest_Command_Line) return {};
+    if (Line.front() == '"') {
+        if (Line.back() != '"') return {};
+        Line = Line.substr(1, Line.size() - 2);
+    }
+    return File_Exists(Line) ? std::string(Line) : std::string();
+}
+
+bool Program_Start(std::string_view Command_Line, std::string_view App_Dir) {
+    Edit_On = 0;
+    if (!Is_First_Instance()) return false;
+    Cmd_File = Command_Line_File(Command_Line);
+    Set_App_Path(App_Dir);
+    if (!Display_Serves()) {
+        Instance_Release();
+        return false;
+    }
+    Read_Palette();
+    Read_Settings();
+    Set_Up_Main_Form();
+    Confirm_Parameters();
+    Open_Command_Line_Project();
+    return true;
+}
+
+void Program_End() {
+    Call(The_View.Tiles_Remove);
+    Call(The_View.Ima_Unload);
+    Call(The_View.View_Clear);
+    Model_Reset();
+    Projet_Open = 0;
+    Edit_On = 0;
+    Instance_Release();
+}
+
+void Instance_Release() {
+    Lock.reset();
+}

@@ -1,0 +1,115 @@
+// gen/driver.cpp - the checks, the deletions and the order of a generation.
+#include "gen/driver.h"
+
+#include <algorithm>
+#include <array>
+#include <unordered_map>
+
+#include "core/host.h"
+#include "core/messages.h"
+#include "core/model.h"
+#include "core/view_calls.h"
+#include "gen/emit_excl.h"
+#include "gen/source_frame.h"
+
+namespace {
+
+struct Emitter {
+    void (*Run)();
+    bool FS_Only;  // CFS2 does not know this kind of output
+};
+
+constexpr std::array The_Emitters{
+    Emitter{Emit_Excl, false},
+};
+
+bool Is_Outside(const Pt& P, const Ima& M) {
+    return P.X < M.X1 || P.X > M.X2 || P.Y < M.Y1 || P.Y > M.Y2;
+}
+
+bool Any_Outside(const Obj& O, const Ima& M) {
+    if (O.Nb_Pts == 0) return false;
+    for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
+        if (Is_Outside(Tab_Pt[P], M)) return true;
+        if (P == O.Last_Pt) return false;
+    }
+}
+
+// Whether a linked polygon has a point outside a texture of its number. Records of a number are
+// looked up, since both tables may be long.
+bool Any_Polygon_Outside() {
+    std::unordered_multimap<Int, const Ima*> By_Num;
+    for (const Ima& M : Tab_Ima.Rows()) By_Num.emplace(M.Num, &M);
+    for (Long I = First_Obj; I <= Nb_Obj; ++I) {
+        const Obj& O = Tab_Obj[I];
+        if (O.Attr.SurfShore >= 2 || O.Attr.Link_Ima == 0) continue;
+        const auto [First, Last] = By_Num.equal_range(O.Attr.Link_Ima);
+        if (std::any_of(First, Last, [&](const auto& M) { return Any_Outside(O, *M.second); }))
+            return true;
+    }
+    return false;
+}
+
+bool Is_Unlinked_Special(const Obj& O) {
+    const Attr& A = O.Attr;
+    return A.SurfShore < 2 && A.LWM_VTP2 == 2 && A.VTP1_SpecNor == 0 && A.Link_Ima == 0;
+}
+
+bool Special_Polygons_Are_Linked() {
+    for (Long I = First_Obj; I <= Nb_Obj; ++I) {
+        if (!Is_Unlinked_Special(Tab_Obj[I])) continue;
+        Msg_Show(131);
+        return false;
+    }
+    return true;
+}
+
+void Delete_Older_Outputs() {
+    if (!NameBglExcl.empty()) Output_Delete(NameBglExcl);
+    const std::string Stem = Bgl_Stem();
+    if (Stem.empty()) return;
+    for (const char* Pattern : {"_*.bgl", "_****.bgl"})
+        for (const std::string& Path : Files_Matching(Stem, Pattern)) Output_Delete(Path);
+}
+
+void Show_Progress(bool On) {
+    The_Host().Set_Visible("Fram_Compile", On);
+    The_Host().Refresh();
+}
+
+}  // namespace
+
+void Tex_Link_Check() {
+    Poly_Out_Of_Tex = 0;
+    if (Nb_Ima != 0 && Nb_Obj >= First_Obj && Any_Polygon_Outside()) {
+        Msg_Show(130);
+        Poly_Out_Of_Tex = 1;
+        return;
+    }
+    Call(The_View.Ima_Clear);
+    The_Host().Set_Pointer(Pointer_Shape::Cross);
+}
+
+void Mode_Leave() {
+    Call(The_View.Route_Leave);
+    Tex_Link_Check();
+    The_Host().Set_Visible("LPtGrid", false);
+}
+
+void Cmd_API() {
+    Mode_Leave();
+    if (Poly_Out_Of_Tex == 1) return;
+    if (!Special_Polygons_Are_Linked()) return;
+    Call(The_View.View_Redraw);
+    The_Host().Set_Caption("LCompileNom", "");
+    Show_Progress(true);
+    Delete_Older_Outputs();
+    for (const Emitter& E : The_Emitters)
+        if (!E.FS_Only || FS_CFS == 0) E.Run();
+    The_Host().Set_Pointer(Pointer_Shape::Normal);
+    Show_Progress(false);
+}
+
+void Gen_Install() {
+    The_View.Mode_Leave = Mode_Leave;
+}

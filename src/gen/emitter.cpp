@@ -1,0 +1,33 @@
+// gen/emitter.cpp - what emitters ask before they begin, and how they end.
+#include "gen/emitter.h"
+
+#include "core/messages.h"
+#include "core/model.h"
+#include "gen/source_frame.h"
+#include "geo/calibration.h"
+
+bool Any_Polygon(Int Technique) {
+    for (Long I = First_Obj; I <= Nb_Obj; ++I) {
+        const Obj& O = Tab_Obj[I];
+        const bool Polygon = O.Attr.SurfShore == 0 || O.Attr.SurfShore == 1;
+        if (Polygon && O.Attr.LWM_VTP2 == Technique && O.Nb_Pts >= 2) return true;
+    }
+    return false;
+}
+
+bool Can_Convert() {
+    if (Calibration_Can_Serve()) return true;
+    Msg_Show(7);
+    return false;
+}
+
+std::string Bgl_Path(std::string_view Suffix) {
+    return Bgl_Stem() + std::string(Suffix) + ".bgl";
+}
+
+bool Compile_Source(std::string_view Source, std::string_view Bgl, std::string_view Failure) {
+    if (!Bgl_Stem().empty()) Output_Delete(Bgl);
+    if (Run_BGLC(Source, Bgl)) return true;
+    Plain_Box(Failure);
+    return false;
+}

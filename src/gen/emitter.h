@@ -1,0 +1,41 @@
+// gen/emitter.h - the steps that emitters have in common.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/host.h"
+#include "core/numbers.h"
+#include "grid/work_lists.h"
+
+/// Shows the hourglass for the life of this object, then the normal pointer.
+class Hourglass {
+public:
+    Hourglass() { The_Host().Set_Pointer(Pointer_Shape::Hourglass); }
+    ~Hourglass() { The_Host().Set_Pointer(Pointer_Shape::Normal); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+};
+
+/// Empties the work lists at the end of its life.
+class Work_Lists_Scope {
+public:
+    Work_Lists_Scope() = default;
+    ~Work_Lists_Scope() { Work_Lists_Reset(); }
+    Work_Lists_Scope(const Work_Lists_Scope&) = delete;
+    Work_Lists_Scope& operator=(const Work_Lists_Scope&) = delete;
+};
+
+/// Whether the project has a polygon of two points or more of a technique (LWM_VTP2).
+bool Any_Polygon(Int Technique);
+
+/// Whether map pixels can be converted to cells. Message 7 when the calibration does not allow
+/// it; an emitter with something to convert then ends.
+bool Can_Convert();
+
+/// Path of an output: the stem of NameBgl, Suffix, ".bgl".
+std::string Bgl_Path(std::string_view Suffix);
+
+/// Deletes an older Bgl and compiles Source to it. When the assembler cannot be started, a plain
+/// box shows Failure and the result is false.
+bool Compile_Source(std::string_view Source, std::string_view Bgl, std::string_view Failure);

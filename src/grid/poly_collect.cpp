@@ -1,0 +1,122 @@
+// grid/poly_collect.cpp - cleaning, turning, and the test for outlines that cross themselves.
+#include "grid/poly_collect.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "core/model.h"
+#include "grid/edge_tree.h"
+#include "grid/turn.h"
+
+namespace {
+
+bool Is_Taken(const Obj& O, Int Mode) {
+    const Int Technique = Mode == 0 ? 0 : Mode == 1 ? 2 : 1;
+    return (O.Attr.SurfShore == 0 || O.Attr.SurfShore == 1) && O.Nb_Pts >= 2 &&
+           O.Attr.LWM_VTP2 == Technique;
+}
+
+void Read_Chain(const Obj& O, std::vector<Pix>& Line) {
+    Line.clear();
+    for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
+        Line.push_back({Tab_Pt[P].X, Tab_Pt[P].Y});
+        if (P == O.Last_Pt) return;
+    }
+}
+
+// Of equal neighbours the last stays; at the closing edge the first.
+void Drop_Repeats(std::vector<Pix>& Line) {
+    std::size_t Kept = 0;
+    for (std::size_t I = 1; I < Line.size(); ++I) {
+        if (!(Line[I] == Line[Kept])) ++Kept;
+        Line[Kept] = Line[I];
+    }
+    while (Kept > 0 && Line[Kept] == Line[0]) --Kept;
+    Line.resize(Kept + 1);
+}
+
+// A point goes when the path through it from the point kept before it makes no turn. The point
+// behind the last one dropped may escape the test, as the walk ends where the count falls to it.
+void Drop_Straight(std::vector<Pix>& Line) {
+    const std::size_t Nb = Line.size();
+    const Pix First = Line[0];
+    const auto At = [&](std::size_t I) { return I < Nb ? Line[I] : First; };
+    std::size_t Kept = 1;  // points kept
+    std::size_t Next = 1;  // the point in question
+    std::size_t Left = Nb;
+    while (true) {
+        if (Turn(Line[Kept - 1], At(Next), At(Next + 1)) == 0) {
+            ++Next;
+            --Left;
+            if (Kept + 1 >= Left) break;
+        } else {
+            if (Kept + 1 == Left) break;
+            Line[Kept++] = Line[Next++];
+        }
+    }
+    while (Next < Nb) Line[Kept++] = Line[Next++];
+    Line.resize(Kept);
+    if (Turn(Line[Kept - 1], Line[0], Line[1]) == 0) Line.erase(Line.begin());
+}
+
+void WPoly_Append(const Obj& O, std::span<const Pix> Line) {
+    const Long First = Nb_WPt + 1;
+    for (const Pix P : Line) Tab_WPt.Append({.X = P.X, .Y = P.Y});
+    Tab_WPoly.Append({.Num = O.Num,
+                      .Attr = &O.Attr,
+                      .First = First,
+                      .Last = Nb_WPt,
+                      .Nb = static_cast<Long>(Line.size())});
+}
+
+}  // namespace
+
+Int Poly_Orientation(std::span<const Pix> Outline) {
+    const std::size_t N = Outline.size();
+    std::size_t West = 0;
+    for (std::size_t I = 1; I < N; ++I)
+        if (Outline[I].X < Outline[West].X) West = I;
+    const Pix Before = Outline[(West + N - 1) % N], After = Outline[(West + 1) % N];
+    return Cross_Z(Before, Outline[West], After) > 0.0 ? 1 : 0;
+}
+
+void Poly_Collect(Int Mode) {
+    Tab_WPoly.Dimension(Nb_Obj);
+    Tab_WPt.Dimension(Nb_Pt);
+    Long Nb_Poly = 0, Nb_Points = 0;
+    for (Long I = First_Obj; I <= Nb_Obj; ++I)
+        if (Is_Taken(Tab_Obj[I], Mode)) {
+            ++Nb_Poly;
+            Nb_Points += Tab_Obj[I].Nb_Pts;
+        }
+    Tab_WPoly.Reserve(Nb_Poly);
+    Tab_WPt.Reserve(std::min(Nb_Points, Nb_Pt));
+    std::vector<Pix> Line;
+    for (Long I = First_Obj; I <= Nb_Obj; ++I) {
+        if (!Is_Taken(Tab_Obj[I], Mode)) continue;
+        Read_Chain(Tab_Obj[I], Line);
+        Drop_Repeats(Line);
+        if (Line.size() >= 3) Drop_Straight(Line);
+        if (Line.size() < 2) continue;
+        if (Line.size() >= 3 && Poly_Orientation(Line) == 0) std::reverse(Line.begin(), Line.end());
+        WPoly_Append(Tab_Obj[I], Line);
+    }
+}
+
+Int Poly_Self_Cross(bool Closed) {
+    std::vector<Box_Pix> Memory;
+    const std::span<const WPt> All = Tab_WPt.Rows();
+    for (const WPoly& W : Tab_WPoly.Rows()) {
+        if (W.Last - W.First < 3) continue;
+        Memory.resize(std::max(Memory.size(), Edge_Tree::Size(W.Nb)));
+        const Edge_Tree Tree(
+            All.subspan(static_cast<std::size_t>(W.First - 1), static_cast<std::size_t>(W.Nb)),
+            Closed, Memory);
+        const Edge_Meet M = First_Self_Meet(Tree, Closed);
+        if (!M.Found) continue;
+        Err_PixX = Round_Lng(M.At.X);
+        Err_PixY = Round_Lng(M.At.Y);
+        return 3;
+    }
+    return 0;
+}

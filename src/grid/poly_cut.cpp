@@ -1,0 +1,129 @@
+// grid/poly_cut.cpp - each polygon along its own lines.
+//
+// A line changes only polygons that it touches, and the pieces of a polygon stay in its place.
+// So each polygon is cut along all its lines before the next one is looked at, with the same
+// result as if each line were taken across all polygons in turn.
+#include "grid/poly_cut.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "core/host.h"
+#include "grid/convex_cut.h"
+#include "grid/grid_lines.h"
+
+namespace {
+
+// Passes in their order: all parallels, then all meridians. No pass fails at first.
+constexpr std::size_t No_Pass = static_cast<std::size_t>(-1);
+
+class Grid_Cutter {
+public:
+    Grid_Cutter(const Grid_Lines& Lines, std::size_t End_Pass)
+        : Lines_(Lines), End_Pass_(End_Pass) {}
+
+    // The pieces of a polygon after all passes before End_Pass, into the output lists.
+    void Cut(const WPoly& W);
+
+    // The earliest pass that could not be done, or No_Pass.
+    std::size_t Failed_Pass() const { return Failed_; }
+
+private:
+    struct Waiting {
+        std::size_t Nb;    // its points are the last ones of the stack
+        std::size_t Line;  // the next line that may cut it
+    };
+
+    template <typename Axis>
+    void Cut_Along(const Axis& A, std::size_t First_Pass, std::span<const Pix> Polygon);
+    template <typename Axis>
+    Line_Range Lines_Of(const Axis& A, std::span<const Pix> Polygon) const;
+    void Done(const Parallels&, std::span<const Pix> Piece) {
+        Cut_Along(Meridians{Lines_.X, Lines_.TolX, Lines_.TolY}, Lines_.Y.size(), Piece);
+    }
+    void Done(const Meridians&, std::span<const Pix> Piece) { NPoly_Append(*Source_, Piece); }
+
+    const Grid_Lines& Lines_;
+    std::size_t End_Pass_;
+    std::size_t Failed_ = No_Pass;
+    const WPoly* Source_ = nullptr;
+    std::vector<Pix> Points_;
+};
+
+void Grid_Cutter::Cut(const WPoly& W) {
+    Source_ = &W;
+    Points_.clear();
+    for (Long I = W.First; I <= W.Last; ++I) Points_.push_back(To_Pix(Tab_WPt[I]));
+    Cut_Along(Parallels{Lines_.Y, Lines_.TolX, Lines_.TolY}, 0, Points_);
+}
+
+// The lines that a point of the polygon is on or that have points on both sides.
+template <typename Axis>
+Line_Range Grid_Cutter::Lines_Of(const Axis& A, std::span<const Pix> Polygon) const {
+    Double Low = A.Across(Polygon[0]), High = Low;
+    for (const Pix P : Polygon) {
+        Low = std::min(Low, A.Across(P));
+        High = std::max(High, A.Across(P));
+    }
+    return Lines_Between(A.Lines, Low - A.Tol, High + A.Tol);
+}
+
+template <typename Axis>
+void Grid_Cutter::Cut_Along(const Axis& A, std::size_t First_Pass, std::span<const Pix> Polygon) {
+    const Line_Range Range = Lines_Of(A, Polygon);
+    if (Range.First == Range.End) {
+        Done(A, Polygon);
+        return;
+    }
+    std::vector<Pix> Stack(Polygon.begin(), Polygon.end());
+    std::vector<Waiting> Open{{Polygon.size(), Range.First}};
+    std::vector<Pix> Piece;
+    Two_Pieces Two;
+    while (!Open.empty()) {
+        auto [Nb, Line] = Open.back();
+        Open.pop_back();
+        const auto First = Stack.end() - static_cast<std::ptrdiff_t>(Nb);
+        Piece.assign(First, Stack.end());
+        Stack.erase(First, Stack.end());
+        const Line_Range Own = Lines_Of(A, Piece);
+        Cut_Result Result = Cut_Result::Whole;
+        for (Line = std::max(Line, Own.First); Line < Own.End && Result == Cut_Result::Whole;
+             ++Line) {
+            if (First_Pass + Line >= End_Pass_) break;
+            Result = Convex_Cut(A, A.Lines[Line], Piece, Two);
+        }
+        if (Result == Cut_Result::Whole) {
+            Done(A, Piece);
+        } else if (Result == Cut_Result::Two) {
+            for (const auto* Part : {&Two.Second, &Two.First}) {
+                Stack.insert(Stack.end(), Part->begin(), Part->end());
+                Open.push_back({Part->size(), Line});
+            }
+        } else {
+            // No pass from this one on counts; an earlier one may fail yet.
+            Failed_ = End_Pass_ = First_Pass + Line - 1;
+        }
+    }
+}
+
+std::size_t Cut_All(const Grid_Lines& Lines, std::size_t End_Pass) {
+    Tab_NPoly.Dimension(Nb_WPoly);
+    Tab_NPt.Dimension(Nb_WPt);
+    Grid_Cutter Cutter(Lines, End_Pass);
+    for (const WPoly& W : Tab_WPoly.Rows()) Cutter.Cut(W);
+    return Cutter.Failed_Pass();
+}
+
+}  // namespace
+
+void Poly_Cut_Cells(Int Mode) {
+    The_Host().Set_Caption("LCompileNom", "Lod8/13 cut");
+    The_Host().Refresh();
+    const Grid_Lines Lines = Grid_Lines_Of(Mode);
+    std::size_t End_Pass = No_Pass;
+    for (std::size_t Failed = 0; (Failed = Cut_All(Lines, End_Pass)) != No_Pass;) End_Pass = Failed;
+    WPoly_Commit();
+    if (End_Pass == No_Pass) return;
+    Plain_Box(End_Pass < Lines.Y.size() ? "Anormal Lat decoupe LOD13_8"
+                                        : "Anormal Lon decoupe LOD13_8");
+}

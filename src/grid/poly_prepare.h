@@ -1,0 +1,23 @@
+// grid/poly_prepare.h - from the drawn polygons to pieces that lie in one cell each.
+//
+// An emitter calls Poly_Prepare and, when Has_Imbric or Has_Auto is set after it, goes on to
+// Poly_To_Cells. It resets the lists at its end (Work_Lists_Reset).
+#pragma once
+
+#include "grid/poly_collect.h"
+#include "grid/poly_cut.h"
+#include "grid/poly_nesting.h"
+#include "grid/poly_split.h"
+#include "grid/work_lists.h"
+
+/// Fills Tab_WPoly and Tab_WPt with the final pieces of the polygons of a technique: 0 mask
+/// polygons on the Cell grid, 2 textured polygons on the Area grid, 1 the third technique. When
+/// an outline crosses itself (message 121) or two cross each other (message 122), or when there
+/// are none, Has_Imbric and Has_Auto are both 0.
+void Poly_Prepare(Int Mode);
+
+/// Gives each piece of Tab_WPoly its cell, its points their local coordinates (Mode 2 those of
+/// the Area), drops pieces that have shrunk to nothing, and sorts: cells from north to south and
+/// from west to east, nesting groups inside a cell, outermost polygons first. Fills Tab_CPoly and
+/// Tab_CPt and empties Tab_WPoly and Tab_WPt.
+void Poly_To_Cells(Int Mode);

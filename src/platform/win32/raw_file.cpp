@@ -1,0 +1,63 @@
+// platform/win32/raw_file.cpp - files as handles.
+#include "platform/raw_file.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+HANDLE Handle_Of(std::intptr_t Value) {
+    return reinterpret_cast<HANDLE>(Value);
+}
+
+}  // namespace
+
+bool Raw_File::Create(const fs::path& Path) {
+    Close();
+    const HANDLE Made = CreateFileW(Path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    Handle_ = reinterpret_cast<std::intptr_t>(Made);  // INVALID_HANDLE_VALUE is -1
+    return Is_Open();
+}
+
+// A new file inherits the rights of its directory, as the old one did.
+void Raw_File::Take_Rights_Of(const fs::path&) {}
+
+bool Raw_File::Write(std::string_view Bytes) {
+    while (!Bytes.empty()) {
+        const auto Part = static_cast<DWORD>(std::min<std::size_t>(Bytes.size(), 1U << 24));
+        DWORD Done = 0;
+        if (WriteFile(Handle_Of(Handle_), Bytes.data(), Part, &Done, nullptr) == 0 || Done == 0)
+            return false;
+        Bytes.remove_prefix(Done);
+    }
+    return true;
+}
+
+bool Raw_File::Sync() {
+    return FlushFileBuffers(Handle_Of(Handle_)) != 0;
+}
+
+bool Raw_File::Close() {
+    if (!Is_Open()) return true;
+    const HANDLE Open = Handle_Of(Handle_);
+    Handle_ = None;
+    return CloseHandle(Open) != 0;
+}
+
+bool File_Replaceable(const fs::path& Path) {
+    const DWORD Attributes = GetFileAttributesW(Path.c_str());
+    if (Attributes == INVALID_FILE_ATTRIBUTES) return GetLastError() == ERROR_FILE_NOT_FOUND;
+    return (Attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) == 0;
+}
+
+bool File_Replace(const fs::path& From, const fs::path& To) {
+    return MoveFileExW(From.c_str(), To.c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+// MOVEFILE_WRITE_THROUGH has seen to it.
+void Dir_Sync(const fs::path&) {}

@@ -1,0 +1,11 @@
+// tests/geo/test_metres.cpp - degrees as metres.
+#include "geo/metres.h"
+
+#include <gtest/gtest.h>
+
+TEST(Metres, OfDegrees) {
+    EXPECT_EQ(Deg_Lat_To_Metres(2.0), 222329.5);
+    EXPECT_EQ(Deg_Lon_To_Metres(0.0, 0.5), 55659.722);
+    EXPECT_NEAR(Deg_Lon_To_Metres(60.0, 1.0), 55659.722, 1e-6) << "half as long at 60 degrees";
+    EXPECT_NEAR(Deg_Lon_To_Metres(-60.0, 1.0), 55659.722, 1e-6);
+}

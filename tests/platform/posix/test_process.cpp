@@ -1,0 +1,168 @@
+// tests/platform/posix/test_process.cpp - starting tools; shell scripts stand in for them.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+
+#include "platform/posix/command_line.h"
+#include "platform/posix/env_scope.h"
+#include "platform/process.h"
+#include "support/temp_dir.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+class Process : public testing::Test {
+protected:
+    // A program that puts its arguments, each in brackets, into the file "told".
+    void Put_Tool(const char* Name, std::string_view Head = "#!/bin/sh\n") const {
+        Dir.Write(Name, std::string(Head) + "for A in \"$@\"; do printf '[%s]' \"$A\"; done >'" +
+                            Dir.Native("told").string() + "'\n");
+        fs::permissions(Dir.Native(Name), fs::perms(0755));
+    }
+    // What the tool was told, "-" when it did not run.
+    std::string Run(const std::string& Cmd_Line) const {
+        fs::remove(Dir.Native("told"));
+        const bool Started = Process_Run(Cmd_Line, true);
+        const bool Ran = Dir.Has("told");
+        EXPECT_EQ(Started, Ran) << Cmd_Line;
+        return Ran ? Dir.Read("told") : "-";
+    }
+
+    const Temp_Dir Dir;
+    const Env_Scope Prefix_{"WINEPREFIX", Dir.Native("prefix").string()};
+};
+
+}  // namespace
+
+TEST(Arguments, QuotesAndBackslashes) {
+    const struct {
+        const char* Text;
+        Words Args;
+    } Cases[] = {
+        {"", {}},
+        {"  a\t b ", {"a", "b"}},
+        {R"("a b" c)", {"a b", "c"}},
+        {R"(x"y z"w)", {"xy zw"}},
+        {R"("" a)", {"", "a"}},
+        {R"("C:\dir\file" \x\)", {R"(C:\dir\file)", R"(\x\)"}},
+        {R"("C:\dir\\" b)", {R"(C:\dir\)", "b"}},
+        {R"("C:\dir\" b)", {R"(C:\dir" b)"}},
+        {R"(\"a \\\"b)", {R"("a)", R"(\"b)"}},
+        {R"("say ""hi""")", {R"(say "hi")"}},
+        {R"("never closed)", {"never closed"}},
+    };
+    for (const auto& Case : Cases) EXPECT_EQ(Parse_Arguments(Case.Text), Case.Args) << Case.Text;
+}
+
+TEST_F(Process, TheNameEndsWhereItNamesAFile) {
+    Put_Tool("My Tools/bglc.exe");
+    const std::string Tool = Dir.Path("my tools\\BGLC.exe");
+    EXPECT_EQ(Run(Tool + "  \"one two\" three"), "[one two][three]") << "blanks, no quotes";
+    EXPECT_EQ(Run("\"" + Tool + "\" a"), "[a]");
+    EXPECT_EQ(Run(Dir.Path("My Tools\\bglc") + " a"), "[a]") << ".exe is added";
+    EXPECT_EQ(Run("  " + Tool), "");
+    EXPECT_EQ(Run("\"" + Tool), "") << "a quote that stays open";
+    Put_Tool("My");
+    EXPECT_EQ(Run(Tool + " a"), "[tools\\BGLC.exe][a]") << "the first name that is a file";
+}
+
+TEST_F(Process, WhatCannotBeStartedIsTold) {
+    EXPECT_FALSE(Process_Run("", true));
+    EXPECT_FALSE(Process_Run("  \t", true));
+    EXPECT_FALSE(Process_Run("\"\"", true));
+    EXPECT_FALSE(Process_Run(Dir.Path("none.exe") + " a", true));
+    EXPECT_FALSE(Process_Run("Q:\\bglc.exe a", true));
+    EXPECT_FALSE(Process_Run(Dir.Path() + " a", true)) << "a directory";
+    Put_Tool("plain.exe");
+    fs::permissions(Dir.Native("plain.exe"), fs::perms(0644));
+    EXPECT_EQ(Run(Dir.Path("plain.exe")), "-") << "not executable";
+    Put_Tool("noise.exe", "no program\n");
+    EXPECT_EQ(Run(Dir.Path("noise.exe")), "-") << "nothing the system can run";
+    Put_Tool("lost.exe", "#!/none/such/shell\n");
+    EXPECT_EQ(Run(Dir.Path("lost.exe")), "-");
+    Put_Tool("ok.exe");
+    EXPECT_FALSE(Process_Run(Dir.Path("ok.exe") + std::string(" a\0b", 4), true));
+}
+
+TEST_F(Process, ANameWithoutADirectoryIsLookedForInThePath) {
+    Put_Tool("bin/terrafold_stand_in");
+    const Env_Scope Path("PATH", "/none:" + Dir.Native("bin").string());
+    EXPECT_EQ(Run("terrafold_stand_in a"), "[a]");
+    EXPECT_FALSE(Process_Run("terrafold_other a", true));
+    EXPECT_FALSE(Process_Run("bin\\terrafold_stand_in a", true));
+}
+
+TEST_F(Process, ExitStatusAndSignalsDoNotCount) {
+    Dir.Write("fail", "#!/bin/sh\nexit 3\n");
+    Dir.Write("die", "#!/bin/sh\nkill -9 $$\n");
+    for (const char* Name : {"fail", "die"}) {
+        fs::permissions(Dir.Native(Name), fs::perms(0755));
+        EXPECT_TRUE(Process_Run(Dir.Path(Name), true));
+    }
+}
+
+TEST_F(Process, NativeToolsGetNativePaths) {
+    Put_Tool("tool");
+    Dir.Write("Out/Isle.ASM", "");
+    Dir.Write("prefix/drive_c/x", "");
+    Dir.Write("prefix/dosdevices/keep", "");
+    fs::create_directory_symlink("../drive_c", Dir.Native("prefix/dosdevices/c:"));
+    const std::string Line = Dir.Path("tool") + " \"" + Dir.Path("out\\isle.asm") + "\" \"" +
+                             Dir.Path("out\\\xEEle 2.bgl") + "\" C:\\X D:\\y sub\\z -o /a \xE9";
+    EXPECT_EQ(Run(Line), "[" + Dir.Native("Out/Isle.ASM").string() + "][" +
+                             Dir.Native("Out/\xC3\xAEle 2.bgl").string() + "][" +
+                             Dir.Native("prefix/drive_c/x").string() +
+                             "][D:\\y][sub\\z][-o][/a][\xC3\xA9]");
+}
+
+TEST_F(Process, WindowsProgramsRunByWine) {
+    Dir.Write("Tools dir/Bglc.exe", "MZ not really");
+    Dir.Write("prefix/drive_c/scasm.exe", "MZ");
+    Dir.Write("prefix/dosdevices/keep", "");
+    fs::create_directory_symlink("../drive_c", Dir.Native("prefix/dosdevices/c:"));
+    const std::string Line = "\"" + Dir.Path("tools dir\\bglc.exe") + "\" \"" +
+                             Dir.Path("a b.asm") + "\" C:\\out.bgl \\\\host\\x rel\\y";
+    {
+        const Env_Scope Path("PATH", Dir.Native("none").string());
+        EXPECT_EQ(Run(Line), "-") << "no wine";
+    }
+    Put_Tool("bin/wine");
+    const Env_Scope Path("PATH", Dir.Native("bin").string() + ":/usr/bin:/bin");
+    EXPECT_EQ(Run(Line), "[Z:" + Dir.Path("Tools dir\\Bglc.exe") + "][Z:" + Dir.Path("a b.asm") +
+                             "][C:\\out.bgl][\\\\host\\x][rel\\y]");
+    EXPECT_EQ(Run("c:\\SCASM.exe a"), "[c:\\SCASM.exe][a]");
+}
+
+TEST_F(Process, RunsUnderAHostThatIgnoresItsChildren) {
+    // The tool waits for a child of its own, so it must not inherit the habit.
+    Dir.Write("slow", "#!/bin/sh\nsh -c 'sleep 0.2; exit 7'\necho $? >'" +
+                          Dir.Native("told").string() + "'\n");
+    fs::permissions(Dir.Native("slow"), fs::perms(0755));
+    const auto Former = std::signal(SIGCHLD, SIG_IGN);
+    const std::string Told = Run(Dir.Path("slow"));
+    std::signal(SIGCHLD, Former);
+    EXPECT_EQ(Told, "7\n") << "waited for, and its own wait worked";
+}
+
+TEST_F(Process, StandardOutputStaysOurs) {
+    Dir.Write("talk", "#!/bin/sh\necho printed\ncat\necho complained >&2\n");
+    fs::permissions(Dir.Native("talk"), fs::perms(0755));
+    const std::string Out = Dir.Native("out").string(), Err = Dir.Native("err").string();
+    const pid_t Child = fork();
+    if (Child == 0) {
+        dup2(open(Out.c_str(), O_WRONLY | O_CREAT, 0600), STDOUT_FILENO);
+        dup2(open(Err.c_str(), O_WRONLY | O_CREAT, 0600), STDERR_FILENO);
+        _exit(Process_Run(Dir.Path("talk"), true) ? 0 : 1);
+    }
+    int Status = -1;
+    waitpid(Child, &Status, 0);
+    EXPECT_EQ(Status, 0);
+    EXPECT_EQ(Dir.Read("out"), "");
+    EXPECT_EQ(Dir.Read("err"), "printed\ncomplained\n") << "and standard input was empty";
+}
