@@ -58,8 +58,8 @@ bool Prepare_App_Dir(std::string_view Dir) {
     const std::optional<std::string> Installed = Installed_Resources();
     if (!Installed) return true;
     for (const std::string& Name : Dir_Files(*Installed)) {
-        const std::string Copy = Own + "\\" + Name;
-        if (!File_Exists(Copy) && !File_Copy(*Installed + "\\" + Name, Copy)) return false;
+        const std::string From = *Installed + '\\' += Name, To = Own + '\\' += Name;
+        if (!File_Exists(To) && !File_Copy(From, To)) return false;
     }
     return true;
 }

@@ -1,7 +1,7 @@
 // core/test_settings.cpp - the settings file and the recent projects.
 #include "core/settings.h"
 
-#include "core/environment.h"
+#include "support/environment.h"
 #include "platform/settings_file.h"
 #include "support/program_test.h"
 

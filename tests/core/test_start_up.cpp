@@ -1,5 +1,5 @@
 // core/test_start_up.cpp - from the start of the program to its first look.
-#include "core/environment.h"
+#include "support/environment.h"
 #include "core/lifecycle.h"
 #include "core/model_ops.h"
 #include "core/project_file.h"

@@ -33,7 +33,7 @@ TEST(Clock, LocalTimeWhenNoWholeNumberIsAsked) {
             << Text;
         std::tm Parts{};
         ASSERT_NE(strptime(Text.c_str(), "%Y-%m-%d %H:%M:%S", &Parts), nullptr);
-        const std::time_t Said = timegm(&Parts) - 20 * 3600;
+        const std::time_t Said = timegm(&Parts) - std::time_t{20} * 3600;
         EXPECT_GE(Said, Before) << Epoch;
         EXPECT_LE(Said, std::time(nullptr)) << Epoch;
     }

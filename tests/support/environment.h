@@ -1,4 +1,4 @@
-// core/environment.h - an environment variable for the time of a test.
+// tests/support/environment.h - an environment variable for the time of a test.
 #pragma once
 
 #include <cstdlib>
