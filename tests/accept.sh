@@ -7,3 +7,4 @@ cmake --preset dev >/dev/null
 cmake --build --preset dev
 TERRAFOLD_ACCEPT=1 ctest --preset dev >/dev/null || true
 git --no-pager diff --stat -- tests/data/golden
+git ls-files --others --exclude-standard -- tests/data/golden

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <unordered_map>
 
 #include "core/host.h"
@@ -10,6 +11,9 @@
 #include "core/model.h"
 #include "core/view_calls.h"
 #include "gen/emit_excl.h"
+#include "gen/emit_lwm_poly.h"
+#include "gen/emit_remesh.h"
+#include "gen/emit_vtp2_poly.h"
 #include "gen/source_frame.h"
 
 namespace {
@@ -21,31 +25,46 @@ struct Emitter {
 
 constexpr std::array The_Emitters{
     Emitter{Emit_Excl, false},
+    Emitter{Emit_Remesh, true},
+    Emitter{Emit_LWM_Poly, false},
+    Emitter{Emit_VTP2_Poly, true},
 };
 
-bool Is_Outside(const Pt& P, const Ima& M) {
-    return P.X < M.X1 || P.X > M.X2 || P.Y < M.Y1 || P.Y > M.Y2;
-}
+// What the textures of one number have in common: a point lies outside one of them exactly when
+// it lies outside this.
+struct Common_Rect {
+    Double X1 = -Endless, Y1 = -Endless, X2 = Endless, Y2 = Endless;
 
-bool Any_Outside(const Obj& O, const Ima& M) {
+    void Take(const Ima& M) {
+        X1 = std::max(X1, M.X1);
+        Y1 = std::max(Y1, M.Y1);
+        X2 = std::min(X2, M.X2);
+        Y2 = std::min(Y2, M.Y2);
+    }
+    bool Misses(const Pt& P) const { return P.X < X1 || P.X > X2 || P.Y < Y1 || P.Y > Y2; }
+
+private:
+    static constexpr Double Endless = std::numeric_limits<Double>::infinity();
+};
+
+bool Any_Outside(const Obj& O, const Common_Rect& R) {
     if (O.Nb_Pts == 0) return false;
     for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
-        if (Is_Outside(Tab_Pt[P], M)) return true;
+        if (R.Misses(Tab_Pt[P])) return true;
         if (P == O.Last_Pt) return false;
     }
 }
 
-// Whether a linked polygon has a point outside a texture of its number. Records of a number are
-// looked up, since both tables may be long.
+// Textures are looked up by their number, since both tables may be long. Deleted ones count too:
+// deleting a texture has cleared the links to it.
 bool Any_Polygon_Outside() {
-    std::unordered_multimap<Int, const Ima*> By_Num;
-    for (const Ima& M : Tab_Ima.Rows()) By_Num.emplace(M.Num, &M);
+    std::unordered_map<Int, Common_Rect> By_Num;
+    for (const Ima& M : Tab_Ima.Rows()) By_Num[M.Num].Take(M);
     for (Long I = First_Obj; I <= Nb_Obj; ++I) {
         const Obj& O = Tab_Obj[I];
         if (O.Attr.SurfShore >= 2 || O.Attr.Link_Ima == 0) continue;
-        const auto [First, Last] = By_Num.equal_range(O.Attr.Link_Ima);
-        if (std::any_of(First, Last, [&](const auto& M) { return Any_Outside(O, *M.second); }))
-            return true;
+        const auto Found = By_Num.find(O.Attr.Link_Ima);
+        if (Found != By_Num.end() && Any_Outside(O, Found->second)) return true;
     }
     return false;
 }

@@ -85,6 +85,7 @@ void Write_Source(Source_File& Out, const std::vector<Excl_Area>& Areas) {
                  Limits_Of_Areas(First.AreaLon, First.AreaLat, Last.AreaLon, Last.AreaLat),
                  ", TerrainHeaderStart, VTPHeader");
     std::vector<Vtp_Area> Index;
+    Index.reserve(Areas.size());
     for (const Excl_Area& A : Areas) Index.push_back({A.AreaLon, A.AreaLat});
     const auto Write_Area = [&](Long I) {
         for (const Excl_Cell& C : Areas[static_cast<std::size_t>(I - 1)].Cells) Write_Cell(Out, C);

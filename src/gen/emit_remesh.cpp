@@ -44,8 +44,7 @@ struct Remesh_Lists {
 
 bool Any_Live() {
     const auto Points = Tab_PtGrid.Rows();
-    return std::any_of(Points.begin(), Points.end(),
-                       [](const PtGrid& P) { return P.Active == 1; });
+    return std::any_of(Points.begin(), Points.end(), [](const PtGrid& P) { return P.Active == 1; });
 }
 
 Double Metres(const PtGrid& P) {

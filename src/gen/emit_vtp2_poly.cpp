@@ -104,8 +104,7 @@ bool Convert(const std::string& Path) {
     Tex_List Textures;
     Vtp2_Sort(Textures);
     if (Vtp2_Overflow(Textures.Tab_Tex().Nb()) > Max_Textures) {
-        Plain_Box(
-            "More than 127 generated textures in VTP2 polys, please create an other project");
+        Plain_Box("More than 127 generated textures in VTP2 polys, please create an other project");
         return false;
     }
     return Write_Source(Path, Vtp2_Nest(), Textures.Tab_Tex());

@@ -94,17 +94,18 @@ void Collect_Cells(Table<LCell>& Cells) {
         C.Last_Coast = Last;
         Cells.Append(C);
     });
-    Sort_And_Merge(Cells, [](const LCell& C) { return Cell_Key(C); }, Take_Pieces);
+    Sort_And_Merge(
+        Cells, [](const LCell& C) { return Cell_Key(C); }, Take_Pieces);
 }
 
 void Collect_Areas(const Table<LCell>& Cells, Table<LArea>& Areas) {
     for (const Lod8& L : Tab_Lod8.Rows())
         Areas.Append({.AreaLon = L.AreaLon, .AreaLat = L.AreaLat, .Attrib = L.Attrib});
     for (const LCell& C : Cells.Rows())
-        if (Is_Active(C))
-            Areas.Append({.AreaLon = C.AreaLon, .AreaLat = C.AreaLat, .Has_Data = 1});
-    Sort_And_Merge(Areas, [](const LArea& A) { return Area_Key(A); },
-                   [](LArea& To, const LArea& From) { To.Has_Data |= From.Has_Data; });
+        if (Is_Active(C)) Areas.Append({.AreaLon = C.AreaLon, .AreaLat = C.AreaLat, .Has_Data = 1});
+    Sort_And_Merge(
+        Areas, [](const LArea& A) { return Area_Key(A); },
+        [](LArea& To, const LArea& From) { To.Has_Data |= From.Has_Data; });
 }
 
 // Both lists are in the same order of Areas.
@@ -180,8 +181,8 @@ void Lwm_Blocks(const LArea& A, const Table<LCell>& Cells, std::vector<LSub>& Bl
         if (Row % Size != 0) continue;
         for (Int Col = 0; Col < Nb_Cell_In_Area; Col = static_cast<Int>(Col + Size)) {
             LSub B{.Size = Size,
-                   .Cell_Ix = Map.Cell_Ix[static_cast<std::size_t>(Row)]
-                                         [static_cast<std::size_t>(Col)],
+                   .Cell_Ix =
+                       Map.Cell_Ix[static_cast<std::size_t>(Row)][static_cast<std::size_t>(Col)],
                    .SubX = static_cast<Int>(Col / Size),
                    .SubY = static_cast<Int>(Row / Size)};
             B.Fill = Fill_Of(B, A, Cells);

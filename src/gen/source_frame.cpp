@@ -16,7 +16,14 @@ constexpr std::size_t Extension_Size = 4;
 
 constexpr char Rule[] = ";--------------------------------------------------";
 
-void Box_Of_File(const std::string& Path) {
+void Box_Not_Made(const std::string& Path) {
+    Plain_Box(In_Language("Cannot create the file ",
+                          "Impossible de cr\xE9"
+                          "er le fichier ") +
+              Path);
+}
+
+void Box_Not_Whole(const std::string& Path) {
     Plain_Box(In_Language("Cannot write the file ",
                           "Impossible d'\xE9"
                           "crire le fichier ") +
@@ -41,7 +48,7 @@ Bgl_Limits Held(const Bgl_Limits& L) {
 
 Source_File::Source_File(std::string Path)
     : Path_(std::move(Path)), Writer_(Deleted(Path_), File_Writer::Mode::In_Place) {
-    if (!Writer_.Is_Open()) Box_Of_File(Path_);
+    if (!Writer_.Is_Open()) Box_Not_Made(Path_);
 }
 
 bool Source_File::Close() {
@@ -49,7 +56,7 @@ bool Source_File::Close() {
         The_Host().Note_File(File_Event::Written, Path_);
         return true;
     }
-    Box_Of_File(Path_);
+    Box_Not_Whole(Path_);
     Output_Delete(Path_);
     return false;
 }

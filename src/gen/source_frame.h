@@ -29,7 +29,7 @@ public:
     }
 
     /// Ends the file and tells the host of it. False, after a plain box with the path, when
-    /// it could not be written whole.
+    /// it could not be written whole; nothing is left of it then.
     bool Close();
 
 private:

@@ -38,6 +38,7 @@ public:
 
     /// The row for the attributes of an object. A texture name that is not empty and no valid
     /// path counts as the name accepted last by this list, so the order of the calls matters.
+    /// A must stay in its place for the life of the list.
     Long Find_For(const Attr& A);
 
     const Table<Tex>& Tab_Tex() const { return Tab_Tex_; }
@@ -50,7 +51,7 @@ private:
 
     Table<Tex> Tab_Tex_{10, 3};
     std::unordered_map<Tex, Long, Hash> Row_;
-    std::string Last_Name_;           // accepted last
+    std::string Last_Name_;            // accepted last
     const Attr* Last_Attr_ = nullptr;  // asked for last, if that would give Last_Row_ again
     Long Last_Row_ = 0;
 };

@@ -67,8 +67,7 @@ Vtp2_Lists Vtp2_Nest() {
         // What changes takes everything inside it along.
         if (From <= Change::Area) V.Areas.Append({P.AreaLon, P.AreaLat, V.Cells.Nb() + 1, 0});
         if (From <= Change::Cell) V.Cells.Append({P.CellLon, P.CellLat, V.Layers.Nb() + 1, 0});
-        if (From <= Change::Layer)
-            V.Layers.Append({P.Attr->Layer_Vtp2, 0, V.Texs.Nb() + 1, 0});
+        if (From <= Change::Layer) V.Layers.Append({P.Attr->Layer_Vtp2, 0, V.Texs.Nb() + 1, 0});
         if (From <= Change::Tex) V.Texs.Append({P.Tex_Index, V.Groups.Nb() + 1, 0});
         if (From <= Change::Group) {
             V.Groups.Append({P.Tex_Group, I, 0});

@@ -51,15 +51,16 @@ std::optional<std::string> Find_App_Dir() {
 }
 
 bool Prepare_App_Dir(std::string_view Dir) {
-    const std::string Own = std::string(Dir) + "\\" + Resource;
+    const std::string Own = std::string(Dir) + "\\" + Resource + "\\";
     if (!Dir_Create(Own)) return false;
     const std::optional<fs::path> Native = Native_Path(Own);
     if (!Native || !Dir_Writable(*Native) || !Dir_Writable(Native->parent_path())) return false;
-    const std::optional<std::string> Installed = Installed_Resources();
+    std::optional<std::string> Installed = Installed_Resources();
     if (!Installed) return true;
+    *Installed += "\\";
     for (const std::string& Name : Dir_Files(*Installed)) {
-        const std::string From = *Installed + '\\' += Name, To = Own + '\\' += Name;
-        if (!File_Exists(To) && !File_Copy(From, To)) return false;
+        const std::string Copy = Own + Name;
+        if (!File_Exists(Copy) && !File_Copy(*Installed + Name, Copy)) return false;
     }
     return true;
 }

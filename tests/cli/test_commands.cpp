@@ -75,16 +75,22 @@ TEST_F(Cli, DryRunPrintsEventsInOrder) {
     Dir.Write("Out Excl.bgl", "old");
     Dir.Write("Out_3.bgl", "old");
     const Outcome First = Cli_On(Generate({"--dry-run"}));
-    const std::string Source = Dir.Path("home") + "\\Terrafold$_Excl.ASM";
-    const std::string Written = "write " + Source + "\nrun " + Dir.Path("home") + "\\bglc.exe \"" +
-                                Source + "\" \"" + Dir.Path("Out Excl.bgl") + "\"\n";
+    const std::string Home = Dir.Path("home") + "\\";
+    const std::string Excl_Source = Home + "Terrafold$_Excl.ASM";
+    const std::string Mask_Source = Home + "Terrafold$_Poly_LWM.asm";
+    const std::string Excl_Run =
+        "run " + Home + "bglc.exe \"" + Excl_Source + "\" \"" + Dir.Path("Out Excl.bgl") + "\"\n";
     EXPECT_EQ(First.Status, 0);
     EXPECT_EQ(First.Out, "delete " + Dir.Path("Out Excl.bgl") + "\ndelete " +
-                             Dir.Path("Out_3.bgl") + "\n" + Written);
+                             Dir.Path("Out_3.bgl") + "\nwrite " + Excl_Source + "\n" + Excl_Run +
+                             "write " + Mask_Source + "\n")
+        << "a mask without data is written and not compiled";
     EXPECT_EQ(First.Err, "");
     EXPECT_FALSE(Dir.Has("Out_3.bgl"));
-    EXPECT_EQ(Cli_On(Generate({"--dry-run"})).Out, "delete " + Source + "\n" + Written)
-        << "the second run replaces the source of the first";
+    EXPECT_EQ(Cli_On(Generate({"--dry-run"})).Out,
+              "delete " + Excl_Source + "\nwrite " + Excl_Source + "\n" + Excl_Run + "delete " +
+                  Mask_Source + "\nwrite " + Mask_Source + "\n")
+        << "the second run replaces the sources of the first";
 }
 
 TEST_F(Cli, MissingToolsAreMessages) {

@@ -52,7 +52,13 @@ TEST_F(Source_Frame_Test, ASourceThatCannotBeMadeIsTold) {
     Source_File Out(Source_Path("Some.asm"));
     EXPECT_FALSE(Out.Is_Open());
     EXPECT_EQ(Host_Of_Test.Last_Message(), 0);
-    EXPECT_NE(Host_Of_Test.Boxes.back().Text.find(App_Path + "\\Some.asm"), std::string::npos);
+    EXPECT_EQ(Host_Of_Test.Boxes.back().Text,
+              "Impossible de cr\xE9"
+              "er le fichier " +
+                  Out.Path());
+    Language = "US";
+    const Source_File Again(Source_Path("Some.asm"));
+    EXPECT_EQ(Host_Of_Test.Boxes.back().Text, "Cannot create the file " + Out.Path());
 }
 
 TEST_F(Source_Frame_Test, AToolThatCannotStartIsTold) {

@@ -33,7 +33,8 @@ TEST(Paths, CaseIsIgnoredWhereTheExactNameIsAbsent) {
               Dir.Native("Sc\xC3\xA9nes/\xC3\x8Ele.LWM"));
 
     Dir.Write("map.bmp", "exact");
-    Dir.Write("Map.bmp", "other");
+    for (const char* Other : {"Map.bmp", "maP.bmp", "mAP.bmp", "MaP.bmp", "MAp.bmp"})
+        Dir.Write(Other, "other");
     Dir.Write("MAP.bmp", "first in byte order");
     EXPECT_EQ(File_Read(Dir.Path("map.bmp")), "exact");
     EXPECT_EQ(File_Read(Dir.Path("mAp.bmp")), "first in byte order");

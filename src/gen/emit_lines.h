@@ -1,0 +1,7 @@
+// gen/emit_lines.h - roads, rivers and shores.
+#pragma once
+
+/// Writes every object that is drawn as a line, cut along the Areas, as a VTP source of wide
+/// points and compiles it to the stem of NameBgl and "_9.bgl". Nothing is written when there are
+/// none.
+void ShoreLines_Generate();

@@ -1,0 +1,39 @@
+// gen/line_length.cpp - piece after piece off a long line.
+#include "gen/line_length.h"
+
+#include <algorithm>
+
+#include "grid/line_cut.h"
+
+namespace {
+
+constexpr Long Longest = 279;
+
+// Shores of polygons are not divided.
+constexpr Int First_Line = 2;
+
+void Divide(Long Poly) {
+    const WPoly W = Tab_WPoly[Poly];
+    const Long Step = W.Nb % Longest == 1 ? Longest - 1 : Longest;
+    // The first piece shares no point with one before it.
+    for (Long Start = W.First - 1, End = 0; End < W.Last; Start = End) {
+        End = std::min(Start + Step, W.Last);
+        if (End != W.Last) Tab_WPt[End].Tag = Tag_Cut;
+        Line_Emit_Piece(Poly, std::max(Start, W.First), End);
+    }
+}
+
+}  // namespace
+
+void Line_Limit_Length() {
+    Tab_NPoly.Dimension(Nb_WPoly);
+    Tab_NPt.Dimension(Nb_WPt);
+    for (Long I = 1; I <= Nb_WPoly; ++I) {
+        const WPoly& W = Tab_WPoly[I];
+        if (W.Attr->SurfShore < First_Line)
+            Line_Emit_Piece(I, W.First, W.Last);
+        else
+            Divide(I);
+    }
+    WPoly_Commit();
+}
