@@ -96,6 +96,8 @@ struct Area : Cell_Pos {
     Int LC = 253;
     std::array<std::string, 6> Texture_Name;
     Int Layer = 7;
+
+    bool operator==(const Area&) const = default;
 };
 
 /// Fill of one Area. At most one record an Area.
@@ -104,6 +106,8 @@ struct Lod8 {
     Int AreaLat = 0;
     Byte Attrib = 0;  // as in Area
     Double Alti = No_Alti;
+
+    bool operator==(const Lod8&) const = default;
 };
 
 inline constexpr Int Nb_Chk_Excl = 101;
@@ -111,16 +115,22 @@ inline constexpr Int Nb_Chk_Excl = 101;
 /// Exclusions of one Cell: a flag for each class 0 to 100. At most one record a Cell.
 struct Excl : Cell_Pos {
     std::array<Byte, Nb_Chk_Excl> Chk_Excl{};
+
+    bool operator==(const Excl&) const = default;
 };
 
 /// Land class of one Cell. At most one record a Cell.
 struct LC_Cell : Cell_Pos {
     Byte Num = 0;
+
+    bool operator==(const LC_Cell&) const = default;
 };
 
 /// Water class of one Cell. At most one record a Cell.
 struct WC_Cell : Cell_Pos {
     Byte Num = 1;
+
+    bool operator==(const WC_Cell&) const = default;
 };
 
 /// A VTP1 texture placed as a rectangle on the map. Deleted records stay, with Active 0.
@@ -135,6 +145,8 @@ struct Ima {
     Double X2 = 0.0;                          // east,
     Double Y2 = 0.0;                          // south
     std::array<std::string, 5> Texture_Name;  // one a season
+
+    bool operator==(const Ima&) const = default;
 };
 
 /// An altitude sample for the re-mesh. Deleted records stay, with Active 0.
@@ -143,6 +155,8 @@ struct PtGrid {
     Double X = 0.0;
     Double Y = 0.0;
     Single Alt = 0.0F;  // in the unit of Meter_Feet
+
+    bool operator==(const PtGrid&) const = default;
 };
 
 inline constinit Table<Obj> Tab_Obj{10, 5};  // row 1 is reserved; objects stand from row 2
@@ -200,6 +214,8 @@ struct Project_Head {
     Int Nb_Tiles = 0;         // division of the map into tiles
     Int Nb_Tile_Rows = 0;
     Int Nb_Tile_Cols = 0;
+
+    bool operator==(const Project_Head&) const = default;
 };
 
 /// The tie of the map to the globe, and the limits that follow from it.
@@ -221,6 +237,8 @@ struct Calibration {
     Int AreaLatGridSE = 0, CellLatGridSE = 0, AreaLonGridSE = 0, CellLonGridSE = 0;
     Double LatGridNW = 0.0, LonGridNW = 0.0, LatGridSE = 0.0, LonGridSE = 0.0;
     Double XGridNW = 0.0, YGridNW = 0.0, XGridSE = 0.0, YGridSE = 0.0;
+
+    bool operator==(const Calibration&) const = default;
 };
 
 inline Project_Head The_Head;

@@ -38,18 +38,48 @@ Decimal Split_Scientific(const char* First, const char* Last) {
     return D;
 }
 
-// X, above 0, rounded to Max_Digits digits. The shortest text that reads back as X is quicker
-// to find; when it is short enough it is the same decimal, since neighbouring decimals of 15
-// digits lie further apart than neighbouring Doubles.
-Decimal Digits_Of(Double X, int Max_Digits) {
+// Keeps the first Max_Digits digits; Up adds one to the last of them.
+void Cut(Decimal& D, int Max_Digits, bool Up) {
+    D.Nb = Max_Digits;
+    if (Up) {
+        while (D.Nb > 0 && D.Digit[D.Nb - 1] == '9') --D.Nb;
+        if (D.Nb > 0) {
+            ++D.Digit[D.Nb - 1];
+        } else {
+            D.Digit[D.Nb++] = '1';
+            ++D.Point;
+        }
+    }
+    while (D.Nb > 1 && D.Digit[D.Nb - 1] == '0') --D.Nb;
+}
+
+Decimal Scientific(Double X) {
     std::array<char, 48> Buffer;
-    auto End = std::to_chars(Buffer.data(), Buffer.data() + Buffer.size(), X,
-                             std::chars_format::scientific);
-    Decimal D = Split_Scientific(Buffer.data(), End.ptr);
-    if (D.Nb <= Max_Digits) return D;
-    End = std::to_chars(Buffer.data(), Buffer.data() + Buffer.size(), X,
-                        std::chars_format::scientific, Max_Digits - 1);
+    const auto End = std::to_chars(Buffer.data(), Buffer.data() + Buffer.size(), X,
+                                   std::chars_format::scientific);
     return Split_Scientific(Buffer.data(), End.ptr);
+}
+
+Decimal Scientific(Double X, int Max_Digits) {
+    std::array<char, 48> Buffer;
+    const auto End = std::to_chars(Buffer.data(), Buffer.data() + Buffer.size(), X,
+                                   std::chars_format::scientific, Max_Digits - 1);
+    return Split_Scientific(Buffer.data(), End.ptr);
+}
+
+// X, above 0, rounded to Max_Digits digits, at most 15. The shortest text that reads back as X
+// is quicker to find. When it is short enough it is the same decimal, since neighbours of 15
+// digits lie further apart than neighbouring Doubles, except among the smallest of them. When
+// it is longer, rounding it is rounding X: a halfway point between the two would be a shorter
+// or nearer text of X. Only where it is a halfway point itself must X be looked at.
+Decimal Digits_Of(Double X, int Max_Digits) {
+    if (X < std::numeric_limits<Double>::min()) return Scientific(X, Max_Digits);
+    Decimal D = Scientific(X);
+    if (D.Nb <= Max_Digits) return D;
+    const char Next = D.Digit[Max_Digits];
+    if (Next == '5' && D.Nb == Max_Digits + 1) return Scientific(X, Max_Digits);
+    Cut(D, Max_Digits, Next >= '5');
+    return D;
 }
 
 char* Put_Digits(char* Out, const Decimal& D, int From, int To) {

@@ -24,6 +24,9 @@ using namespace project_fields;
 constexpr Double Newest_Version = 5.0;
 constexpr Double Oldest_Version = 4.0;
 
+// The most rows that a table gets room for beyond its count.
+constexpr Long Most_Margin = 50;
+
 // The fewest bytes that a written object or point takes: what is left of the file must hold the
 // records that a count announces before memory is taken for them.
 constexpr std::size_t Bytes_Of_Obj = 100;
@@ -69,8 +72,9 @@ private:
     bool Damaged_ = false;
 };
 
+// The line behind the last record holds nothing: where it is met, lines are missing.
 void Project_Reader::Line() {
-    if (!Next_Line()) Damaged_ = true;
+    if (!Next_Line() || Cur_Line == "End") Damaged_ = true;
 }
 
 void Project_Reader::Tagged_Line(std::string_view Tag) {
@@ -88,9 +92,8 @@ bool Fits(Double X, T& Field) {
         Field = static_cast<T>(Whole);
         return true;
     } else {
-        if (!(std::fabs(X) <= std::numeric_limits<T>::max())) return false;
         Field = static_cast<T>(X);
-        return true;
+        return std::isfinite(Field);
     }
 }
 
@@ -114,7 +117,7 @@ void Project_Reader::Take_Below(T& Field, Long Limit) {
 void Project_Reader::Take_Count(Long& Count, Long Lines_A_Record) {
     Take(Count);
     const std::size_t Most_Lines = (Reader_Bytes_Left() + 1) / 2;
-    if (Count < 0 ||
+    if (Count < 0 || Count > std::numeric_limits<Long>::max() - Most_Margin ||
         static_cast<std::size_t>(Count) > Most_Lines / static_cast<std::size_t>(Lines_A_Record))
         Damaged_ = true;
 }
@@ -268,9 +271,8 @@ void Project_Reader::Read_Cell_Sections() {
 }
 
 void Project_Reader::Read_PtGrid_Section() {
-    constexpr Long Capacity = 50;
     if (Damaged_) return;
-    Tab_PtGrid.Dimension(Capacity);
+    Tab_PtGrid.Dimension(Most_Margin);
     LodMesh = 2;
     Mesh_Done = 0;
     Tagged_Line("0200");
@@ -279,7 +281,7 @@ void Project_Reader::Read_PtGrid_Section() {
     Long Count = 0;
     Take_Count(Count, 1);
     if (Damaged_ || Count == 0) return;
-    Tab_PtGrid.Dimension(Count + Capacity);
+    Tab_PtGrid.Dimension(Count + Most_Margin);
     Read_PtGrid_Records(Count);
 }
 

@@ -18,9 +18,11 @@ namespace {
 
 using namespace project_fields;
 
-// A number that a file cannot hold must not spoil the save of all others.
+// A number that a file cannot hold must not spoil the save of all others. Beyond Largest, the
+// 15 digits of a Double could read back as infinite.
 Number_Chars Writable(Double X) {
-    return Str(std::isfinite(X) ? X : 0.0);
+    constexpr Double Largest = 1.79769313486231E+308;
+    return Str(std::isfinite(X) ? std::clamp(X, -Largest, Largest) : 0.0);
 }
 Number_Chars Writable(Single X) {
     return Str(std::isfinite(X) ? X : 0.0F);

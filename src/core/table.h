@@ -75,7 +75,7 @@ public:
 
     /// Back to the state of a new table; the memory is given back.
     void Reset() {
-        Row_ = {};
+        std::vector<T>().swap(Row_);
         Nb_ = 0;
         Max_ = First_Capacity_;
     }

@@ -1,4 +1,4 @@
-// core/test_catalogue.cpp - the catalogue that the program comes with.
+// tests/core/test_catalogue.cpp - the catalogue that the program comes with.
 #include <filesystem>
 #include <fstream>
 #include <iterator>

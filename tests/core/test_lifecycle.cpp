@@ -1,4 +1,4 @@
-// core/test_lifecycle.cpp - the commands that open, save, close and empty a project.
+// tests/core/test_lifecycle.cpp - the commands that open, save, close and empty a project.
 #include "core/lifecycle.h"
 
 #include <functional>

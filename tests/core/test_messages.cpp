@@ -1,4 +1,4 @@
-// core/test_messages.cpp - from a number to a box.
+// tests/core/test_messages.cpp - from a number to a box.
 #include "core/messages.h"
 
 #include "support/program_test.h"

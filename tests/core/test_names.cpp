@@ -1,4 +1,4 @@
-// core/test_names.cpp - which names may be files, and how paths come apart.
+// tests/core/test_names.cpp - which names may be files, and how paths come apart.
 #include "core/names.h"
 
 #include <gtest/gtest.h>

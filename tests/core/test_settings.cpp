@@ -1,8 +1,8 @@
-// core/test_settings.cpp - the settings file and the recent projects.
+// tests/core/test_settings.cpp - the settings file and the recent projects.
 #include "core/settings.h"
 
-#include "support/environment.h"
 #include "platform/settings_file.h"
+#include "support/environment.h"
 #include "support/program_test.h"
 
 class Settings : public Program_Test {

@@ -1,10 +1,10 @@
-// core/test_start_up.cpp - from the start of the program to its first look.
-#include "support/environment.h"
+// tests/core/test_start_up.cpp - from the start of the program to its first look.
 #include "core/lifecycle.h"
 #include "core/model_ops.h"
 #include "core/project_file.h"
 #include "core/view_calls.h"
 #include "platform/instance_lock.h"
+#include "support/environment.h"
 #include "support/program_test.h"
 
 class Start_Up : public Program_Test {

@@ -1,4 +1,4 @@
-// fuzz/fuzz_message_catalogue.cpp - any bytes as message catalogue.
+// tests/fuzz/fuzz_message_catalogue.cpp - any bytes as message catalogue.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

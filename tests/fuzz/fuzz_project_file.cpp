@@ -1,0 +1,72 @@
+// tests/fuzz/fuzz_project_file.cpp - project files out of arbitrary bytes.
+//
+// Besides staying alive: a file that can't be read leaves an empty project after a damage, and
+// one that can be read has sound chains and saves to a file that is read again and saved as the
+// same bytes.
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "core/model_ops.h"
+#include "core/program.h"
+#include "core/project_file.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+
+namespace {
+
+void Need(bool Holds) {
+    if (!Holds) std::abort();
+}
+
+// A file in memory where the system has such a directory.
+std::string Saved_Path() {
+    std::filesystem::path Dir = "/dev/shm";
+    if (!std::filesystem::is_directory(Dir)) Dir = std::filesystem::temp_directory_path();
+    const auto Own = reinterpret_cast<std::uintptr_t>(&The_Head);
+    return Program_Path(Dir / ("terrafold_fuzz_" + std::to_string(Own) + ".LWM")).value();
+}
+
+void Check_Chains() {
+    Long Points = 0;
+    for (const Obj& O : Tab_Obj.Rows()) {
+        Need(O.Nb_Pts >= 0);
+        Long Before = 0;
+        for (Long P = O.First_Pt, N = 0; N < O.Nb_Pts; Before = P, P = Tab_Pt[P].Next, ++N)
+            Need(P == ++Points && Tab_Pt[P].Prev == Before);
+        Need(Before == O.Last_Pt);
+    }
+    Need(Points == Nb_Pt && Nb_Obj >= 1);
+}
+
+// The bytes behind the first two lines.
+std::string Saved() {
+    Need(Save_Project(0, {}));
+    const std::string File = File_Read(Nom_Projet).value();
+    return File.substr(File.find("\r\n0010") + 2);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
+    static const std::string Path = Saved_Path();
+    Program_Reset();
+    Read_Project_Text({reinterpret_cast<const char*>(Data), Size});
+    Check_Chains();
+    if (Load_Failed != 0) {
+        Need(Nb_Obj == 1 && Nb_Pt == 0 && The_Head == Project_Head());
+        return 0;
+    }
+    Projet_Open = 1;
+    Nom_Projet = Path;
+    const std::string First = Saved();
+    Read_Project_Text("0000 V5.0\n0002\n" + First);
+    Need(Load_Failed == 0);
+    Check_Chains();
+    const std::string Second = Saved();
+    Read_Project_Text("0000 V5.0\n0002\n" + Second);
+    Need(Load_Failed == 0 && Saved() == Second);
+    return 0;
+}
