@@ -1,8 +1,14 @@
 // grid/edge_boxes.h - boxes over the edges of an outline that loses points.
 //
-// A query finds the edges that a segment could meet. Boxes are kept in Single: the rounding
-// never turns two numbers round, so boxes that meet still meet. Each node holds the boxes of
-// eight children side by side, so that the compiler tests them together.
+// A query finds the edges that Seg_Cross could find a segment to cross. Boxes are kept in
+// Single: the rounding never turns two numbers round, so boxes that meet still meet. Each node
+// holds the boxes of eight children side by side, so that the compiler tests them together.
+//
+// Where only boxes meet, the segment may still keep off. That is told apart with a margin, for
+// the meeting point that Seg_Cross works out is rounded: it lies inside both boxes, but strays
+// from either line by up to Roundings * ((slope 1 + slope 2) * X + Y), measured upright. Slopes
+// count as 0 for upright segments. Edges that are all but upright stray far; nodes with such an
+// edge are looked into whenever boxes meet.
 #pragma once
 
 #include <array>
@@ -25,6 +31,8 @@ struct Place_Range {
 
 class Edge_Boxes {
 public:
+    static constexpr Double Roundings = 64 * std::numeric_limits<Double>::epsilon();
+
     /// Room for N edges, all absent.
     void Reset(Long N);
 
@@ -33,6 +41,10 @@ public:
     void Drop(Long E) { Set(E, None); }
     void Refresh_All();
     void Refresh(Long E);
+    /// Whether one Refresh serves both edges.
+    static bool Share_Node(Long E1, Long E2) {
+        return static_cast<std::size_t>(E1) / Fan == static_cast<std::size_t>(E2) / Fan;
+    }
 
     /// Whether Hits(e) for some edge e that is not in Skip and whose box the segment from A to B
     /// passes. Size bounds all coordinates.
@@ -43,6 +55,7 @@ public:
 
 private:
     static constexpr std::size_t Fan = 8;
+    static constexpr Double Steepest = 1e6;
     static constexpr Single Far = std::numeric_limits<Single>::infinity();
 
     // Never beyond the box of an absent edge.
@@ -51,17 +64,27 @@ private:
         return static_cast<Single>(std::clamp(V, -Most, Most));
     }
 
+    // The box of an edge or of a node, and whether there is a steep edge in it (0 or 1).
     struct Box_Single {
-        Single LX, LY, HX, HY;
+        Single LX, LY, HX, HY, Steep;
         bool operator==(const Box_Single&) const = default;
     };
-    static constexpr Box_Single None{Far, Far, -Far, -Far};
+    static constexpr Box_Single None{Far, Far, -Far, -Far, 0.0F};
 
     struct Node {
-        std::array<Single, Fan> LX, LY, HX, HY;
+        std::array<Single, Fan> LX, LY, HX, HY, Steep;
+
+        Box_Single Get(std::size_t C) const { return {LX[C], LY[C], HX[C], HY[C], Steep[C]}; }
+        void Set(std::size_t C, const Box_Single& B) {
+            LX[C] = B.LX;
+            LY[C] = B.LY;
+            HX[C] = B.HX;
+            HY[C] = B.HY;
+            Steep[C] = B.Steep;
+        }
     };
 
-    // The segment, its box, and how far a computed meeting point can lie off it.
+    // The segment and its box.
     struct Query {
         Query(Pix A, Pix B, Double Size)
             : LX(Rounded(std::min(A.X, B.X))),
@@ -71,26 +94,29 @@ private:
               At(A),
               dx(B.X - A.X),
               dy(B.Y - A.Y),
-              Slack(Size * (std::abs(dx) + std::abs(dy)) * std::numeric_limits<Single>::epsilon()) {
-        }
+              Margin((std::abs(dx) + std::abs(dy)) * Size * 2 *
+                     std::numeric_limits<Single>::epsilon()) {}
 
-        // Whether the segment's line keeps off child K.
-        bool Is_Beside(const Node& N, std::size_t K) const {
-            const Double Mid_X = (Double{N.LX[K]} + N.HX[K]) / 2,
-                         Mid_Y = (Double{N.LY[K]} + N.HY[K]) / 2;
+        // Whether the segment's line keeps off child C. The margin is for the boxes, which are
+        // Single; the roundings of a Double at a slope below Steepest are a tenth of it.
+        bool Is_Beside(const Node& N, std::size_t C) const {
+            const Double Mid_X = (Double{N.LX[C]} + N.HX[C]) / 2;
+            const Double Mid_Y = (Double{N.LY[C]} + N.HY[C]) / 2;
             const Double Off = dx * (Mid_Y - At.Y) - dy * (Mid_X - At.X);
             const Double Reach =
-                std::abs(dx) * (N.HY[K] - Mid_Y) + std::abs(dy) * (N.HX[K] - Mid_X);
-            return std::abs(Off) > Reach + Slack;
+                std::abs(dx) * (N.HY[C] - Mid_Y) + std::abs(dy) * (N.HX[C] - Mid_X);
+            return N.Steep[C] == 0.0F && std::abs(Off) > Reach + Margin;
         }
 
         Single LX, LY, HX, HY;
         Pix At;
-        Double dx, dy, Slack;
+        Double dx, dy, Margin;
     };
 
-    void Set(Long E, const Box_Single& B);
-    Box_Single Union(const Node& N) const;
+    void Set(Long E, const Box_Single& B) {
+        Level_[0][static_cast<std::size_t>(E) / Fan].Set(static_cast<std::size_t>(E) % Fan, B);
+    }
+    static Box_Single Union(const Node& N);
 
     template <typename Hit>
     bool Descend(std::size_t Lv, std::size_t K, const Query& Q, const Place_Range& Skip,

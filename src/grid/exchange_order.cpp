@@ -2,6 +2,7 @@
 #include "grid/exchange_order.h"
 
 #include <bit>
+#include <numeric>
 #include <span>
 
 namespace {

@@ -10,11 +10,12 @@
 // number of smaller entries that stood before each of its members.
 #pragma once
 
-#include <algorithm>
-#include <numeric>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "core/table.h"
+#include "grid/coarse_sort.h"
 
 /// Turns a stable order into the one of the exchange sort. Order holds the entries' first
 /// places, counted from 0, in stable order; Group[i] is the number of the group of equals that
@@ -22,33 +23,52 @@
 void Exchange_Turns(std::vector<Long>& Order, const std::vector<Long>& Group);
 
 /// The first places, from 0, of N entries in the order that the exchange sort leaves.
-/// Comes_Before(i, j) tells of two first places whether i strictly sorts before j.
-template <typename Before>
-std::vector<Long> Exchange_Places(Long N, Before Comes_Before) {
-    std::vector<Long> Order(static_cast<std::size_t>(N));
-    std::iota(Order.begin(), Order.end(), 0);
-    if (std::is_sorted(Order.begin(), Order.end(), Comes_Before)) return Order;
-    std::stable_sort(Order.begin(), Order.end(), Comes_Before);
-    std::vector<Long> Group(Order.size());
+/// Comes_Before(i, j) tells of two first places whether i strictly sorts before j; Key(i) is a
+/// whole number that never falls where the order rises.
+template <typename Key_Of, typename Before>
+std::vector<Long> Exchange_Places(Long N, Key_Of Key, Before Comes_Before) {
+    const std::vector<Coarse_Entry> Sorted = Coarse_Sorted(N, Key, Comes_Before);
+    std::vector<Long> Order(Sorted.size()), Group(Sorted.size());
+    bool Is_As_Before = true;
     Long G = 0;
-    for (std::size_t K = 1; K < Order.size(); ++K) {
-        if (Comes_Before(Order[K - 1], Order[K])) ++G;
+    for (std::size_t K = 0; K < Sorted.size(); ++K) {
+        if (K > 0 && Comes_Before(Sorted[K - 1].Place, Sorted[K].Place)) ++G;
+        Order[K] = Sorted[K].Place;
         Group[static_cast<std::size_t>(Order[K])] = G;
+        Is_As_Before = Is_As_Before && Order[K] == static_cast<Long>(K);
     }
-    Exchange_Turns(Order, Group);
+    if (!Is_As_Before) Exchange_Turns(Order, Group);
     return Order;
 }
 
 /// Puts the rows of Tab in the order that the exchange sort leaves, by a strict predicate on
-/// two rows.
+/// two rows and a whole number of a row that never falls where the order rises.
+template <typename T, typename Key_Of, typename Before>
+void Exchange_Order(Table<T>& Tab, Key_Of Key, Before Comes_Before) {
+    const auto Rows = Tab.Rows();
+    const auto Row = [&](Long I) -> const T& { return Rows[static_cast<std::size_t>(I)]; };
+    std::vector<Long> Order = Exchange_Places(
+        Tab.Nb(), [&](Long I) -> std::uint32_t { return Key(Row(I)); },
+        [&](Long I, Long J) { return Comes_Before(Row(I), Row(J)); });
+    // Round after round of rows that take each other's places.
+    for (std::size_t Start = 0; Start < Order.size(); ++Start) {
+        if (Order[Start] == static_cast<Long>(Start)) continue;
+        T First = std::move(Rows[Start]);
+        std::size_t To = Start;
+        while (true) {
+            const auto From = static_cast<std::size_t>(Order[To]);
+            Order[To] = static_cast<Long>(To);
+            if (From == Start) break;
+            Rows[To] = std::move(Rows[From]);
+            To = From;
+        }
+        Rows[To] = std::move(First);
+    }
+}
+
+/// The same without a whole number.
 template <typename T, typename Before>
 void Exchange_Order(Table<T>& Tab, Before Comes_Before) {
-    const auto Rows = Tab.Rows();
-    const auto Order = Exchange_Places(Tab.Nb(), [&](Long I, Long J) {
-        return Comes_Before(Rows[static_cast<std::size_t>(I)], Rows[static_cast<std::size_t>(J)]);
-    });
-    std::vector<T> Sorted;
-    Sorted.reserve(Rows.size());
-    for (const Long I : Order) Sorted.push_back(std::move(Rows[static_cast<std::size_t>(I)]));
-    std::move(Sorted.begin(), Sorted.end(), Rows.begin());
+    Exchange_Order(
+        Tab, [](const T&) { return 0U; }, Comes_Before);
 }

@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "core/model.h"
-#include "grid/terrain_grid.h"
 
 namespace {
 
@@ -15,28 +14,26 @@ std::vector<Double> Lines_From(Double First, Double Step, Double Last, Double Mo
     if (!(Step > 0.0) || !((Last + Step - First) / Step < Most)) return Lines;
     for (Double Line = First;; Line += Step) {
         Lines.push_back(Line);
-        if (Last + Step <= Line) return Lines;
+        if (Last <= Line) return Lines;
     }
 }
 
 }  // namespace
 
-Grid_Lines Grid_Lines_Of(Int Mode) {
-    const bool By_Area = Mode == 2;
-    const Double StepLat = By_Area ? Area_StepLat : Cell_StepLat;
-    const Double StepLon = By_Area ? Area_StepLon : Cell_StepLon;
-    const Double TolDiv = By_Area ? 16321.1 : 512.1;
-    const Double PixLat = (YGridSE - YGridNW) / (LatGridNW - LatGridSE) * StepLat;
-    const Double PixLon = (XGridSE - XGridNW) / (LonGridSE - LonGridNW) * StepLon;
-    const Long Row0 = std::max(Fix_Lng((90 - LatGridNW) / StepLat) - 3, 0);
-    const Long Col0 = std::max(Fix_Lng((LonGridNW + 180) / StepLon) - 3, 0);
-    const Double Lat0 = 90 - Row0 * StepLat, Lon0 = Col0 * StepLon - 180;
-    const Double LineY = YGridNW - (Lat0 - LatGridNW) * PixLat / StepLat;
-    const Double LineX = XGridNW - std::abs(Lon0 - LonGridNW) * PixLon / StepLon;
+Grid_Lines Grid_Lines_Of(const Grid_Walk& W) {
+    const Double PixLat = (YGridSE - YGridNW) / (LatGridNW - LatGridSE) * W.StepLat / W.Parts;
+    const Double PixLon = (XGridSE - XGridNW) / (LonGridSE - LonGridNW) * W.StepLon / W.Parts;
+    const Long Row0 = std::max(Fix_Lng((90 - LatGridNW) / W.StepLat) - W.Before, 0);
+    const Long Col0 = std::max(Fix_Lng((LonGridNW + 180) / W.StepLon) - W.Before, 0);
+    const Double Lat0 = 90 - Row0 * W.StepLat, Lon0 = Col0 * W.StepLon - 180;
+    const Double LineY = YGridNW - (Lat0 - LatGridNW) * PixLat / W.StepLat;
+    const Double LineX = XGridNW - std::abs(Lon0 - LonGridNW) * PixLon / W.StepLon;
+    const Double LastY = W.One_Beyond ? YGridSE + PixLat : YGridSE;
+    const Double LastX = W.One_Beyond ? XGridSE + PixLon : XGridSE;
     // Twice round the globe: no work grid that can serve has so many lines.
-    const Double Most_Rows = 360 / StepLat, Most_Cols = 720 / StepLon;
-    return {Lines_From(LineY, PixLat, YGridSE, Most_Rows),
-            Lines_From(LineX, PixLon, XGridSE, Most_Cols), PixLon / TolDiv, PixLat / TolDiv};
+    const Double Most_Rows = 360 / W.StepLat * W.Parts, Most_Cols = 720 / W.StepLon * W.Parts;
+    return {Lines_From(LineY, PixLat, LastY, Most_Rows),
+            Lines_From(LineX, PixLon, LastX, Most_Cols), PixLon / W.TolDiv, PixLat / W.TolDiv};
 }
 
 Line_Range Lines_Between(std::span<const Double> Lines, Double Low, Double High) {

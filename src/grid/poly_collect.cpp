@@ -39,13 +39,14 @@ void Drop_Repeats(std::vector<Pix>& Line) {
 // behind the last one dropped may escape the test, as the walk ends where the count falls to it.
 void Drop_Straight(std::vector<Pix>& Line) {
     const std::size_t Nb = Line.size();
+    const Double Size = Size_Of(Line);
     const Pix First = Line[0];
     const auto At = [&](std::size_t I) { return I < Nb ? Line[I] : First; };
     std::size_t Kept = 1;  // points kept
     std::size_t Next = 1;  // the point in question
     std::size_t Left = Nb;
     while (true) {
-        if (Turn(Line[Kept - 1], At(Next), At(Next + 1)) == 0) {
+        if (Turn(Line[Kept - 1], At(Next), At(Next + 1), Size) == 0) {
             ++Next;
             --Left;
             if (Kept + 1 >= Left) break;
@@ -56,7 +57,7 @@ void Drop_Straight(std::vector<Pix>& Line) {
     }
     while (Next < Nb) Line[Kept++] = Line[Next++];
     Line.resize(Kept);
-    if (Turn(Line[Kept - 1], Line[0], Line[1]) == 0) Line.erase(Line.begin());
+    if (Turn(Line[Kept - 1], Line[0], Line[1], Size) == 0) Line.erase(Line.begin());
 }
 
 void WPoly_Append(const Obj& O, std::span<const Pix> Line) {
@@ -89,8 +90,10 @@ void Poly_Collect(Int Mode) {
             ++Nb_Poly;
             Nb_Points += Tab_Obj[I].Nb_Pts;
         }
+    // Room for the pieces too, since the cut writes them here again: memory that is not used
+    // costs nothing.
     Tab_WPoly.Reserve(Nb_Poly);
-    Tab_WPt.Reserve(std::min(Nb_Points, Nb_Pt));
+    Tab_WPt.Reserve(Most_Points(std::min(Nb_Points, Nb_Pt)));
     std::vector<Pix> Line;
     for (Long I = First_Obj; I <= Nb_Obj; ++I) {
         if (!Is_Taken(Tab_Obj[I], Mode)) continue;

@@ -34,10 +34,20 @@ private:
         std::size_t Line;  // the next line that may cut it
     };
 
+    // What a cut in one direction works on; kept from polygon to polygon.
+    struct Scratch {
+        std::vector<Pix> Stack;
+        std::vector<Waiting> Open;
+        std::vector<Pix> Piece;
+        Two_Pieces Two;
+    };
+
     template <typename Axis>
     void Cut_Along(const Axis& A, std::size_t First_Pass, std::span<const Pix> Polygon);
     template <typename Axis>
     Line_Range Lines_Of(const Axis& A, std::span<const Pix> Polygon) const;
+    Scratch& Scratch_Of(const Parallels&) { return By_Parallel_; }
+    Scratch& Scratch_Of(const Meridians&) { return By_Meridian_; }
     void Done(const Parallels&, std::span<const Pix> Piece) {
         Cut_Along(Meridians{Lines_.X, Lines_.TolX, Lines_.TolY}, Lines_.Y.size(), Piece);
     }
@@ -48,6 +58,7 @@ private:
     std::size_t Failed_ = No_Pass;
     const WPoly* Source_ = nullptr;
     std::vector<Pix> Points_;
+    Scratch By_Parallel_, By_Meridian_;
 };
 
 void Grid_Cutter::Cut(const WPoly& W) {
@@ -75,10 +86,9 @@ void Grid_Cutter::Cut_Along(const Axis& A, std::size_t First_Pass, std::span<con
         Done(A, Polygon);
         return;
     }
-    std::vector<Pix> Stack(Polygon.begin(), Polygon.end());
-    std::vector<Waiting> Open{{Polygon.size(), Range.First}};
-    std::vector<Pix> Piece;
-    Two_Pieces Two;
+    auto& [Stack, Open, Piece, Two] = Scratch_Of(A);
+    Stack.assign(Polygon.begin(), Polygon.end());
+    Open.assign(1, {Polygon.size(), Range.First});
     while (!Open.empty()) {
         auto [Nb, Line] = Open.back();
         Open.pop_back();

@@ -49,7 +49,7 @@ bool Polys_Cross() {
 // Finds for one outer polygon after the other what lies inside it.
 class Outer_Search {
 public:
-    Outer_Search(const Outlines& Lines, std::span<const Long> Order)
+    Outer_Search(const Outlines& Lines, std::span<const Long> Order, std::span<const Long> Owner)
         : Lines_(Lines),
           Rays_(Lines, Order),
           Firsts_(First_Points(Lines)),
@@ -57,7 +57,6 @@ public:
           Placed_(Lines.Nb()),
           Also_(Lines.Nb()) {
         // A ray that runs exactly through vertices may count oddly from anywhere north of them.
-        const auto Owner = Lines.Owners();
         for (std::size_t I = 0; I < Lines.Nb(); ++I)
             for (const auto& [X, Point] : Rays_.Sharing(First_Of(I).X))
                 Also_[static_cast<std::size_t>(Owner[static_cast<std::size_t>(Point)])].push_back(
@@ -113,11 +112,12 @@ void Find_Outers() {
         return;
     }
     Outlines Lines;
+    Lines.Point.reserve(Tab_WPt.Rows().size());
     for (const PolyRef& R : The_Nesting.Poly) Lines.Add(R);
     const std::vector<Long> Order = Sorted_Points(Lines.Point);
     Shift_Equal(Lines.Point, Order, 1e-05);
-    Outer_Search Search(Lines, Order);
     const std::vector<Long> Owner = Lines.Owners();
+    Outer_Search Search(Lines, Order, Owner);
     const auto Poly_Of = [&](Long Point) {
         return static_cast<std::size_t>(Owner[static_cast<std::size_t>(Point)]);
     };
@@ -137,7 +137,8 @@ void Imbric_Order() {
         return Tab_WPoly[Named[static_cast<std::size_t>(K)]].Attr->Imbrication;
     };
     const std::vector<Long> Order = Exchange_Places(
-        static_cast<Long>(Named.size()), [&](Long I, Long J) { return Text(I) < Text(J); });
+        static_cast<Long>(Named.size()), [](Long) { return 0U; },
+        [&](Long I, Long J) { return Text(I) < Text(J); });
     const auto Poly = [&](std::size_t K) -> WPoly& {
         return Tab_WPoly[Named[static_cast<std::size_t>(Order[K])]];
     };

@@ -157,7 +157,8 @@ Long Splitter::End_Of_Run(Long A, Long V) {
 // is none; it has been looked at on the way.
 bool Splitter::Bends_Well(Long A, Long W, Long N) const {
     const Pix From = Line_.At(A), To = Line_.At(N);
-    return Turn(To, From, Line_.At(Line_.Next(A))) != 1 && Turn(Line_.At(W), To, From) != 1;
+    return Turn(To, From, Line_.At(Line_.Next(A)), Line_.Size()) != 1 &&
+           Turn(Line_.At(W), To, From, Line_.Size()) != 1;
 }
 
 // A large convex polygon as fans from its first point.
@@ -196,6 +197,7 @@ void Poly_Split_Max(Long Limit) {
     The_Host().Refresh();
     Tab_NPoly.Dimension(Nb_WPoly + 10);
     Tab_NPt.Dimension(Nb_WPt);
+    Tab_NPt.Reserve(Most_Points(Nb_WPt));
     Splitter Both_Passes(Limit);
     Piece_List Pieces, Second;
     std::vector<Pix> Points;

@@ -58,6 +58,13 @@ void CPoly_Append(const WPoly& W, const Cell_Pos& C, bool By_Area, std::span<con
     Tab_CPoly.Append(P);
 }
 
+// The cell's place on the globe, row by row of Areas, then row by row inside the Area.
+std::uint32_t Cell_Key(const CPoly& P) {
+    const auto Area = static_cast<std::uint32_t>(P.AreaLat * Nb_AreaLon + P.AreaLon);
+    const auto Cell = static_cast<std::uint32_t>(P.CellLat * Nb_Cell_In_Area + P.CellLon);
+    return Area * Nb_Cell_In_Area * Nb_Cell_In_Area + Cell;
+}
+
 bool Comes_Before(const CPoly& A, const CPoly& B) {
     if (A.AreaLat != B.AreaLat) return A.AreaLat < B.AreaLat;
     if (A.AreaLon != B.AreaLon) return A.AreaLon < B.AreaLon;
@@ -86,5 +93,5 @@ void Poly_To_Cells(Int Mode) {
     }
     Tab_WPoly.Reset();
     Tab_WPt.Reset();
-    Exchange_Order(Tab_CPoly, Comes_Before);
+    Exchange_Order(Tab_CPoly, Cell_Key, Comes_Before);
 }

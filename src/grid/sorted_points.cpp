@@ -2,7 +2,6 @@
 #include "grid/sorted_points.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdint>
 
@@ -10,68 +9,47 @@
 
 namespace {
 
-struct Keyed {
-    std::uint32_t Key;
-    Long Place;
-};
-
 bool Comes_Before(Pix A, Pix B) {
     return A.X != B.X ? A.X < B.X : A.Y < B.Y;
 }
 
 // X as a whole number that never falls as X grows.
-std::vector<Keyed> Keys_Of(std::span<const Pix> Points) {
-    const auto [West, East] =
-        std::minmax_element(Points.begin(), Points.end(), [](Pix A, Pix B) { return A.X < B.X; });
-    const Double Low = West->X, Span = East->X - West->X;
-    const Double Scale = Span > 0.0 && std::isfinite(Span) ? 4294967040.0 / Span : 0.0;
-    std::vector<Keyed> Keys(Points.size());
-    for (std::size_t I = 0; I < Points.size(); ++I) {
-        const Double Key = Scale > 0.0 ? (Points[I].X - Low) * Scale : 0.0;
-        Keys[I] = {static_cast<std::uint32_t>(std::min(Key, 4294967295.0)), static_cast<Long>(I)};
+class Key_Of_X {
+public:
+    explicit Key_Of_X(std::span<const Pix> Points) {
+        const auto [West, East] = std::minmax_element(Points.begin(), Points.end(),
+                                                      [](Pix A, Pix B) { return A.X < B.X; });
+        Low_ = West->X;
+        const Double Span = East->X - Low_;
+        if (Span > 0.0 && std::isfinite(Span)) Scale_ = Most / Span;
     }
-    return Keys;
-}
 
-void Sort_By_Key(std::vector<Keyed>& Keys) {
-    constexpr int Bits = 11, Passes = 3;
-    constexpr std::size_t Buckets = 1U << Bits;
-    std::vector<Keyed> Other(Keys.size());
-    for (int Pass = 0; Pass < Passes; ++Pass) {
-        const auto Bucket = [&](const Keyed& K) { return K.Key >> (Pass * Bits) & (Buckets - 1); };
-        std::array<std::size_t, Buckets + 1> Start{};
-        for (const Keyed& K : Keys) ++Start[Bucket(K) + 1];
-        for (std::size_t B = 0; B < Buckets; ++B) Start[B + 1] += Start[B];
-        for (const Keyed& K : Keys) Other[Start[Bucket(K)]++] = K;
-        Keys.swap(Other);
+    std::uint32_t operator()(Pix P) const {
+        if (Scale_ == 0.0) return 0;
+        return static_cast<std::uint32_t>(std::min((P.X - Low_) * Scale_, Most));
     }
-}
+
+private:
+    static constexpr Double Most = 4294967295.0;
+    Double Low_ = 0.0, Scale_ = 0.0;
+};
 
 }  // namespace
 
 std::vector<Long> Sorted_Points(std::span<const Pix> Points) {
-    std::vector<Long> Order;
-    if (Points.empty()) return Order;
+    if (Points.empty()) return {};
     const auto At = [&](Long I) { return Points[static_cast<std::size_t>(I)]; };
-    std::vector<Keyed> Keys = Keys_Of(Points);
-    Sort_By_Key(Keys);
-    for (auto First = Keys.begin(); First != Keys.end();) {
-        auto End = First + 1;
-        while (End != Keys.end() && End->Key == First->Key) ++End;
-        if (End - First > 1)
-            std::sort(First, End, [&](const Keyed& A, const Keyed& B) {
-                return Comes_Before(At(A.Place), At(B.Place));
-            });
-        First = End;
-    }
-    Order.reserve(Keys.size());
-    for (const Keyed& K : Keys) Order.push_back(K.Place);
+    const auto Is_Before = [&](Long I, Long J) { return Comes_Before(At(I), At(J)); };
+    const auto Nb = static_cast<Long>(Points.size());
+    const Key_Of_X Key(Points);
+    const auto Key_At = [&](Long I) { return Key(At(I)); };
+    const std::vector<Coarse_Entry> Sorted = Coarse_Sorted(Nb, Key_At, Is_Before);
+    std::vector<Long> Order(Sorted.size());
+    for (std::size_t K = 0; K < Sorted.size(); ++K) Order[K] = Sorted[K].Place;
     // Equal points are rare (a triangle may repeat one); only then does the exchange sort leave
     // an order that the keys alone do not give.
     for (std::size_t K = 1; K < Order.size(); ++K)
-        if (!Comes_Before(At(Order[K - 1]), At(Order[K])))
-            return Exchange_Places(static_cast<Long>(Points.size()),
-                                   [&](Long I, Long J) { return Comes_Before(At(I), At(J)); });
+        if (!Is_Before(Order[K - 1], Order[K])) return Exchange_Places(Nb, Key_At, Is_Before);
     return Order;
 }
 

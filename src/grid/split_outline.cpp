@@ -8,20 +8,19 @@ void Split_Outline::Load(std::span<const Pix> Points) {
     Nb_ = static_cast<Long>(Points.size());
     First_ = 0;
     Nb_Reflex_ = 0;
-    Size_ = 1.0;
+    Size_ = Size_Of(Points);
     Next_.resize(Points.size());
     Prev_.resize(Points.size());
     for (Long V = 0; V < Nb_; ++V) {
         Next_[Ix(V)] = V + 1 == Nb_ ? 0 : V + 1;
         Prev_[Ix(V)] = V == 0 ? Nb_ - 1 : V - 1;
-        Size_ = std::max({Size_, std::abs(At(V).X), std::abs(At(V).Y)});
     }
     for (auto* Links : {&Blocker_, &First_Blocked_, &Next_Blocked_, &Prev_Blocked_})
         Links->assign(Points.size(), None);
     Reflex_.Reset(Nb_);
     Open_.Reset(Nb_);
     for (Long V = 0; V < Nb_; ++V) {
-        if (Turn(At(Prev(V)), At(V), At(Next(V))) == 1) {
+        if (Turn(At(Prev(V)), At(V), At(Next(V)), Size_) == 1) {
             Reflex_.Add(V);
             ++Nb_Reflex_;
         } else {
@@ -44,38 +43,42 @@ Long Split_Outline::Find_Start() {
     }
 }
 
-// An edge whose ends lie on one side of the line cannot cross it, unless they are so near that
-// the rounding of the meeting point comes into it; only then it takes the real test.
-bool Split_Outline::Meets_Diag(Long E, Pix A, Pix B) const {
-    constexpr Double Roundings = 64 * std::numeric_limits<Double>::epsilon();
+// An edge whose ends lie on one side of the line cannot cross it, unless the rounding of the
+// meeting point comes into it (see Edge_Boxes); only then it takes the real test. The point
+// strays from the line as much as the edge's slope lets it, and from the edge as much as the
+// line's. Compared after multiplying by the edge's extent in X, which saves a division; an
+// upright edge always takes the real test.
+bool Split_Outline::Meets_Diag(Long E, const Diag& D) const {
     const Pix P1 = At(E), P2 = At(Next(E));
-    const Double dx = B.X - A.X, dy = B.Y - A.Y;
-    const Double Slack = Roundings * Size_ * (std::abs(dx) + std::abs(dy));
-    const Double Z1 = dx * (P1.Y - A.Y) - dy * (P1.X - A.X);
-    const Double Z2 = dx * (P2.Y - A.Y) - dy * (P2.X - A.X);
-    if ((Z1 > Slack && Z2 > Slack) || (Z1 < -Slack && Z2 < -Slack)) return false;
-    return Seg_Cross(P1, P2, A, B).Code == 2;
+    const Double ex = std::abs(P2.X - P1.X), ey = std::abs(P2.Y - P1.Y);
+    const Double Z1 = D.dx * (P1.Y - D.A.Y) - D.dy * (P1.X - D.A.X);
+    const Double Z2 = D.dx * (P2.Y - D.A.Y) - D.dy * (P2.X - D.A.X);
+    const Double Margin = ex * D.Margin + ey * D.Margin_A_Slope;
+    if ((Z1 * ex > Margin && Z2 * ex > Margin) || (Z1 * ex < -Margin && Z2 * ex < -Margin))
+        return false;
+    return Seg_Cross(P1, P2, D.A, D.B).Code == 2;
 }
 
 // Some edge that the line from A to B crosses, or -1.
 Long Split_Outline::Crossed_Edge(Long A, Long B) {
     const Long Before = Prev(A);
     if (B == Before || Next(B) == Before) return None;
-    const Pix From = At(A), To = At(B);
+    const Diag D(At(A), At(B), Size_);
     Long Found = None;
-    Boxes_.Any_Near(From, To, Size_, {Before, B + 1}, [&](Long E) {
-        if (Meets_Diag(E, From, To)) Found = E;
+    Boxes_.Any_Near(D.A, D.B, Size_, {Before, B + 1}, [&](Long E) {
+        if (Meets_Diag(E, D)) Found = E;
         return Found >= 0;
     });
     return Found;
 }
 
 void Split_Outline::Cut(Long A, Long B) {
-    for (Long V = Next(A), After = 0; V != B; V = After) {
-        After = Next(V);
-        Take_Out(V);
-    }
     Free_Blocked_By(A);
+    for (Long V = Next(A), Before = A; V != B; Before = V, V = Next(V)) {
+        Take_Out(V);
+        if (!Edge_Boxes::Share_Node(Before, V)) Boxes_.Refresh(Before);
+        if (Next(V) == B) Boxes_.Refresh(V);
+    }
     Next_[Ix(A)] = B;
     Prev_[Ix(B)] = A;
     First_ = A;
@@ -88,7 +91,7 @@ void Split_Outline::Cut(Long A, Long B) {
 // Looks at the turn of V again after one of its neighbours has changed.
 void Split_Outline::Renew(Long V) {
     Unblock(V);
-    const bool Is_Now = Turn(At(Prev(V)), At(V), At(Next(V))) == 1;
+    const bool Is_Now = Turn(At(Prev(V)), At(V), At(Next(V)), Size_) == 1;
     if (Is_Now != Reflex_.Has(V)) Nb_Reflex_ += Is_Now ? 1 : -1;
     if (Is_Now) {
         Reflex_.Add(V);
@@ -108,7 +111,6 @@ void Split_Outline::Take_Out(Long V) {
     }
     Open_.Remove(V);
     Boxes_.Drop(V);
-    Boxes_.Refresh(V);
     --Nb_;
 }
 

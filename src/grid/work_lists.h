@@ -6,6 +6,8 @@
 // change meanwhile.
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
 #include <span>
 
 #include "core/model.h"
@@ -80,6 +82,12 @@ inline Long Err_PixY = 0;
 
 /// Adds a polygon with the values of Like to the output lists of a pass.
 void NPoly_Append(const WPoly& Like, std::span<const Pix> Points);
+
+/// As many points as the convex pieces of outlines of Nb points have at most: each run taken off
+/// adds two.
+inline Long Most_Points(Long Nb) {
+    return static_cast<Long>(std::min<std::int64_t>(std::int64_t{3} * Nb, 2'000'000'000));
+}
 
 /// Makes the output lists of a pass the new work lists. The output lists are empty then and keep
 /// the memory of the old work lists for the next pass.

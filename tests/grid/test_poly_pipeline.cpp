@@ -124,6 +124,42 @@ protected:
     }
 };
 
+// Outlines that no step before would let through: the steps must agree on them all the same.
+TEST_F(Poly_Pipeline, CuttingOfUndividedOutlinesFailsAsThePlainRulesDo) {
+    int Failures = 0;
+    for (std::uint64_t Seed = 1; Seed <= 40; ++Seed)
+        for (int K = 0; K < shapes::Nb_Kind; ++K) {
+            SCOPED_TRACE("seed " + std::to_string(Seed) + ", kind " + std::to_string(K));
+            const Int Mode = static_cast<Int>(Seed % 2 == 0 ? 2 : 0);
+            shapes::Make_Project(Seed, static_cast<Kind>(K), Mode);
+            Clear();
+            reference::Poly_Collect(Mode);
+            reference::Poly_Cut_Cells(Mode);
+            Poly_Collect(Mode);
+            Poly_Cut_Cells(Mode);
+            ASSERT_EQ(Messages(), reference::Messages);
+            ASSERT_NO_FATAL_FAILURE(Expect_Same_Work_Lists());
+            Failures += reference::Messages.empty() ? 0 : 1;
+        }
+    EXPECT_GT(Failures, 100) << "the drawings must reach the failures";
+}
+
+TEST_F(Poly_Pipeline, SplitsOfTangledOutlinesAgree) {
+    for (std::uint64_t Seed = 1; Seed <= 40; ++Seed)
+        for (int K = 0; K < shapes::Nb_Kind; ++K) {
+            SCOPED_TRACE("seed " + std::to_string(Seed) + ", kind " + std::to_string(K));
+            shapes::Make_Project(Seed, static_cast<Kind>(K));
+            const Long Limit = Seed % 2 == 0 ? 24 : 60;
+            Clear();
+            reference::Poly_Collect(0);
+            reference::Poly_Split_Max(Limit);
+            Poly_Collect(0);
+            Poly_Split_Max(Limit);
+            ASSERT_NO_FATAL_FAILURE(Expect_Same_Work_Lists());
+            EXPECT_EQ(Host_Of_Test.Caption["LCompile"], std::string(Num_Text(reference::Counter)));
+        }
+}
+
 // TERRAFOLD_ROUNDS in the environment asks for a longer run, TERRAFOLD_SEED for other drawings.
 std::uint64_t From_Environment(const char* Name, std::uint64_t Otherwise) {
     const char* Text = std::getenv(Name);

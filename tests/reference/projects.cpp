@@ -83,6 +83,8 @@ Outline Some_Shape(Random& R, const Frame& F, Kind K, Int Mode) {
             // Whole pixels, so that equal means equal and in line means in line.
             return Tangle(R, F, R.Whole(4, 16),
                           std::max(1.0, std::floor(F.Radius() / R.Whole(2, 6))));
+        case Kind::Twisted:
+            return Twisted(R, F);
         default:
             return Tangle(R, F, R.Whole(5, 30));
     }

@@ -159,6 +159,28 @@ Outline Tangle(Random& R, const Frame& F, Long Points, Double Raster) {
     return O;
 }
 
+Outline Twisted(Random& R, const Frame& F) {
+    Outline O{{3, 4}, {11, 7}, {3, 8}, {6, 7}, {3, 6}, {2, 2}};
+    if (R.Chance(0.5))
+        O = {{575, 250}, {570, 387}, {113, 813}, {382, 479}, {339, 388}, {72, 626},
+             {52, 831},  {5, 15},    {150, 41},  {897, 234}, {529, 167}, {137, 169}};
+    Pix Low = O[0], High = O[0];
+    for (const Pix P : O) {
+        Low = {std::min(Low.X, P.X), std::min(Low.Y, P.Y)};
+        High = {std::max(High.X, P.X), std::max(High.Y, P.Y)};
+    }
+    const Double Shake = R.Chance(0.3) ? 0.0 : R.Between(0, 0.02);
+    const bool Mirrored = R.Chance(0.3), Lying = R.Chance(0.3);
+    for (Pix& P : O) {
+        P = {(P.X - Low.X) / (High.X - Low.X) + R.Between(-1, 1) * Shake,
+             (P.Y - Low.Y) / (High.Y - Low.Y) + R.Between(-1, 1) * Shake};
+        if (Mirrored) P.X = 1 - P.X;
+        if (Lying) std::swap(P.X, P.Y);
+        P = {F.Low.X + P.X * (F.High.X - F.Low.X), F.Low.Y + P.Y * (F.High.Y - F.Low.Y)};
+    }
+    return O;
+}
+
 Outline With_Repeats(Random& R, const Outline& O) {
     Outline Out;
     for (const Pix P : O) {
@@ -204,6 +226,9 @@ Outline Snapped_To_Grid(Random& R, const Outline& O, Int Mode) {
         if (Where == 3 || Where == 4)
             P.Y = First_Y + (std::round((P.Y - First_Y) / PixLat) + Off()) * PixLat;
         Out.push_back(P);
+        if (R.Chance(0.3))  // a blunt tip, all but a point
+            Out.push_back(
+                {P.X + R.Between(-2, 2) * Tol * PixLon, P.Y + R.Between(-2, 2) * Tol * PixLat});
     }
     return Out;
 }

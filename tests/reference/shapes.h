@@ -51,6 +51,9 @@ Outline Needle(Random& R, const Frame& F);
 /// multiples, so that many share an X or a Y, and the path may touch itself.
 Outline Tangle(Random& R, const Frame& F, Long Points, Double Raster = 0.0);
 
+/// Like one of two outlines that the walk of the convex split cannot divide.
+Outline Twisted(Random& R, const Frame& F);
+
 /// The same outline with some points given twice or thrice, and with points set on its edges.
 Outline With_Repeats(Random& R, const Outline& O);
 Outline With_Points_In_Line(Random& R, const Outline& O);
@@ -84,9 +87,10 @@ enum class Kind {
     Crossing,  // outlines that may cross themselves or one another
     Ties,      // few different X and Y
     Texts,     // nesting texts, some equal, among plain polygons
+    Twisted,   // outlines that the convex split fails at
     Mixed      // everything at once
 };
-inline constexpr int Nb_Kind = 11;
+inline constexpr int Nb_Kind = 12;
 
 /// A whole project from nothing: reset, map, polygons. Small enough for the plain rules.
 void Make_Project(std::uint64_t Seed, Kind K, Int Mode = 0);
