@@ -1,4 +1,5 @@
-// tests/core/test_project_versions.cpp - which versions open, and what becomes of one of version 4.0.
+// tests/core/test_project_versions.cpp - which versions open, and what becomes of one of
+// version 4.0.
 #include <vector>
 
 #include "core/model_ops.h"
