@@ -154,7 +154,7 @@ Double Read_Magnitude(const char* First, const char* Last) {
 void Number_Chars::Put_Whole(Long X) {
     char* Out = Text_;
     if (X >= 0) *Out++ = ' ';
-    Last_ = static_cast<std::uint8_t>(std::to_chars(Out, Text_ + sizeof Text_, X).ptr - Text_);
+    Last_ = static_cast<std::uint32_t>(std::to_chars(Out, Text_ + sizeof Text_, X).ptr - Text_);
 }
 
 void Number_Chars::Put_Decimal(Double X, int Digits) {
@@ -168,7 +168,7 @@ void Number_Chars::Put_Decimal(Double X, int Digits) {
         const bool Plain = D.Point <= Digits && D.Nb - D.Point <= Digits;
         Out = Plain ? Put_Plain(Out, D) : Put_Exponent(Out, D);
     }
-    Last_ = static_cast<std::uint8_t>(Out - Text_);
+    Last_ = static_cast<std::uint32_t>(Out - Text_);
 }
 
 Number_Chars Str(Double X) {

@@ -28,8 +28,8 @@ private:
     void Put_Decimal(Double X, int Digits);
 
     char Text_[48];
-    std::uint8_t First_ = 0;  // 1 when the leading blank is left out
-    std::uint8_t Last_ = 0;
+    std::uint32_t First_ = 0;  // 1 when the leading blank is left out
+    std::uint32_t Last_ = 0;
 };
 
 /// Str text: a blank or "-", then the number with "." as decimal point, without a zero before

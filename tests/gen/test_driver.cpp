@@ -2,7 +2,7 @@
 #include "gen/driver.h"
 
 #include "core/view_calls.h"
-#include "gen_test.h"
+#include "emit_test.h"
 
 namespace {
 
@@ -125,8 +125,9 @@ TEST_F(Driver_Test, EveryTextureOfTheNumberIsTested) {
     Other.Num = 1;
     Other.Active = 0;
     Tab_Ima.Append(Other);
+    Tab_Ima.Append(Tab_Ima[1]);
     Tex_Link_Check();
-    EXPECT_EQ(Poly_Out_Of_Tex, 1) << "the first texture has room, the third has not";
+    EXPECT_EQ(Poly_Out_Of_Tex, 1) << "the first and the last have room, the third has not";
     Tab_Obj.Truncate(1);
     Tex_Link_Check();
     EXPECT_EQ(Poly_Out_Of_Tex, 0) << "without objects";
@@ -145,12 +146,64 @@ TEST_F(Driver_Test, ASpecialPolygonNeedsALink) {
         Link_Polygon();
         Tab_Obj[Nb_Obj].Attr.Link_Ima = 0;
     }
+    Attr& First = Tab_Obj[2].Attr;
+    Attr& Second = Tab_Obj[3].Attr;
+    First.SurfShore = 3;      // a coastline
+    Second.VTP1_SpecNor = 1;  // a normal polygon
+    Cmd_API();
+    for (const Box& B : Host_Of_Test.Boxes) EXPECT_NE(B.Num, 131) << "neither needs one";
+
+    Host_Of_Test.Boxes.clear();
+    First.SurfShore = Second.VTP1_SpecNor = 0;
     Dir.Write("Excl.bgl", "older");
+    std::filesystem::remove(Dir.Native("App/Terrafold$_Excl.ASM"));
     Cmd_API();
     EXPECT_EQ(Host_Of_Test.Boxes.size(), 1U) << "only the first is reported";
     EXPECT_EQ(Host_Of_Test.Last_Message(), 131);
     EXPECT_TRUE(Dir.Has("Excl.bgl"));
     EXPECT_FALSE(Has_Source("Terrafold$_Excl.ASM"));
+}
+
+// A project with something for each of its emitters.
+class Order_Test : public Emit_Test {
+protected:
+    Order_Test() {
+        Tab_Excl.Append({});
+        Tab_Excl[1].Chk_Excl[1] = 1;
+        Tab_PtGrid.Append({.Active = 1, .X = 50, .Y = 50, .Alt = 10});
+        Attr A;
+        Draw(Square(100, 100, 40), A);
+        A.LWM_VTP2 = 1;
+        Draw(Square(300, 300, 40), A);
+    }
+    // What the tools are to make, in order.
+    Lines Outputs() const {
+        Lines Names;
+        for (const std::string& Event : Host_Of_Test.Events)
+            if (Event.starts_with("run ")) Names.push_back(Event.substr(Event.rfind('\\') + 1));
+        return Names;
+    }
+};
+
+TEST_F(Order_Test, EmittersRunInTheirOrder) {
+    Cmd_API();
+    EXPECT_EQ(Outputs(), (Lines{"Excl.bgl\"", "Out_2.bgl\"", "Out_3.bgl\"", "Out_5.bgl\""}));
+    Host_Of_Test.Events.clear();
+    FS_CFS = 1;
+    Cmd_API();
+    EXPECT_EQ(Outputs(), (Lines{"Excl.bgl\"", "Out_3.bgl\""})) << "what the other simulator knows";
+    EXPECT_TRUE(Host_Of_Test.Boxes.empty());
+}
+
+TEST_F(Order_Test, TheRunGoesOnWithoutItsTools) {
+    Host_Of_Test.Tool = [](std::string_view) { return false; };
+    Cmd_API();
+    Lines Texts;
+    for (const Box& B : Host_Of_Test.Boxes)
+        if (B.Style == Box_Ok) Texts.push_back(B.Text);
+    EXPECT_EQ(Texts, (Lines{"BGLC.exe not found", "pb Terrafold generation Re_meshLWM",
+                            "pb Terrafold generation 2", "BGLC.exe not found"}));
+    EXPECT_EQ(Host_Of_Test.Boxes.size(), 8U) << "each behind the box of its tool";
 }
 
 TEST_F(Driver_Test, TheFormShowsThatItWorks) {

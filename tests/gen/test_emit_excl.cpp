@@ -32,6 +32,7 @@ TEST_F(Emit_Excl_Test, CellsAreSortedIntoAreasAndClasses) {
     Exclude({300, 100, 2, 2}, {1});
     Exclude({200, 101, 4, 9}, {7, 3});  // names class 7 of this Cell again
     Exclude({300, 100, 0, 1}, {});
+    Exclude({300, 100, 3, 1}, {6});  // further east than others, but in a row before them
     Exclude({200, 101, 4, 8}, {2});
     Emit_Excl();
     EXPECT_TRUE(Equals_Golden("excl.asm", Source(Source_Name)));

@@ -17,6 +17,8 @@ using Source_Frame_Test = Gen_Test;
 TEST_F(Source_Frame_Test, LimitsLieOneDegreeOutside) {
     LatGridNW = -20.2, LatGridSE = -20.9, LonGridNW = 166.4, LonGridSE = 167.2;
     Expect_Limits(Limits_Of_Project(), -19, -21, 168, 165);
+    LatGridNW = 0.7, LatGridSE = 0.4, LonGridNW = 0.4, LonGridSE = 0.7;
+    Expect_Limits(Limits_Of_Project(), 1, 0, 1, 0);  // cut after the degree is added
     LatGridNW = 90.0, LatGridSE = -90.0, LonGridNW = -180.0, LonGridSE = 180.0;
     Expect_Limits(Limits_Of_Project(), 90, -90, 180, -180);
 

@@ -8,6 +8,9 @@ VTPHeader   label   word
     VTPFileHeader 256, VTPIndexStart, TextureStart, VTPEnd
 VTPStart        label   word
     datamark_v0 label   word
+        VTPDataArea 1, 0, 3, 1
+        VTPLayer 6, 1
+        VTPNumTexturesInLayer 0, 0
         VTPDataArea 1, 0, 2, 2
         VTPLayer 1, 1
         VTPNumTexturesInLayer 0, 0
