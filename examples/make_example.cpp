@@ -8,6 +8,7 @@
 #include "core/model.h"
 #include "core/project_file.h"
 #include "map_painter.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 
 namespace {
@@ -39,6 +40,7 @@ int main(int argc, char** argv) {
     NameBglExcl = *Home + "\\Island_Excl.bgl";
     Dir_LCWC = *Home + "\\Classes";
     Dir_Raw = *Home + "\\Raw";
-    const bool Made = Paint_Map(Dir / "Island.bmp") && Save_Project(1, *Home + "\\Island.LWM");
+    const bool Made = Dir_Create(Dir_LCWC) && Dir_Create(Dir_Raw) &&
+                      Paint_Map(Dir / "Island.bmp") && Save_Project(1, *Home + "\\Island.LWM");
     return Made ? 0 : 1;
 }

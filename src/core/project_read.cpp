@@ -273,8 +273,6 @@ void Project_Reader::Read_Cell_Sections() {
 void Project_Reader::Read_PtGrid_Section() {
     if (Damaged_) return;
     Tab_PtGrid.Dimension(Most_Margin);
-    LodMesh = 2;
-    Mesh_Done = 0;
     Tagged_Line("0200");
     Take(LodMesh);
     Take(Mesh_Done);

@@ -188,7 +188,14 @@ TEST_F(Project_Damage, CountsThatTheFileDoesNotBear) {
         if (std::string_view(Count).size() == 1) continue;
         EXPECT_TRUE(Is_Damaged(With(File, "40  2 -9999", "40 " + std::string(Count) + " -9999")));
     }
-    EXPECT_TRUE(Is_Damaged(With(File, "0100  2", "0100  0"))) << "the reserved element is missing";
+    const std::size_t Objects = File.find("0100  2"), Cells = File.find("0120  1");
+    EXPECT_TRUE(Is_Damaged(File.substr(0, Objects) + "0100  0  0  0\r\n" + File.substr(Cells)))
+        << "the reserved element is missing";
+    const std::size_t Points = File.find("       10.25");
+    EXPECT_TRUE(Is_Damaged(
+        With(File.substr(0, Points) + File.substr(Cells), "40  2 -9999", "40 -1 -9999")));
+    EXPECT_TRUE(
+        Opens(With(File.substr(0, Points) + File.substr(Cells), "40  2 -9999", "40  0 -9999")));
     EXPECT_TRUE(Is_Damaged(With(File, "40  900", "40 -1")));
     EXPECT_TRUE(Is_Damaged(With(File, "40  900", "40  2147483648")));
 }

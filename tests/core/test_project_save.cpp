@@ -4,6 +4,7 @@
 #include "core/model_ops.h"
 #include "core/project_file.h"
 #include "core/project_maker.h"
+#include "platform/files.h"
 #include "support/environment.h"
 #include "support/program_test.h"
 
@@ -88,6 +89,20 @@ TEST_F(Project_Save, AFailureIsToldAndChangesNothing) {
     }
     EXPECT_EQ(Dir.Read("dir.LWM/inside.txt"), "kept");
     EXPECT_FALSE(Dir.Has("absent"));
+}
+
+TEST_F(Project_Save, TheOldFileStaysUntilTheNewOneIsWhole) {
+    ASSERT_TRUE(Save_Project(0, {}));
+    const std::string Old = Dir.Read("p.LWM");
+    Obj_Add({}, 1.0, 2.0);
+    bool Named = false;
+    On_Save_Step = [&](Save_Step Step) {
+        EXPECT_TRUE(Step == Save_Step::Sync_Dir || Dir.Read("p.LWM") == Old);
+        Named = Named || Step == Save_Step::Rename;
+    };
+    EXPECT_TRUE(Save_Project(0, {}));
+    EXPECT_TRUE(Named);
+    EXPECT_NE(Dir.Read("p.LWM"), Old);
 }
 
 TEST_F(Project_Save, TheSavedFileOpens) {

@@ -1,5 +1,4 @@
-// tests/core/test_project_versions.cpp - which versions open, and what becomes of one of
-// version 4.0.
+// tests/core/test_project_versions.cpp - versions that open, and changes to one of version 4.0.
 #include <vector>
 
 #include "core/model_ops.h"
@@ -128,6 +127,17 @@ TEST_F(Project_Versions, EachTickChangesItsOwnFields) {
         Answer(Choice);
         Read_Project_Text(File);
         EXPECT_EQ(Tab_Excl[1].Chk_Excl[7], Ticked ? 1 : 107);
+    }
+}
+
+TEST_F(Project_Versions, PolygonsWithAndWithoutShoreGetTheLayerOfPolygons) {
+    The_V24 = None;
+    The_V24.Chk_Change_Layer_Poly = true;
+    for (const Int SurfShore : {Int{0}, Int{1}, Int{2}, Int{3}}) {
+        Attr A;
+        A.SurfShore = SurfShore;
+        Upgrade_Obj(A);
+        EXPECT_EQ(A.Layer_Vtp2, SurfShore < 2 ? 17 : 4) << SurfShore;
     }
 }
 

@@ -68,5 +68,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
     const std::string Second = Saved();
     Read_Project_Text("0000 V5.0\n0002\n" + Second);
     Need(Load_Failed == 0 && Saved() == Second);
+    File_Delete(Path);
     return 0;
 }
