@@ -109,34 +109,41 @@ inline Drawing Coast(Long N) {
     return {Fitted(Ring(N, {{0, 0}, 1, 1, 0.25, 1, 1}), N >= 1'000'000 ? 300 : 40)};
 }
 
-/// A ribbon that winds to and fro in long parallel arms, with rough banks.
+/// A ribbon that winds to and fro in rows, with rough banks.
 inline Drawing Fjord(Long N) {
-    const Long Half = N / 2, Arms = std::max(2, static_cast<Long>(std::sqrt(Half / 40.0)));
-    std::vector<Pix> Line(static_cast<std::size_t>(2 * Half));
-    for (Long I = 0; I < Half; ++I) {
-        const Double S = static_cast<Double>(I) / Half * Arms;
-        const auto Arm = static_cast<Long>(S);
-        const Double Part = Arm % 2 == 0 ? S - Arm : 1.0 - (S - Arm);
-        // The arms lean over their length, so that the ribbon never stands still in Y.
-        const Double Y = S;
-        const Double X = 10.0 * Part;
-        for (const Long Bank : {0, 1}) {
-            const Double Rough = 0.08 * Hash_Unit(static_cast<std::uint64_t>(2 * I + Bank));
-            const Long At = Bank == 0 ? I : 2 * Half - 1 - I;
-            Line[static_cast<std::size_t>(At)] = {X, Y + (Bank == 0 ? 0.0 : 0.3) + Rough};
+    const Long Rows = std::max(2, static_cast<Long>(std::sqrt(N / 80.0)));
+    const Long In_Row = std::max(2, N / (2 * Rows));
+    std::vector<Pix> Line;
+    // One bank is the outer one at each turn on the right, the other on the left.
+    const auto Add_Row = [&](Long Row, bool Left_Bank, bool Back) {
+        for (Long K = 0; K < In_Row; ++K) {
+            const Long I = Back ? In_Row - 1 - K : K;
+            const Double Part = static_cast<Double>(I) / (In_Row - 1);
+            // None at the ends, so that the ends of the ribbon close without crossing a bank.
+            const Double Rough =
+                I == 0 || I == In_Row - 1
+                    ? 0.0
+                    : 0.1 * Hash_Unit(static_cast<std::uint64_t>(Row) * 2000003 +
+                                      static_cast<std::uint64_t>(2 * I + Left_Bank));
+            const bool North = Left_Bank == (Row % 2 == 0);
+            const Double X = 10.0 * (Row % 2 == 0 ? Part : 1.0 - Part);
+            Line.push_back(
+                {X + (Left_Bank ? 0.15 : -0.15), Row + (North ? -0.15 - Rough : 0.15 + Rough)});
         }
-    }
+    };
+    for (Long Row = 0; Row < Rows; ++Row) Add_Row(Row, true, false);
+    for (Long Row = Rows - 1; Row >= 0; --Row) Add_Row(Row, false, true);
     return {Fitted(std::move(Line), 40)};
 }
 
-/// A band that winds inward, a hundred points a turn.
+/// A band that winds inward, its points about as far apart as its turns.
 inline Drawing Spiral(Long N) {
     const Long Half = N / 2;
-    const Double Turns = std::max(2.0, Half / 100.0);
+    const Double Turns = std::max(2.0, std::sqrt(Half / std::numbers::pi) / 2);
     std::vector<Pix> Line(static_cast<std::size_t>(2 * Half));
     for (Long I = 0; I < Half; ++I) {
-        const Double Angle = 2.0 * std::numbers::pi * Turns * I / Half;
-        const Double Radius = 1.0 + Turns - Angle / (2.0 * std::numbers::pi);
+        const Double Radius = 1.0 + Turns * std::sqrt(1.0 - static_cast<Double>(I) / Half);
+        const Double Angle = 2.0 * std::numbers::pi * (1.0 + Turns - Radius);
         const Pix Way{std::cos(Angle), std::sin(Angle)};
         Line[static_cast<std::size_t>(I)] = {Radius * Way.X, Radius * Way.Y};
         const Double Inner = Radius - 0.6;
@@ -156,7 +163,9 @@ inline Drawing Comb(Long N) {
     }
     Line.push_back({Teeth - 0.2, -0.2});
     Line.push_back({-0.2, -0.2});
-    return {Fitted(std::move(Line), 40)};
+    Line = Fitted(std::move(Line), 40);
+    for (Pix& P : Line) P.Y *= 0.05;  // of two Cells' height: each tooth is cut at each parallel
+    return {Line};
 }
 
 /// A disc with one notch: a single run all but as long as the outline.

@@ -10,8 +10,10 @@
 #include "core/messages.h"
 #include "core/model.h"
 #include "core/view_calls.h"
+#include "gen/emit_classes.h"
 #include "gen/emit_excl.h"
 #include "gen/emit_lwm_poly.h"
+#include "gen/emit_night_lines.h"
 #include "gen/emit_remesh.h"
 #include "gen/emit_vtp2_poly.h"
 #include "gen/source_frame.h"
@@ -27,7 +29,10 @@ constexpr std::array The_Emitters{
     Emitter{Emit_Excl, false},
     Emitter{Emit_Remesh, true},
     Emitter{Emit_LWM_Poly, false},
+    Emitter{LC_Generate, false},
+    Emitter{WC_Generate, false},
     Emitter{Emit_VTP2_Poly, true},
+    Emitter{Night_Lines_Generate, false},
 };
 
 // What the textures of one number have in common: a point lies outside one of them exactly when

@@ -3,5 +3,5 @@
 
 /// Writes every object that is drawn as a line, cut along the Areas, as a VTP source of wide
 /// points and compiles it to the stem of NameBgl and "_9.bgl". Nothing is written when there are
-/// none.
+/// none, or when map pixels cannot be converted (message 7).
 void ShoreLines_Generate();

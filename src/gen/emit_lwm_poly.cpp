@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "core/host.h"
+#include "gen/coast_generate.h"
+#include "gen/emit_lines.h"
 #include "gen/emitter.h"
 #include "gen/lwm_blocks.h"
 #include "gen/lwm_text.h"
@@ -123,28 +125,33 @@ Source_End Write_Source(const std::string& Path) {
     return Has_Data ? Source_End::Has_Data : Source_End::No_Data;
 }
 
-// False when there are polygons and the map cannot be converted. Refused polygons leave
-// Tab_CPoly empty.
-bool Prepare_Polygons() {
-    if (!Any_Polygon(Technique_LWM)) return true;
-    if (!Can_Convert()) return false;
+// Refused polygons leave Tab_CPoly empty.
+void Prepare_Polygons() {
+    if (!Any_Polygon(Technique_LWM)) return;
     Poly_Prepare(Mode_LWM);
     if (Has_Imbric != 0 || Has_Auto != 0) Poly_To_Cells(Mode_LWM);
-    return true;
 }
 
 Source_End Convert(const std::string& Path) {
     const Work_Lists_Scope Lists;
-    return Prepare_Polygons() ? Write_Source(Path) : Source_End::Failed;
+    if ((Any_Coast() || Any_Polygon(Technique_LWM)) && !Can_Convert()) return Source_End::Failed;
+    Coast_Generate();
+    The_Host().Set_Caption("LCompile", "LWM Polygons : BGLC.exe");
+    The_Host().Refresh();
+    Prepare_Polygons();
+    return Write_Source(Path);
 }
 
 }  // namespace
 
 void Emit_LWM_Poly() {
     const std::string Bgl = Bgl_Path("_3");
-    Show_Stage(Bgl, "LWM Polygons : BGLC.exe");
+    The_Host().Set_Caption("LCompileNom", Bgl);
     const Hourglass Busy;
     const std::string Source = Source_Path("Terrafold$_Poly_LWM.asm");
-    if (Convert(Source) == Source_End::Has_Data)
-        Compile_Source(Source, Bgl, "pb Terrafold generation 2");
+    const Source_End End = Convert(Source);
+    if (End == Source_End::Failed) return;
+    if (End == Source_End::Has_Data && !Compile_Source(Source, Bgl, "pb Terrafold generation 2"))
+        return;
+    ShoreLines_Generate();
 }

@@ -25,6 +25,11 @@ std::string Bgl_Path(std::string_view Suffix) {
     return Bgl_Stem() + std::string(Suffix) + ".bgl";
 }
 
+std::string Mask_000(Long Num) {
+    const std::string Digits = std::to_string(Num);
+    return std::string(Digits.size() < 3 ? 3 - Digits.size() : 0, '0') + Digits;
+}
+
 bool Compile_Source(std::string_view Source, std::string_view Bgl, std::string_view Failure) {
     if (!Bgl_Stem().empty()) Output_Delete(Bgl);
     if (Run_BGLC(Source, Bgl)) return true;

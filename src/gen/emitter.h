@@ -36,6 +36,9 @@ bool Can_Convert();
 /// Path of an output: the stem of NameBgl, Suffix, ".bgl".
 std::string Bgl_Path(std::string_view Suffix);
 
+/// Num with three digits at least: "007".
+std::string Mask_000(Long Num);
+
 /// Deletes an older Bgl and compiles Source to it. When the assembler cannot be started, a plain
 /// box shows Failure and the result is false.
 bool Compile_Source(std::string_view Source, std::string_view Bgl, std::string_view Failure);

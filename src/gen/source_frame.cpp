@@ -23,13 +23,6 @@ void Box_Not_Made(const std::string& Path) {
               Path);
 }
 
-void Box_Not_Whole(const std::string& Path) {
-    Plain_Box(In_Language("Cannot write the file ",
-                          "Impossible d'\xE9"
-                          "crire le fichier ") +
-              Path);
-}
-
 // Path, with nothing there any more.
 const std::string& Deleted(const std::string& Path) {
     Output_Delete(Path);
@@ -104,6 +97,13 @@ void Show_Stage(std::string_view Name, std::string_view Stage) {
 
 void Output_Delete(std::string_view Path) {
     if (File_Delete(Path)) The_Host().Note_File(File_Event::Deleted, Path);
+}
+
+void Box_Not_Whole(const std::string& Path) {
+    Plain_Box(In_Language("Cannot write the file ",
+                          "Impossible d'\xE9"
+                          "crire le fichier ") +
+              Path);
 }
 
 bool Run_Process(std::string_view Cmd_Line, Int Show_Mode) {

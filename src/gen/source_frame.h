@@ -88,6 +88,9 @@ void Show_Stage(std::string_view Name, std::string_view Stage);
 /// Deletes a file if there is one, and tells the host.
 void Output_Delete(std::string_view Path);
 
+/// Tells the user in a plain box that a file could not be written.
+void Box_Not_Whole(const std::string& Path);
+
 /// Runs an outside tool by its command line and waits for it, its window in Show_Mode (0 is
 /// hidden). When it cannot be started, a box says so and the result is false.
 bool Run_Process(std::string_view Cmd_Line, Int Show_Mode);

@@ -1,17 +1,13 @@
-// grid/coarse_sort.cpp - a pass for each digit of 11 bits.
+// grid/coarse_sort.cpp - a pass for each digit.
 #include "grid/coarse_sort.h"
 
 #include <array>
 
-void Sort_By_Key(std::vector<Coarse_Entry>& List) {
-    constexpr int Bits = 11, Passes = 3;
+namespace {
+
+template <int Bits, int Passes>
+void Sort_By_Digits(std::vector<Coarse_Entry>& List) {
     constexpr std::size_t Buckets = 1U << Bits;
-    const auto By_Key = [](const Coarse_Entry& A, const Coarse_Entry& B) { return A.Key < B.Key; };
-    if (std::is_sorted(List.begin(), List.end(), By_Key)) return;
-    if (List.size() < Buckets) {
-        std::stable_sort(List.begin(), List.end(), By_Key);
-        return;
-    }
     std::array<std::array<std::size_t, Buckets + 1>, Passes> Start{};
     for (const Coarse_Entry& E : List)
         for (int P = 0; P < Passes; ++P)
@@ -23,4 +19,18 @@ void Sort_By_Key(std::vector<Coarse_Entry>& List) {
         for (const Coarse_Entry& E : List) Other[At[E.Key >> (P * Bits) & (Buckets - 1)]++] = E;
         List.swap(Other);
     }
+}
+
+}  // namespace
+
+void Sort_By_Key(std::vector<Coarse_Entry>& List) {
+    constexpr std::size_t Few = 64, Many = 4096;
+    const auto By_Key = [](const Coarse_Entry& A, const Coarse_Entry& B) { return A.Key < B.Key; };
+    if (std::is_sorted(List.begin(), List.end(), By_Key)) return;
+    if (List.size() < Few)
+        std::stable_sort(List.begin(), List.end(), By_Key);
+    else if (List.size() < Many)
+        Sort_By_Digits<8, 4>(List);
+    else
+        Sort_By_Digits<11, 3>(List);
 }

@@ -10,6 +10,7 @@
 // number of smaller entries that stood before each of its members.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -71,4 +72,13 @@ template <typename T, typename Before>
 void Exchange_Order(Table<T>& Tab, Before Comes_Before) {
     Exchange_Order(
         Tab, [](const T&) { return 0U; }, Comes_Before);
+}
+
+/// The order of an exchange sort that exchanges equal rows as well: the groups of equals ascend,
+/// each turned end to end.
+template <typename T, typename Before>
+void Exchange_Equals_Order(Table<T>& Tab, Before Comes_Before) {
+    const auto Rows = Tab.Rows();
+    std::reverse(Rows.begin(), Rows.end());
+    std::stable_sort(Rows.begin(), Rows.end(), Comes_Before);
 }

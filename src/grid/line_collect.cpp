@@ -9,7 +9,7 @@
 
 namespace {
 
-// Drawn lines need few copies of the tables of the model to hold their points.
+// Room for the copies of first points that close lines.
 constexpr Long Spare_Points = 50;
 
 void Read_Chain(const Obj& O, std::vector<WPt>& Line) {

@@ -57,6 +57,15 @@ struct Pieces {
     }
 };
 
+void Append_Piece(const WPoly& Like, std::span<const WPt> Points) {
+    WPoly Piece = Like;
+    Piece.First = Nb_NPt + 1;
+    for (const WPt& P : Points) Tab_NPt.Append(P);
+    Piece.Last = Nb_NPt;
+    Piece.Nb = static_cast<Long>(Points.size());
+    Tab_NPoly.Append(Piece);
+}
+
 class Line_Cutter {
 public:
     explicit Line_Cutter(const Line_Cut_Rule& Rule)
@@ -172,14 +181,7 @@ void Line_Cutter::Cut(const WPoly& W) {
         Cut_Along(Rows_, Line, By_Row_);
         for (std::size_t K = 0; K < By_Row_.End.size(); ++K) Cut_Along(Columns_, By_Row_[K], Done_);
     }
-    for (std::size_t K = 0; K < Done_.End.size(); ++K) {
-        WPoly Piece = W;
-        Piece.First = Nb_NPt + 1;
-        for (const WPt& P : Done_[K]) Tab_NPt.Append(P);
-        Piece.Last = Nb_NPt;
-        Piece.Nb = static_cast<Long>(Done_[K].size());
-        Tab_NPoly.Append(Piece);
-    }
+    for (std::size_t K = 0; K < Done_.End.size(); ++K) Append_Piece(W, Done_[K]);
 }
 
 }  // namespace
@@ -193,10 +195,7 @@ void Line_Cut(const Line_Cut_Rule& Rule) {
 }
 
 void Line_Emit_Piece(Long Poly, Long First, Long Last) {
-    WPoly Piece = Tab_WPoly[Poly];
-    Piece.First = Nb_NPt + 1;
-    for (Long I = First; I <= Last; ++I) Tab_NPt.Append(Tab_WPt[I]);
-    Piece.Last = Nb_NPt;
-    Piece.Nb = Last - First + 1;
-    Tab_NPoly.Append(Piece);
+    Append_Piece(Tab_WPoly[Poly],
+                 Tab_WPt.Rows().subspan(static_cast<std::size_t>(First - 1),
+                                        static_cast<std::size_t>(Last - First + 1)));
 }

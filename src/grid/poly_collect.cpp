@@ -2,11 +2,14 @@
 #include "grid/poly_collect.h"
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
+#include "core/messages.h"
 #include "core/model.h"
+#include "core/number_text.h"
 #include "grid/edge_tree.h"
-#include "grid/turn.h"
+#include "grid/segments.h"
 
 namespace {
 
@@ -39,14 +42,13 @@ void Drop_Repeats(std::vector<Pix>& Line) {
 // behind the last one dropped may escape the test, as the walk ends where the count falls to it.
 void Drop_Straight(std::vector<Pix>& Line) {
     const std::size_t Nb = Line.size();
-    const Double Size = Size_Of(Line);
     const Pix First = Line[0];
     const auto At = [&](std::size_t I) { return I < Nb ? Line[I] : First; };
     std::size_t Kept = 1;  // points kept
     std::size_t Next = 1;  // the point in question
     std::size_t Left = Nb;
     while (true) {
-        if (Turn(Line[Kept - 1], At(Next), At(Next + 1), Size) == 0) {
+        if (Sens_3Pts(Line[Kept - 1], At(Next), At(Next + 1)) == 0) {
             ++Next;
             --Left;
             if (Kept + 1 >= Left) break;
@@ -57,7 +59,7 @@ void Drop_Straight(std::vector<Pix>& Line) {
     }
     while (Next < Nb) Line[Kept++] = Line[Next++];
     Line.resize(Kept);
-    if (Turn(Line[Kept - 1], Line[0], Line[1], Size) == 0) Line.erase(Line.begin());
+    if (Sens_3Pts(Line[Kept - 1], Line[0], Line[1]) == 0) Line.erase(Line.begin());
 }
 
 void WPoly_Append(const Obj& O, std::span<const Pix> Line) {
@@ -122,4 +124,12 @@ Int Poly_Self_Cross(bool Closed) {
         return 3;
     }
     return 0;
+}
+
+void Self_Cross_Show() {
+    std::string Text = "Bmp pixel X:";
+    Text += std::string_view(Num_Text(Err_PixX));
+    Text += " Y:";
+    Text += std::string_view(Num_Text(Err_PixY));
+    Msg_Show_Text(121, Text);
 }

@@ -18,3 +18,6 @@ Int Poly_Orientation(std::span<const Pix> Outline);
 /// the lists goes to Err_PixX and Err_PixY. Outlines of fewer than 4 points are not tested; open
 /// ones (Closed false) have no closing edge.
 Int Poly_Self_Cross(bool Closed = true);
+
+/// Message 121 with the place that Poly_Self_Cross found.
+void Self_Cross_Show();

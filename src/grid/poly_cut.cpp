@@ -36,16 +36,22 @@ private:
 
     // What a cut in one direction works on; kept from polygon to polygon.
     struct Scratch {
-        std::vector<Pix> Stack;
+        Two_Pieces Two;
         std::vector<Waiting> Open;
         std::vector<Pix> Piece;
-        Two_Pieces Two;
+    };
+
+    // From where to where a line may stand that a polygon has to do with.
+    struct Extent {
+        Double Low, High;
     };
 
     template <typename Axis>
     void Cut_Along(const Axis& A, std::size_t First_Pass, std::span<const Pix> Polygon);
     template <typename Axis>
-    Line_Range Lines_Of(const Axis& A, std::span<const Pix> Polygon) const;
+    Cut_Result Cut_Piece(const Axis& A, std::size_t First_Pass, std::size_t& Line, Scratch& S);
+    template <typename Axis>
+    static Extent Extent_Of(const Axis& A, std::span<const Pix> Polygon);
     Scratch& Scratch_Of(const Parallels&) { return By_Parallel_; }
     Scratch& Scratch_Of(const Meridians&) { return By_Meridian_; }
     void Done(const Parallels&, std::span<const Pix> Piece) {
@@ -68,50 +74,58 @@ void Grid_Cutter::Cut(const WPoly& W) {
     Cut_Along(Parallels{Lines_.Y, Lines_.TolX, Lines_.TolY}, 0, Points_);
 }
 
-// The lines that a point of the polygon is on or that have points on both sides.
 template <typename Axis>
-Line_Range Grid_Cutter::Lines_Of(const Axis& A, std::span<const Pix> Polygon) const {
+Grid_Cutter::Extent Grid_Cutter::Extent_Of(const Axis& A, std::span<const Pix> Polygon) {
     Double Low = A.Across(Polygon[0]), High = Low;
     for (const Pix P : Polygon) {
         Low = std::min(Low, A.Across(P));
         High = std::max(High, A.Across(P));
     }
-    return Lines_Between(A.Lines, Low - A.Tol, High + A.Tol);
+    return {Low - A.Tol, High + A.Tol};
+}
+
+// Takes the piece to the next line that changes it, from Line on. Line is then the one behind.
+template <typename Axis>
+Cut_Result Grid_Cutter::Cut_Piece(const Axis& A, std::size_t First_Pass, std::size_t& Line,
+                                  Scratch& S) {
+    const Extent E = Extent_Of(A, S.Piece);
+    while (Line < A.Lines.size() && A.Lines[Line] < E.Low) ++Line;
+    while (Line < A.Lines.size() && A.Lines[Line] <= E.High && First_Pass + Line < End_Pass_) {
+        const Cut_Result Result = Convex_Cut(A, A.Lines[Line++], S.Piece, S.Two);
+        if (Result != Cut_Result::Whole) return Result;
+    }
+    return Cut_Result::Whole;
 }
 
 template <typename Axis>
 void Grid_Cutter::Cut_Along(const Axis& A, std::size_t First_Pass, std::span<const Pix> Polygon) {
-    const Line_Range Range = Lines_Of(A, Polygon);
+    const Extent E = Extent_Of(A, Polygon);
+    const Line_Range Range = Lines_Between(A.Lines, E.Low, E.High);
     if (Range.First == Range.End) {
         Done(A, Polygon);
         return;
     }
-    auto& [Stack, Open, Piece, Two] = Scratch_Of(A);
+    Scratch& S = Scratch_Of(A);
+    std::vector<Pix>& Stack = S.Two.Stack;
     Stack.assign(Polygon.begin(), Polygon.end());
-    Open.assign(1, {Polygon.size(), Range.First});
-    while (!Open.empty()) {
-        auto [Nb, Line] = Open.back();
-        Open.pop_back();
-        const auto First = Stack.end() - static_cast<std::ptrdiff_t>(Nb);
-        Piece.assign(First, Stack.end());
-        Stack.erase(First, Stack.end());
-        const Line_Range Own = Lines_Of(A, Piece);
-        Cut_Result Result = Cut_Result::Whole;
-        for (Line = std::max(Line, Own.First); Line < Own.End && Result == Cut_Result::Whole;
-             ++Line) {
-            if (First_Pass + Line >= End_Pass_) break;
-            Result = Convex_Cut(A, A.Lines[Line], Piece, Two);
-        }
-        if (Result == Cut_Result::Whole) {
-            Done(A, Piece);
-        } else if (Result == Cut_Result::Two) {
-            for (const auto* Part : {&Two.Second, &Two.First}) {
-                Stack.insert(Stack.end(), Part->begin(), Part->end());
-                Open.push_back({Part->size(), Line});
-            }
-        } else {
-            // No pass from this one on counts; an earlier one may fail yet.
-            Failed_ = End_Pass_ = First_Pass + Line - 1;
+    S.Open.assign(1, {Polygon.size(), Range.First});
+    while (!S.Open.empty()) {
+        auto [Nb, Line] = S.Open.back();
+        S.Open.pop_back();
+        S.Piece.assign(Stack.end() - static_cast<std::ptrdiff_t>(Nb), Stack.end());
+        Stack.resize(Stack.size() - Nb);
+        switch (Cut_Piece(A, First_Pass, Line, S)) {
+            case Cut_Result::Whole:
+                Done(A, S.Piece);
+                break;
+            case Cut_Result::Two:
+                S.Open.push_back({S.Two.Nb_Second, Line});
+                S.Open.push_back({S.Two.Nb_First, Line});
+                break;
+            case Cut_Result::Too_Often:
+                // No pass from this one on counts; an earlier one may fail yet.
+                Failed_ = End_Pass_ = First_Pass + Line - 1;
+                break;
         }
     }
 }

@@ -1,10 +1,7 @@
 // grid/poly_prepare.cpp - the steps from the drawn polygons to their pieces.
 #include "grid/poly_prepare.h"
 
-#include <string>
-
 #include "core/messages.h"
-#include "core/number_text.h"
 
 namespace {
 
@@ -16,20 +13,12 @@ void Refuse() {
     Has_Imbric = 0;
 }
 
-std::string Pixel_Text(Long X, Long Y) {
-    std::string Text = "Bmp pixel X:";
-    Text += std::string_view(Num_Text(X));
-    Text += " Y:";
-    Text += std::string_view(Num_Text(Y));
-    return Text;
-}
-
 }  // namespace
 
 void Poly_Prepare(Int Mode) {
     Poly_Collect(Mode);
     if (Poly_Self_Cross() != 0) {
-        Msg_Show_Text(121, Pixel_Text(Err_PixX, Err_PixY));
+        Self_Cross_Show();
         return Refuse();
     }
     Has_Imbric = 0;

@@ -21,3 +21,8 @@ void Poly_Prepare(Int Mode);
 /// from west to east, nesting groups inside a cell, outermost polygons first. Fills Tab_CPoly and
 /// Tab_CPt and empties Tab_WPoly and Tab_WPt.
 void Poly_To_Cells(Int Mode);
+
+/// The same into other lists. Pieces for which Drops holds, without their repeated points, are
+/// left out.
+void Poly_To_Cells_Into(Int Mode, Table<CPoly>& Polys, Table<CPt>& Places,
+                        bool (*Drops)(std::span<const CPt>) = nullptr);

@@ -10,8 +10,8 @@
 #include "core/host.h"
 #include "core/number_text.h"
 #include "grid/ear_clip.h"
+#include "grid/segments.h"
 #include "grid/split_outline.h"
-#include "grid/turn.h"
 
 namespace {
 
@@ -157,8 +157,8 @@ Long Splitter::End_Of_Run(Long A, Long V) {
 // is none; it has been looked at on the way.
 bool Splitter::Bends_Well(Long A, Long W, Long N) const {
     const Pix From = Line_.At(A), To = Line_.At(N);
-    return Turn(To, From, Line_.At(Line_.Next(A)), Line_.Size()) != 1 &&
-           Turn(Line_.At(W), To, From, Line_.Size()) != 1;
+    return Sens_3Pts(To, From, Line_.At(Line_.Next(A))) != 1 &&
+           Sens_3Pts(Line_.At(W), To, From) != 1;
 }
 
 // A large convex polygon as fans from its first point.

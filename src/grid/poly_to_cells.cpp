@@ -12,9 +12,7 @@ namespace {
 Cell_Pos Cell_Of(std::span<const WPt> Points) {
     Box_Pix B;
     for (const WPt& P : Points) B.Add(To_Pix(P));
-    Cell_Pos C;
-    Pixel_To_Cell_Loc({(B.LX + B.HX) / 2, (B.LY + B.HY) / 2}, C);
-    return C;
+    return LatLon_To_Cell(Pixel_To_LatLon({(B.LX + B.HX) / 2, (B.LY + B.HY) / 2}));
 }
 
 CPt Local(const WPt& P, const Cell_Pos& C, bool By_Area) {
@@ -43,10 +41,8 @@ void Drop_Repeats(std::vector<CPt>& Line) {
     Line.resize(Kept);
 }
 
-void CPoly_Append(const WPoly& W, const Cell_Pos& C, bool By_Area, std::span<const CPt> Line) {
-    CPoly P{.Nb = static_cast<Int>(Line.size()), .First = Nb_CPt + 1};
-    for (const CPt& Pt : Line) Tab_CPt.Append(Pt);
-    P.Last = Nb_CPt;
+CPoly Finished(const WPoly& W, const Cell_Pos& C, bool By_Area) {
+    CPoly P;
     P.AreaLon = C.AreaLon;
     P.AreaLat = C.AreaLat;
     P.CellLon = By_Area ? Int{0} : C.CellLon;
@@ -55,7 +51,7 @@ void CPoly_Append(const WPoly& W, const Cell_Pos& C, bool By_Area, std::span<con
     P.Attr = W.Attr;
     P.Draw_Order = W.Draw_Order;
     P.Group_Root = W.Group_Root;
-    Tab_CPoly.Append(P);
+    return P;
 }
 
 // The cell's place on the globe, row by row of Areas, then row by row inside the Area.
@@ -76,10 +72,11 @@ bool Comes_Before(const CPoly& A, const CPoly& B) {
 
 }  // namespace
 
-void Poly_To_Cells(Int Mode) {
+void Poly_To_Cells_Into(Int Mode, Table<CPoly>& Polys, Table<CPt>& Places,
+                        bool (*Drops)(std::span<const CPt>)) {
     const bool By_Area = Mode == 2;
-    Tab_CPoly.Reserve(Nb_WPoly);
-    Tab_CPt.Reserve(Nb_WPt);
+    Polys.Reserve(Nb_WPoly);
+    Places.Reserve(Nb_WPt);
     const std::span<const WPt> All = Tab_WPt.Rows();
     std::vector<CPt> Line;
     for (const WPoly& W : Tab_WPoly.Rows()) {
@@ -89,9 +86,20 @@ void Poly_To_Cells(Int Mode) {
         Line.clear();
         for (const WPt& P : Points) Line.push_back(Local(P, C, By_Area));
         Drop_Repeats(Line);
-        if (Line.size() >= 3 || (W.Nb == 2 && Line.size() == 2)) CPoly_Append(W, C, By_Area, Line);
+        if (Line.size() < 3 && !(W.Nb == 2 && Line.size() == 2)) continue;
+        if (Drops && Drops(Line)) continue;
+        CPoly P = Finished(W, C, By_Area);
+        P.Nb = static_cast<Int>(Line.size());
+        P.First = Places.Nb() + 1;
+        for (const CPt& Pt : Line) Places.Append(Pt);
+        P.Last = Places.Nb();
+        Polys.Append(P);
     }
     Tab_WPoly.Reset();
     Tab_WPt.Reset();
-    Exchange_Order(Tab_CPoly, Cell_Key, Comes_Before);
+    Exchange_Order(Polys, Cell_Key, Comes_Before);
+}
+
+void Poly_To_Cells(Int Mode) {
+    Poly_To_Cells_Into(Mode, Tab_CPoly, Tab_CPt);
 }

@@ -1,14 +1,15 @@
 // grid/split_outline.cpp - finding and taking off runs without looking at the whole outline again.
 #include "grid/split_outline.h"
 
-#include "grid/turn.h"
+#include "grid/segments.h"
 
 void Split_Outline::Load(std::span<const Pix> Points) {
     Point_.assign(Points.begin(), Points.end());
     Nb_ = static_cast<Long>(Points.size());
     First_ = 0;
     Nb_Reflex_ = 0;
-    Size_ = Size_Of(Points);
+    Size_ = 1.0;
+    for (const Pix P : Points) Size_ = std::max({Size_, std::abs(P.X), std::abs(P.Y)});
     Next_.resize(Points.size());
     Prev_.resize(Points.size());
     for (Long V = 0; V < Nb_; ++V) {
@@ -20,7 +21,7 @@ void Split_Outline::Load(std::span<const Pix> Points) {
     Reflex_.Reset(Nb_);
     Open_.Reset(Nb_);
     for (Long V = 0; V < Nb_; ++V) {
-        if (Turn(At(Prev(V)), At(V), At(Next(V)), Size_) == 1) {
+        if (Sens_3Pts(At(Prev(V)), At(V), At(Next(V))) == 1) {
             Reflex_.Add(V);
             ++Nb_Reflex_;
         } else {
@@ -43,30 +44,14 @@ Long Split_Outline::Find_Start() {
     }
 }
 
-// An edge whose ends lie on one side of the line cannot cross it, unless the rounding of the
-// meeting point comes into it (see Edge_Boxes); only then it takes the real test. The point
-// strays from the line as much as the edge's slope lets it, and from the edge as much as the
-// line's. Compared after multiplying by the edge's extent in X, which saves a division; an
-// upright edge always takes the real test.
-bool Split_Outline::Meets_Diag(Long E, const Diag& D) const {
-    const Pix P1 = At(E), P2 = At(Next(E));
-    const Double ex = std::abs(P2.X - P1.X), ey = std::abs(P2.Y - P1.Y);
-    const Double Z1 = D.dx * (P1.Y - D.A.Y) - D.dy * (P1.X - D.A.X);
-    const Double Z2 = D.dx * (P2.Y - D.A.Y) - D.dy * (P2.X - D.A.X);
-    const Double Margin = ex * D.Margin + ey * D.Margin_A_Slope;
-    if ((Z1 * ex > Margin && Z2 * ex > Margin) || (Z1 * ex < -Margin && Z2 * ex < -Margin))
-        return false;
-    return Seg_Cross(P1, P2, D.A, D.B).Code == 2;
-}
-
 // Some edge that the line from A to B crosses, or -1.
 Long Split_Outline::Crossed_Edge(Long A, Long B) {
     const Long Before = Prev(A);
     if (B == Before || Next(B) == Before) return None;
-    const Diag D(At(A), At(B), Size_);
+    const Pix From = At(A), To = At(B);
     Long Found = None;
-    Boxes_.Any_Near(D.A, D.B, Size_, {Before, B + 1}, [&](Long E) {
-        if (Meets_Diag(E, D)) Found = E;
+    Boxes_.Any_Near(From, To, Size_, {Before, B + 1}, [&](Long E) {
+        if (Seg_Cross(At(E), At(Next(E)), From, To).Code == 2) Found = E;
         return Found >= 0;
     });
     return Found;
@@ -91,7 +76,7 @@ void Split_Outline::Cut(Long A, Long B) {
 // Looks at the turn of V again after one of its neighbours has changed.
 void Split_Outline::Renew(Long V) {
     Unblock(V);
-    const bool Is_Now = Turn(At(Prev(V)), At(V), At(Next(V)), Size_) == 1;
+    const bool Is_Now = Sens_3Pts(At(Prev(V)), At(V), At(Next(V))) == 1;
     if (Is_Now != Reflex_.Has(V)) Nb_Reflex_ += Is_Now ? 1 : -1;
     if (Is_Now) {
         Reflex_.Add(V);
@@ -102,13 +87,10 @@ void Split_Outline::Renew(Long V) {
     }
 }
 
+// A point inside a run is never reflex.
 void Split_Outline::Take_Out(Long V) {
     Unblock(V);
     Free_Blocked_By(V);
-    if (Reflex_.Has(V)) {
-        Reflex_.Remove(V);
-        --Nb_Reflex_;
-    }
     Open_.Remove(V);
     Boxes_.Drop(V);
     --Nb_;

@@ -22,8 +22,6 @@ public:
     Pix At(Long V) const { return Point_[Ix(V)]; }
     Long Next(Long V) const { return Next_[Ix(V)]; }
     Long Prev(Long V) const { return Prev_[Ix(V)]; }
-    /// What Turn wants to know of the points.
-    Double Size() const { return Size_; }
 
     /// Whether no point is reflex, that is turns left.
     bool Is_Convex() const { return Nb_Reflex_ == 0; }
@@ -38,25 +36,13 @@ public:
     /// with an end at A or B do not count.
     bool Diag_Crosses(Long A, Long B) { return Crossed_Edge(A, B) >= 0; }
 
-    /// Takes the points between A and B off the outline, which then begins at A.
+    /// Takes the points between A and B off the outline, which then begins at A. None of them may
+    /// be reflex.
     void Cut(Long A, Long B);
 
 private:
-    // A line from point to point, and how near to it an edge's ends must lie for the real test.
-    struct Diag {
-        Diag(Pix A, Pix B, Double Size) : A(A), B(B), dx(B.X - A.X), dy(B.Y - A.Y) {
-            const Double Slope = dx == 0.0 ? 0.0 : std::abs(dy / dx);
-            Margin = Edge_Boxes::Roundings * Size * (std::abs(dx) + std::abs(dy)) * (3.0 + Slope);
-            Margin_A_Slope = Edge_Boxes::Roundings * Size * std::abs(dx);
-        }
-        Pix A, B;
-        Double dx, dy;
-        Double Margin, Margin_A_Slope;
-    };
-
     static std::size_t Ix(Long V) { return static_cast<std::size_t>(V); }
     Long Crossed_Edge(Long A, Long B);
-    bool Meets_Diag(Long E, const Diag& D) const;
     void Renew(Long V);
     void Take_Out(Long V);
     void Block(Long V, Long E);

@@ -195,6 +195,22 @@ TEST_F(Order_Test, EmittersRunInTheirOrder) {
     EXPECT_TRUE(Host_Of_Test.Boxes.empty());
 }
 
+TEST_F(Order_Test, ClassesBeforeTexturedPolygonsAndLightsLast) {
+    Tab_LC.Append({});
+    Tab_WC.Append({});
+    Dir_LCWC = Dir.Path();
+    Attr Road;
+    Road.SurfShore = 2;
+    Road.Line_Night = 1;
+    Draw({{100, 100}, {500, 100}}, Road);
+    Cmd_API();
+    EXPECT_EQ(Outputs(),
+              (Lines{"Excl.bgl\"", "Out_2.bgl\"", "Out_3.bgl\"", "Out_9.bgl\"", "TmpLC.Inf\"",
+                     "LWCcompress.tmf\"", "LC_000_000.bgl", "TmpWC.Inf\"", "LWCcompress.tmf\"",
+                     "WC_000_000.bgl", "Out_5.bgl\"", "Tmp.Bgl\" -l"}));
+    EXPECT_TRUE(Host_Of_Test.Boxes.empty());
+}
+
 TEST_F(Order_Test, TheRunGoesOnWithoutItsTools) {
     Host_Of_Test.Tool = [](std::string_view) { return false; };
     Cmd_API();

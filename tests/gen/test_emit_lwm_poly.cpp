@@ -29,6 +29,8 @@ void Fill_Project(Attr& Lake, Attr& Coast) {
     Tab_Lod8.Append({.AreaLon = 101, .AreaLat = 51, .Attrib = 0});
     Lake.Text_Rt = "Lac L\xE9man";
     Lake.Alti = 372.25;
+    Coast.SurfShore = 3;
+    Coast.Vtp1_Line = 1;  // no shore line beside the surface
     Coast.Alt_Coast = -1.5;
     Coast.Text_Rt = "shore";
 }
@@ -49,13 +51,15 @@ TEST_F(Emit_LWM_Poly_Test, FillsCoastsAndPolygons) {
     Tab_Area[5].Fill1x1 = 0;
     Tab_Area[5].InvertMask = 1;
     Tab_Area[5].InvertMaskValue = 0;
-    Add_Piece(Tab_CCoast, Tab_CCoastPt, {100, 50, 4, 6}, 4, Coast);
+    Draw({{X + 26, Y + Cell_Px}, {X + 130, Y + 100}, {X + 204, Y + Cell_Px}}, Coast);
     Dir.Write("Out_3.bgl", "old");
     Emit_LWM_Poly();
     EXPECT_TRUE(Equals_Golden("lwm_mask.asm", Source(Source_Name)));
     EXPECT_EQ(Host_Of_Test.Events, (Lines{"write " + App_Path + "\\" + Source_Name,
                                           "delete " + Dir.Path("Out_3.bgl"), Run_Event()}));
-    EXPECT_EQ(Host_Of_Test.Stages[1], "LCompile=LWM Polygons : BGLC.exe");
+    EXPECT_EQ(Host_Of_Test.Stages[0], "LCompileNom=" + Dir.Path("Out_3.bgl"));
+    EXPECT_EQ(Host_Of_Test.Stages[1], "LCompile=Coastlines");
+    EXPECT_EQ(std::ranges::count(Host_Of_Test.Stages, "LCompile=LWM Polygons : BGLC.exe"), 1);
     EXPECT_EQ(Nb_CPoly + Nb_CPt + Nb_CCoast + Nb_CCoastPt, 0);
 }
 
@@ -122,6 +126,7 @@ TEST_F(Emit_LWM_Poly_Test, ACalibrationThatCannotServe) {
     Attr Textured, Line;
     Textured.LWM_VTP2 = 1;
     Line.SurfShore = 2;
+    Line.Vtp1_Line = 1;
     Draw(Square(10, 10, 50), Textured);
     Draw({{10, 10}, {20, 30}}, Line);
     Tab_Area.Append(Cell_Record({100, 50, 9, 6}, 1));
@@ -129,10 +134,17 @@ TEST_F(Emit_LWM_Poly_Test, ACalibrationThatCannotServe) {
     EXPECT_EQ(Host_Of_Test.Last_Message(), -1) << "fills need no map";
     EXPECT_TRUE(Happened("run"));
     Host_Of_Test.Events.clear();
-    Draw(Square(10, 10, 50), Attr{});
-    Emit_LWM_Poly();
-    EXPECT_EQ(Host_Of_Test.Last_Message(), 7);
-    EXPECT_EQ(Host_Of_Test.Events.size(), 1U);
+    for (const Int Surf : {0, 3}) {
+        SCOPED_TRACE(Surf);
+        Attr Converted;
+        Converted.SurfShore = Surf;
+        Init_Tables();
+        Host_Of_Test.Events.clear();
+        Draw(Square(10, 10, 50), Converted);
+        Emit_LWM_Poly();
+        EXPECT_EQ(Host_Of_Test.Last_Message(), 7);
+        EXPECT_EQ(Host_Of_Test.Events.size(), 1U);
+    }
     EXPECT_EQ(Host_Of_Test.Pointer, Pointer_Shape::Normal);
 }
 

@@ -22,6 +22,7 @@ testing::AssertionResult Equals_Golden(std::string_view Name, std::string_view T
     const std::filesystem::path File =
         std::filesystem::path(TEST_DATA_DIR) / "golden" / std::string(Name);
     if (std::getenv("TERRAFOLD_ACCEPT") != nullptr) {
+        std::filesystem::create_directories(File.parent_path());
         std::ofstream(File, std::ios::binary) << Text;
         return testing::AssertionSuccess();
     }

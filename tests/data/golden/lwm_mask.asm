@@ -112,11 +112,10 @@ LWMStart    label   word
 ; 
 ; shore
 ; 
-          LWMPoly2   4,0,0,-1,64
-            LWMPoint 1,1
-            LWMPoint 2,1
-            LWMPoint 3,1
-            LWMPoint 4,1
+          LWMPoly2   3,0,0,-1,64
+            LWMPoint 26,255
+            LWMPoint 130,100
+            LWMPoint 204,255
         LWMDataAreaDrawPolygons 2,0,1,4,6
 ; 
 ; Lac Léman
