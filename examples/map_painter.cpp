@@ -110,7 +110,7 @@ void Paint_Object(Picture& Map, const Obj& O) {
     } else if (O.Attr.SurfShore == 3) {
         Stroke(Map, Points, false, 2.2, Shoreline);
     } else {
-        const bool Is_Road = O.Attr.LineType < 1034;
+        const bool Is_Road = O.Attr.LineType >= 1134;  // rivers and shores stand below
         Stroke(Map, Points, O.Attr.FermerLine == 1, Is_Road ? 3.0 : 2.0, Is_Road ? Road : Stream);
     }
 }

@@ -24,6 +24,8 @@ protected:
         NameBglExcl = Dir.Path("Island_Excl.bgl");
         Dir_LCWC = Dir.Path("Classes");
         Dir_Raw = Dir.Path("Raw");
+        std::filesystem::copy_file(TEST_SOURCE_DIR "/resource/OwnLines4.txt",
+                                   Dir.Native("App/Resource/OwnLines4.txt"));
         std::filesystem::create_directory(Dir.Native("Classes"));
         std::filesystem::create_directory(Dir.Native("Raw"));
         Host_Of_Test.Tool = [this](std::string_view Cmd_Line) { return Keep(Cmd_Line); };

@@ -32,63 +32,28 @@ VTPStart        label   word
                VTPWidePoint 7367, 1, 11809, 0
                VTPWidePointWidth 0
     datamark_v1 label   word
-        VTPDataArea 5, 1, 31, 9
-        VTPLayer 18, 0
+        VTPDataArea 4, 1, 31, 9
+        VTPLayer 21, 0
         VTPNumTexturesInLayer 2, 0
            VTPTextureId  1, 0 
             VTPPolyCount 1, 0
 ;
-;Coast road
+;River between the lakes
 ;
-             VTPPolyMethod2 20, 1, 0
-               VTPWidePoint 8800, 1, 10302, 0
+             VTPPolyMethod2 9, 1, 0
+               VTPWidePoint 11894, 1, 9652, 0
                VTPWidePointWidth 1
-               VTPWidePoint 8800, 1, 10302, 0
-               VTPWidePointWidth 12
-               VTPWidePoint 8800, 0, 10302, 0
-               VTPWidePoint 8801, 0, 10302, 0
-               VTPWidePoint 9044, 0, 10352, 0
-               VTPWidePoint 9211, 0, 10451, 0
-               VTPWidePoint 9466, 0, 10494, 0
-               VTPWidePoint 9642, 0, 10538, 0
-               VTPWidePoint 9802, 0, 10621, 0
-               VTPWidePoint 10056, 0, 10662, 0
-               VTPWidePoint 10359, 0, 10825, 0
-               VTPWidePoint 10594, 0, 10955, 0
-               VTPWidePoint 10945, 0, 11169, 0
-               VTPWidePoint 11219, 0, 11305, 0
-               VTPWidePoint 11430, 0, 11426, 0
-               VTPWidePoint 11755, 0, 11554, 0
-               VTPWidePoint 11998, 0, 11656, 0
-               VTPWidePoint 12131, 0, 11777, 0
-               VTPWidePoint 12240, 0, 11825, 0
-               VTPWidePoint 12241, 1, 11825, 0
+               VTPWidePoint 11894, 1, 9652, 0
+               VTPWidePointWidth 16
+               VTPWidePoint 11894, 0, 9652, 0
+               VTPWidePoint 11988, 0, 9629, 0
+               VTPWidePoint 12056, 0, 9732, 0
+               VTPWidePoint 12148, 0, 9768, 0
+               VTPWidePoint 12212, 0, 9868, 0
+               VTPWidePoint 12240, 0, 9887, 0
+               VTPWidePoint 12241, 1, 9887, 0
                VTPWidePointWidth 0
            VTPTextureId  2, 0 
-            VTPPolyCount 1, 0
-;
-;Pass road
-;
-             VTPPolyMethod2 13, 1, 0
-               VTPWidePoint 11791, 1, 11560, 0
-               VTPWidePointWidth 1
-               VTPWidePoint 11791, 1, 11560, 0
-               VTPWidePointWidth 8
-               VTPWidePoint 11791, 0, 11560, 0
-               VTPWidePoint 11790, 0, 11559, 0
-               VTPWidePoint 11783, 0, 11414, 0
-               VTPWidePoint 11860, 0, 11123, 0
-               VTPWidePoint 11962, 0, 10924, 0
-               VTPWidePoint 12045, 0, 10697, 0
-               VTPWidePoint 12116, 0, 10487, 0
-               VTPWidePoint 12153, 0, 10320, 0
-               VTPWidePoint 12224, 0, 10015, 0
-               VTPWidePoint 12240, 0, 9927, 0
-               VTPWidePoint 12240, 1, 9926, 0
-               VTPWidePointWidth 0
-        VTPLayer 21, 0
-        VTPNumTexturesInLayer 1, 0
-           VTPTextureId  3, 0 
             VTPPolyCount 1, 0
 ;
 ;Main island
@@ -195,8 +160,8 @@ VTPStart        label   word
                VTPWidePoint 12241, 1, 6657, 0
                VTPWidePointWidth 0
         VTPLayer 23, 0
-        VTPNumTexturesInLayer 1, 0
-           VTPTextureId  4, 0 
+        VTPNumTexturesInLayer 3, 0
+           VTPTextureId  0, 0 
             VTPPolyCount 1, 0
 ;
 ;Upper lake
@@ -281,25 +246,91 @@ VTPStart        label   word
                VTPWidePoint 11783, 0, 9238, 0
                VTPWidePoint 11783, 1, 9239, 0
                VTPWidePointWidth 0
+           VTPTextureId  3, 0 
+            VTPPolyCount 1, 0
+;
+;Coast road
+;
+             VTPPolyMethod2 20, 1, 0
+               VTPWidePoint 8800, 1, 10302, 0
+               VTPWidePointWidth 1
+               VTPWidePoint 8800, 1, 10302, 0
+               VTPWidePointWidth 16
+               VTPWidePoint 8800, 0, 10302, 0
+               VTPWidePoint 8801, 0, 10302, 0
+               VTPWidePoint 9044, 0, 10352, 0
+               VTPWidePoint 9211, 0, 10451, 0
+               VTPWidePoint 9466, 0, 10494, 0
+               VTPWidePoint 9642, 0, 10538, 0
+               VTPWidePoint 9802, 0, 10621, 0
+               VTPWidePoint 10056, 0, 10662, 0
+               VTPWidePoint 10359, 0, 10825, 0
+               VTPWidePoint 10594, 0, 10955, 0
+               VTPWidePoint 10945, 0, 11169, 0
+               VTPWidePoint 11219, 0, 11305, 0
+               VTPWidePoint 11430, 0, 11426, 0
+               VTPWidePoint 11755, 0, 11554, 0
+               VTPWidePoint 11998, 0, 11656, 0
+               VTPWidePoint 12131, 0, 11777, 0
+               VTPWidePoint 12240, 0, 11825, 0
+               VTPWidePoint 12241, 1, 11825, 0
+               VTPWidePointWidth 0
+           VTPTextureId  4, 0 
+            VTPPolyCount 1, 0
+;
+;Pass road
+;
+             VTPPolyMethod2 13, 1, 0
+               VTPWidePoint 11791, 1, 11560, 0
+               VTPWidePointWidth 1
+               VTPWidePoint 11791, 1, 11560, 0
+               VTPWidePointWidth 8
+               VTPWidePoint 11791, 0, 11560, 0
+               VTPWidePoint 11790, 0, 11559, 0
+               VTPWidePoint 11783, 0, 11414, 0
+               VTPWidePoint 11860, 0, 11123, 0
+               VTPWidePoint 11962, 0, 10924, 0
+               VTPWidePoint 12045, 0, 10697, 0
+               VTPWidePoint 12116, 0, 10487, 0
+               VTPWidePoint 12153, 0, 10320, 0
+               VTPWidePoint 12224, 0, 10015, 0
+               VTPWidePoint 12240, 0, 9927, 0
+               VTPWidePoint 12240, 1, 9926, 0
+               VTPWidePointWidth 0
         VTPLayer 24, 0
         VTPNumTexturesInLayer 1, 0
            VTPTextureId  5, 0 
-            VTPPolyCount 1, 0
+            VTPPolyCount 2, 0
 ;
-;River between the lakes
+;Harbour railway
 ;
-             VTPPolyMethod2 9, 1, 0
-               VTPWidePoint 11894, 1, 9652, 0
+             VTPPolyMethod2 7, 1, 0
+               VTPWidePoint 10993, 1, 12240, 0
                VTPWidePointWidth 1
-               VTPWidePoint 11894, 1, 9652, 0
-               VTPWidePointWidth 16
-               VTPWidePoint 11894, 0, 9652, 0
-               VTPWidePoint 11988, 0, 9629, 0
-               VTPWidePoint 12056, 0, 9732, 0
-               VTPWidePoint 12148, 0, 9768, 0
-               VTPWidePoint 12212, 0, 9868, 0
-               VTPWidePoint 12240, 0, 9887, 0
-               VTPWidePoint 12241, 1, 9887, 0
+               VTPWidePoint 10993, 1, 12240, 0
+               VTPWidePointWidth 6
+               VTPWidePoint 10993, 0, 12240, 0
+               VTPWidePoint 10994, 0, 12240, 0
+               VTPWidePoint 11027, 0, 12237, 0
+               VTPWidePoint 11040, 0, 12240, 0
+               VTPWidePoint 11041, 1, 12240, 0
+               VTPWidePointWidth 0
+;
+;Harbour railway
+;
+             VTPPolyMethod2 10, 1, 0
+               VTPWidePoint 9470, 1, 11914, 0
+               VTPWidePointWidth 1
+               VTPWidePoint 9470, 1, 11914, 0
+               VTPWidePointWidth 6
+               VTPWidePoint 9470, 0, 11914, 0
+               VTPWidePoint 9700, 0, 11951, 0
+               VTPWidePoint 9871, 0, 12046, 0
+               VTPWidePoint 10099, 0, 12085, 0
+               VTPWidePoint 10337, 0, 12138, 0
+               VTPWidePoint 10556, 0, 12217, 0
+               VTPWidePoint 10664, 0, 12240, 0
+               VTPWidePoint 10665, 1, 12240, 0
                VTPWidePointWidth 0
         VTPLayer 32, 0
         VTPNumTexturesInLayer 1, 0
@@ -331,101 +362,35 @@ VTPStart        label   word
                VTPWidePoint 7044, 1, 4079, 0
                VTPWidePointWidth 0
     datamark_v2 label   word
-        VTPDataArea 4, 1, 0, 9
-        VTPLayer 18, 0
+        VTPDataArea 3, 1, 0, 9
+        VTPLayer 21, 0
         VTPNumTexturesInLayer 2, 0
            VTPTextureId  1, 0 
             VTPPolyCount 1, 0
 ;
-;Coast road
+;River between the lakes
 ;
-             VTPPolyMethod2 21, 1, 0
-               VTPWidePoint 4079, 1, 11824, 0
+             VTPPolyMethod2 15, 1, 0
+               VTPWidePoint 4079, 1, 9886, 0
                VTPWidePointWidth 1
-               VTPWidePoint 4079, 1, 11824, 0
-               VTPWidePointWidth 12
-               VTPWidePoint 4079, 0, 11824, 0
-               VTPWidePoint 4080, 0, 11825, 0
-               VTPWidePoint 4171, 0, 11866, 0
-               VTPWidePoint 4403, 0, 11909, 0
-               VTPWidePoint 4597, 0, 11981, 0
-               VTPWidePoint 4786, 0, 12017, 0
-               VTPWidePoint 5171, 0, 12010, 0
-               VTPWidePoint 5489, 0, 11981, 0
-               VTPWidePoint 5830, 0, 12019, 0
-               VTPWidePoint 6136, 0, 11981, 0
-               VTPWidePoint 6446, 0, 11952, 0
-               VTPWidePoint 6731, 0, 11902, 0
-               VTPWidePoint 6955, 0, 11649, 0
-               VTPWidePoint 7126, 0, 11488, 0
-               VTPWidePoint 7244, 0, 11212, 0
-               VTPWidePoint 7410, 0, 10988, 0
-               VTPWidePoint 7620, 0, 10761, 0
-               VTPWidePoint 7738, 0, 10547, 0
-               VTPWidePoint 7739, 1, 10546, 0
+               VTPWidePoint 4079, 1, 9886, 0
+               VTPWidePointWidth 16
+               VTPWidePoint 4079, 0, 9886, 0
+               VTPWidePoint 4080, 0, 9887, 0
+               VTPWidePoint 4153, 0, 9936, 0
+               VTPWidePoint 4231, 0, 9965, 0
+               VTPWidePoint 4395, 0, 10067, 0
+               VTPWidePoint 4474, 0, 10189, 0
+               VTPWidePoint 4556, 0, 10208, 0
+               VTPWidePoint 4695, 0, 10353, 0
+               VTPWidePoint 4780, 0, 10446, 0
+               VTPWidePoint 4908, 0, 10509, 0
+               VTPWidePoint 4985, 0, 10599, 0
+               VTPWidePoint 5057, 0, 10701, 0
+               VTPWidePoint 5058, 1, 10702, 0
                VTPWidePointWidth 0
            VTPTextureId  2, 0 
-            VTPPolyCount 1, 0
-;
-;Pass road
-;
-             VTPPolyMethod2 16, 1, 0
-               VTPWidePoint 4079, 1, 9928, 0
-               VTPWidePointWidth 1
-               VTPWidePoint 4079, 1, 9928, 0
-               VTPWidePointWidth 8
-               VTPWidePoint 4079, 0, 9928, 0
-               VTPWidePoint 4080, 0, 9927, 0
-               VTPWidePoint 4131, 0, 9637, 0
-               VTPWidePoint 4210, 0, 9377, 0
-               VTPWidePoint 4230, 0, 9039, 0
-               VTPWidePoint 4337, 0, 8767, 0
-               VTPWidePoint 4409, 0, 8479, 0
-               VTPWidePoint 4362, 0, 8287, 0
-               VTPWidePoint 4293, 0, 8117, 0
-               VTPWidePoint 4210, 0, 7971, 0
-               VTPWidePoint 4165, 0, 7783, 0
-               VTPWidePoint 4167, 0, 7598, 0
-               VTPWidePoint 4082, 0, 7412, 0
-               VTPWidePoint 4082, 1, 7411, 0
-               VTPWidePointWidth 0
-        VTPLayer 21, 0
-        VTPNumTexturesInLayer 1, 0
-           VTPTextureId  3, 0 
             VTPPolyCount 2, 0
-;
-;Main island
-;
-             VTPPolyMethod2 26, 1, 0
-               VTPWidePoint 9557, 1, 9919, 0
-               VTPWidePointWidth 1
-               VTPWidePoint 9557, 1, 9919, 0
-               VTPWidePointWidth 32
-               VTPWidePoint 9557, 0, 9919, 0
-               VTPWidePoint 9557, 0, 9920, 0
-               VTPWidePoint 9558, 0, 10028, 0
-               VTPWidePoint 9553, 0, 10138, 0
-               VTPWidePoint 9546, 0, 10248, 0
-               VTPWidePoint 9540, 0, 10357, 0
-               VTPWidePoint 9536, 0, 10468, 0
-               VTPWidePoint 9537, 0, 10579, 0
-               VTPWidePoint 9543, 0, 10692, 0
-               VTPWidePoint 9554, 0, 10806, 0
-               VTPWidePoint 9568, 0, 10923, 0
-               VTPWidePoint 9586, 0, 11043, 0
-               VTPWidePoint 9603, 0, 11164, 0
-               VTPWidePoint 9618, 0, 11288, 0
-               VTPWidePoint 9628, 0, 11412, 0
-               VTPWidePoint 9629, 0, 11536, 0
-               VTPWidePoint 9620, 0, 11659, 0
-               VTPWidePoint 9598, 0, 11780, 0
-               VTPWidePoint 9562, 0, 11897, 0
-               VTPWidePoint 9513, 0, 12011, 0
-               VTPWidePoint 9451, 0, 12119, 0
-               VTPWidePoint 9376, 0, 12223, 0
-               VTPWidePoint 9362, 0, 12240, 0
-               VTPWidePoint 9361, 1, 12241, 0
-               VTPWidePointWidth 0
 ;
 ;Main island
 ;
@@ -504,9 +469,42 @@ VTPStart        label   word
                VTPWidePoint 9556, 0, 9918, 0
                VTPWidePoint 9557, 1, 9919, 0
                VTPWidePointWidth 0
-        VTPLayer 23, 0
+;
+;Main island
+;
+             VTPPolyMethod2 26, 1, 0
+               VTPWidePoint 9557, 1, 9919, 0
+               VTPWidePointWidth 1
+               VTPWidePoint 9557, 1, 9919, 0
+               VTPWidePointWidth 32
+               VTPWidePoint 9557, 0, 9919, 0
+               VTPWidePoint 9557, 0, 9920, 0
+               VTPWidePoint 9558, 0, 10028, 0
+               VTPWidePoint 9553, 0, 10138, 0
+               VTPWidePoint 9546, 0, 10248, 0
+               VTPWidePoint 9540, 0, 10357, 0
+               VTPWidePoint 9536, 0, 10468, 0
+               VTPWidePoint 9537, 0, 10579, 0
+               VTPWidePoint 9543, 0, 10692, 0
+               VTPWidePoint 9554, 0, 10806, 0
+               VTPWidePoint 9568, 0, 10923, 0
+               VTPWidePoint 9586, 0, 11043, 0
+               VTPWidePoint 9603, 0, 11164, 0
+               VTPWidePoint 9618, 0, 11288, 0
+               VTPWidePoint 9628, 0, 11412, 0
+               VTPWidePoint 9629, 0, 11536, 0
+               VTPWidePoint 9620, 0, 11659, 0
+               VTPWidePoint 9598, 0, 11780, 0
+               VTPWidePoint 9562, 0, 11897, 0
+               VTPWidePoint 9513, 0, 12011, 0
+               VTPWidePoint 9451, 0, 12119, 0
+               VTPWidePoint 9376, 0, 12223, 0
+               VTPWidePoint 9362, 0, 12240, 0
+               VTPWidePoint 9361, 1, 12241, 0
+               VTPWidePointWidth 0
+        VTPLayer 22, 0
         VTPNumTexturesInLayer 1, 0
-           VTPTextureId  6, 0 
+           VTPTextureId  0, 0 
             VTPPolyCount 1, 0
 ;
 ;Reservoir shore
@@ -542,37 +540,68 @@ VTPStart        label   word
                VTPWidePoint 7538, 0, 9240, 0
                VTPWidePoint 7538, 1, 9239, 0
                VTPWidePointWidth 0
-        VTPLayer 24, 0
-        VTPNumTexturesInLayer 1, 0
-           VTPTextureId  5, 0 
+        VTPLayer 23, 0
+        VTPNumTexturesInLayer 2, 0
+           VTPTextureId  3, 0 
             VTPPolyCount 1, 0
 ;
-;River between the lakes
+;Coast road
 ;
-             VTPPolyMethod2 15, 1, 0
-               VTPWidePoint 4079, 1, 9886, 0
+             VTPPolyMethod2 21, 1, 0
+               VTPWidePoint 4079, 1, 11824, 0
                VTPWidePointWidth 1
-               VTPWidePoint 4079, 1, 9886, 0
+               VTPWidePoint 4079, 1, 11824, 0
                VTPWidePointWidth 16
-               VTPWidePoint 4079, 0, 9886, 0
-               VTPWidePoint 4080, 0, 9887, 0
-               VTPWidePoint 4153, 0, 9936, 0
-               VTPWidePoint 4231, 0, 9965, 0
-               VTPWidePoint 4395, 0, 10067, 0
-               VTPWidePoint 4474, 0, 10189, 0
-               VTPWidePoint 4556, 0, 10208, 0
-               VTPWidePoint 4695, 0, 10353, 0
-               VTPWidePoint 4780, 0, 10446, 0
-               VTPWidePoint 4908, 0, 10509, 0
-               VTPWidePoint 4985, 0, 10599, 0
-               VTPWidePoint 5057, 0, 10701, 0
-               VTPWidePoint 5058, 1, 10702, 0
+               VTPWidePoint 4079, 0, 11824, 0
+               VTPWidePoint 4080, 0, 11825, 0
+               VTPWidePoint 4171, 0, 11866, 0
+               VTPWidePoint 4403, 0, 11909, 0
+               VTPWidePoint 4597, 0, 11981, 0
+               VTPWidePoint 4786, 0, 12017, 0
+               VTPWidePoint 5171, 0, 12010, 0
+               VTPWidePoint 5489, 0, 11981, 0
+               VTPWidePoint 5830, 0, 12019, 0
+               VTPWidePoint 6136, 0, 11981, 0
+               VTPWidePoint 6446, 0, 11952, 0
+               VTPWidePoint 6731, 0, 11902, 0
+               VTPWidePoint 6955, 0, 11649, 0
+               VTPWidePoint 7126, 0, 11488, 0
+               VTPWidePoint 7244, 0, 11212, 0
+               VTPWidePoint 7410, 0, 10988, 0
+               VTPWidePoint 7620, 0, 10761, 0
+               VTPWidePoint 7738, 0, 10547, 0
+               VTPWidePoint 7739, 1, 10546, 0
+               VTPWidePointWidth 0
+           VTPTextureId  4, 0 
+            VTPPolyCount 1, 0
+;
+;Pass road
+;
+             VTPPolyMethod2 16, 1, 0
+               VTPWidePoint 4079, 1, 9928, 0
+               VTPWidePointWidth 1
+               VTPWidePoint 4079, 1, 9928, 0
+               VTPWidePointWidth 8
+               VTPWidePoint 4079, 0, 9928, 0
+               VTPWidePoint 4080, 0, 9927, 0
+               VTPWidePoint 4131, 0, 9637, 0
+               VTPWidePoint 4210, 0, 9377, 0
+               VTPWidePoint 4230, 0, 9039, 0
+               VTPWidePoint 4337, 0, 8767, 0
+               VTPWidePoint 4409, 0, 8479, 0
+               VTPWidePoint 4362, 0, 8287, 0
+               VTPWidePoint 4293, 0, 8117, 0
+               VTPWidePoint 4210, 0, 7971, 0
+               VTPWidePoint 4165, 0, 7783, 0
+               VTPWidePoint 4167, 0, 7598, 0
+               VTPWidePoint 4082, 0, 7412, 0
+               VTPWidePoint 4082, 1, 7411, 0
                VTPWidePointWidth 0
     datamark_v3 label   word
-        VTPDataArea 1, 1, 31, 10
+        VTPDataArea 2, 1, 31, 10
         VTPLayer 21, 0
         VTPNumTexturesInLayer 1, 0
-           VTPTextureId  3, 0 
+           VTPTextureId  2, 0 
             VTPPolyCount 1, 0
 ;
 ;Main island
@@ -629,11 +658,47 @@ VTPStart        label   word
                VTPWidePoint 7806, 0, 4080, 0
                VTPWidePoint 7805, 1, 4079, 0
                VTPWidePointWidth 0
+        VTPLayer 24, 0
+        VTPNumTexturesInLayer 1, 0
+           VTPTextureId  5, 0 
+            VTPPolyCount 2, 0
+;
+;Harbour railway
+;
+             VTPPolyMethod2 7, 1, 0
+               VTPWidePoint 10663, 1, 4079, 0
+               VTPWidePointWidth 1
+               VTPWidePoint 10663, 1, 4079, 0
+               VTPWidePointWidth 6
+               VTPWidePoint 10663, 0, 4079, 0
+               VTPWidePoint 10664, 0, 4080, 0
+               VTPWidePoint 10759, 0, 4100, 0
+               VTPWidePoint 10994, 0, 4080, 0
+               VTPWidePoint 10995, 1, 4079, 0
+               VTPWidePointWidth 0
+;
+;Harbour railway
+;
+             VTPPolyMethod2 11, 1, 0
+               VTPWidePoint 11039, 1, 4079, 0
+               VTPWidePointWidth 1
+               VTPWidePoint 11039, 1, 4079, 0
+               VTPWidePointWidth 6
+               VTPWidePoint 11039, 0, 4079, 0
+               VTPWidePoint 11040, 0, 4080, 0
+               VTPWidePoint 11284, 0, 4134, 0
+               VTPWidePoint 11523, 0, 4149, 0
+               VTPWidePoint 11779, 0, 4136, 0
+               VTPWidePoint 12012, 0, 4169, 0
+               VTPWidePoint 12211, 0, 4168, 0
+               VTPWidePoint 12240, 0, 4168, 0
+               VTPWidePoint 12241, 1, 4168, 0
+               VTPWidePointWidth 0
     datamark_v4 label   word
-        VTPDataArea 2, 1, 0, 10
+        VTPDataArea 3, 1, 0, 10
         VTPLayer 21, 0
         VTPNumTexturesInLayer 1, 0
-           VTPTextureId  3, 0 
+           VTPTextureId  2, 0 
             VTPPolyCount 1, 0
 ;
 ;Main island
@@ -693,6 +758,24 @@ VTPStart        label   word
                VTPWidePoint 4080, 0, 5613, 0
                VTPWidePoint 4079, 1, 5612, 0
                VTPWidePointWidth 0
+        VTPLayer 24, 0
+        VTPNumTexturesInLayer 1, 0
+           VTPTextureId  5, 0 
+            VTPPolyCount 1, 0
+;
+;Harbour railway
+;
+             VTPPolyMethod2 7, 1, 0
+               VTPWidePoint 4079, 1, 4167, 0
+               VTPWidePointWidth 1
+               VTPWidePoint 4079, 1, 4167, 0
+               VTPWidePointWidth 6
+               VTPWidePoint 4079, 0, 4167, 0
+               VTPWidePoint 4080, 0, 4168, 0
+               VTPWidePoint 4289, 0, 4170, 0
+               VTPWidePoint 4541, 0, 4163, 0
+               VTPWidePoint 4765, 1, 4162, 0
+               VTPWidePointWidth 0
         VTPLayer 32, 0
         VTPNumTexturesInLayer 1, 0
            VTPTextureId  0, 0 
@@ -745,7 +828,7 @@ Cellv_352_362    EQU  VTPCellID 0, 352, 362
     VTPIndexEntry Cellv_352_362, VTPStart, datamark_v4, datamark_v5
 ;-----------------------------
 TextureStart    label   word
-    VTPTextureListHeader 7, TextureIndexStart, TextureDataStart, TextureDataEnd
+    VTPTextureListHeader 6, TextureIndexStart, TextureDataStart, TextureDataEnd
 TextureIndexStart   label   word
     VTPTextureListEntry TextureDataStart, texturemark_0, texturemark_1
     VTPTextureListEntry TextureDataStart, texturemark_1, texturemark_2
@@ -753,30 +836,28 @@ TextureIndexStart   label   word
     VTPTextureListEntry TextureDataStart, texturemark_3, texturemark_4
     VTPTextureListEntry TextureDataStart, texturemark_4, texturemark_5
     VTPTextureListEntry TextureDataStart, texturemark_5, texturemark_6
-    VTPTextureListEntry TextureDataStart, texturemark_6, texturemark_7
 TextureDataStart    label   word
     texturemark_0   label   word
         VTPTextureName "1024"
         VTPTextureType 0, 0, 0, 0
     texturemark_1   label   word
-        VTPTextureName "1028"
-        VTPTextureType 0, 0, 0, 0
-    texturemark_2   label   word
-        VTPTextureName "1030"
-        VTPTextureType 0, 0, 0, 0
-    texturemark_3   label   word
-        VTPTextureName "1100"
-        VTPTextureType 0, 0, 0, 0
-    texturemark_4   label   word
-        VTPTextureName "1134"
-        VTPTextureType 0, 0, 0, 0
-    texturemark_5   label   word
         VTPTextureName "1034"
         VTPTextureType 0, 0, 0, 0
-    texturemark_6   label   word
-        VTPTextureName "1140"
+    texturemark_2   label   word
+        VTPTextureName "ShoreSU.bmp"
+        VTPTextureType 2, 1, 0, 4
+         BYTE "fx_surf"
+         BYTE 0
+    texturemark_3   label   word
+        VTPTextureName "1142"
         VTPTextureType 0, 0, 0, 0
-    texturemark_7   label   word
+    texturemark_4   label   word
+        VTPTextureName "1160"
+        VTPTextureType 0, 0, 0, 0
+    texturemark_5   label   word
+        VTPTextureName "RailSu.bmp;RailSu.bmp;RailSu.bmp;RailWi.bmp"
+        VTPTextureType 2, 0, 0, 4
+    texturemark_6   label   word
 TextureDataEnd  label   word
 ; ------------------------------
 VTPEnd      label   word
