@@ -27,7 +27,7 @@ Box_Index::Box_Index(std::span<const Box_Pix> Boxes) : Place_(Boxes.size()) {
     std::sort(Place_.begin(), Place_.end(), [&](Long I, Long J) { return Mid_X(I) < Mid_X(J); });
     const std::size_t N = Place_.size();
     const auto Strips =
-        static_cast<std::size_t>(std::ceil(std::sqrt(static_cast<Double>(N / Fan + 1))));
+        static_cast<std::size_t>(std::ceil(std::sqrt(static_cast<Double>(N) / Fan + 1.0)));
     const std::size_t Strip = ((N + Strips - 1) / Strips + Fan - 1) / Fan * Fan;
     for (std::size_t First = 0; First < N; First += Strip)
         std::sort(Place_.begin() + static_cast<std::ptrdiff_t>(First),

@@ -68,7 +68,7 @@ private:
     int Side(std::size_t I) const { return Side_Of(A_.Across(P_[I]), Line_, A_.Tol); }
 
     // The usual case, settled in one walk: no vertex is on the line, and the side changes twice or
-    // never. False when it is not so; nothing is found then. Saves a tenth of the cut's time.
+    // never. False when it is not so; nothing is found then.
     bool Find_Plain_Cuts() {
         if (P_.size() < 3) return false;
         const int First = Side(0);

@@ -6,7 +6,7 @@
 //
 // Where only boxes meet, the segment may still keep off. That is told apart with a margin, for
 // the meeting point that Seg_Cross works out is rounded: it lies inside both boxes, but strays
-// from either line by up to Roundings * ((slope 1 + slope 2) * X + Y), measured upright. Slopes
+// from either line by up to 64 roundings of (slope 1 + slope 2) * X + Y, measured upright. Slopes
 // count as 0 for upright segments. Edges that are all but upright stray far; nodes with such an
 // edge are looked into whenever boxes meet.
 #pragma once
@@ -32,8 +32,6 @@ struct Place_Range {
 
 class Edge_Boxes {
 public:
-    static constexpr Double Roundings = 64 * std::numeric_limits<Double>::epsilon();
-
     /// Room for N edges, all absent.
     void Reset(Long N);
 

@@ -36,7 +36,7 @@ Edge_Tree::Edge_Tree(std::span<const WPt> Pts, bool Closed, std::span<Box_Pix> M
     for (int Lv = 1; Lv <= Top_; ++Lv) {
         const Box_Pix* Below = Level_[static_cast<std::size_t>(Lv - 1)];
         for (Long K = 0; K < Count(Lv); ++K) {
-            Box_Pix B = Below[2 * K];
+            Box_Pix B = Below[std::ptrdiff_t{2} * K];
             if (2 * K + 1 < Count(Lv - 1)) B.Add(Below[2 * K + 1]);
             Level_[static_cast<std::size_t>(Lv)][K] = B;
         }

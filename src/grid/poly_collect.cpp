@@ -14,7 +14,7 @@
 namespace {
 
 bool Is_Taken(const Obj& O, Int Mode) {
-    const Int Technique = Mode == 0 ? 0 : Mode == 1 ? 2 : 1;
+    const int Technique = Mode == 0 ? 0 : Mode == 1 ? 2 : 1;
     return (O.Attr.SurfShore == 0 || O.Attr.SurfShore == 1) && O.Nb_Pts >= 2 &&
            O.Attr.LWM_VTP2 == Technique;
 }

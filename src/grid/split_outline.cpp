@@ -45,7 +45,7 @@ Long Split_Outline::Find_Start() {
 }
 
 // Some edge that the line from A to B crosses, or -1.
-Long Split_Outline::Crossed_Edge(Long A, Long B) {
+Long Split_Outline::Crossed_Edge(Long A, Long B) const {
     const Long Before = Prev(A);
     if (B == Before || Next(B) == Before) return None;
     const Pix From = At(A), To = At(B);
