@@ -1,0 +1,47 @@
+// bench/bench_plain_rules.cpp - the plain rules of the polygon pipeline beside the fast ones.
+//
+//     bench_plain_rules DRAWING
+//
+// The plain rules grow with the square of a drawing: keep it small, "coast-3000" for one.
+#include <cstdio>
+#include <ctime>
+
+#include "drawings.h"
+#include "grid/poly_prepare.h"
+#include "reference/polygons.h"
+
+namespace {
+
+double Cpu_Seconds() {
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+template <typename F>
+double Time_Of(F Run) {
+    const double Start = Cpu_Seconds();
+    Run();
+    return Cpu_Seconds() - Start;
+}
+
+}  // namespace
+
+int main(int Count, char** Words) {
+    const auto Drawing = Count == 2 ? drawings::Named(Words[1]) : std::nullopt;
+    if (!Drawing) {
+        std::fprintf(stderr, "bench_plain_rules DRAWING\n");
+        return 1;
+    }
+    drawings::Into_Model(*Drawing);
+    const double Plain = Time_Of([] {
+        reference::Poly_Prepare(0);
+        reference::Poly_To_Cells(0);
+    });
+    const double Fast = Time_Of([] {
+        Poly_Prepare(0);
+        Poly_To_Cells(0);
+    });
+    const bool Same = Nb_CPoly == reference::Tab_CPoly.Nb() && Nb_CPt == reference::Tab_CPt.Nb();
+    std::printf("%s  plain %.3f s  fast %.4f s  %s\n", Words[1], Plain, Fast,
+                Same ? "same number of pieces and points" : "DIFFERENT RESULTS");
+    return Same ? 0 : 1;
+}
