@@ -32,24 +32,24 @@ std::size_t Tex_List::Hash::operator()(const Tex& T) const {
     return std::hash<std::string>{}(T.Name) ^ std::hash<std::size_t>{}(Numbers);
 }
 
-Long Tex_List::Tex_Find(const Tex_Spec& Spec) {
-    Tex T{.LandClass = Spec.LandClass, .LC = Spec.LC, .Name = {}, .Tex_Type = Spec.Tex_Type};
-    if (Spec.LandClass != 0) T.Name = Tex_Join(Spec.Names);
+Long Tex_List::Tex_Find(const Tex_Spec& Wanted) {
+    Tex T{.LandClass = Wanted.LandClass, .LC = Wanted.LC, .Name = {}, .Tex_Type = Wanted.Tex_Type};
+    if (Wanted.LandClass != 0) T.Name = Tex_Join(Wanted.Names);
     const auto [At, Is_New] = Row_.try_emplace(T, Tab_Tex_.Nb() + 1);
     if (Is_New) Tab_Tex_.Append(std::move(T));
     return At->second;
 }
 
 // False when a name was refused: another call may then find another name in its place.
-bool Tex_List::Take_Names(const Attr& A, Tex_Spec& Spec) {
+bool Tex_List::Take_Names(const Attr& A, Tex_Spec& Wanted) {
     bool All_Valid = true;
     std::string Dir;
-    for (std::size_t I = 0; I < Spec.Names.size(); ++I) {
+    for (std::size_t I = 0; I < Wanted.Names.size(); ++I) {
         if (Trim(A.Texture_Name[I]).empty()) continue;
         Byte Err = 0;
         Path_Split(A.Texture_Name[I], Dir, Last_Name_, Err);
         if (Err != 0) All_Valid = false;
-        Spec.Names[I] = Last_Name_;
+        Wanted.Names[I] = Last_Name_;
     }
     return All_Valid;
 }
@@ -57,11 +57,11 @@ bool Tex_List::Take_Names(const Attr& A, Tex_Spec& Spec) {
 Long Tex_List::Find_For(const Attr& A) {
     // The pieces of a polygon come one after the other.
     if (&A == Last_Attr_) return Last_Row_;
-    Tex_Spec Spec;
-    Spec.LandClass = A.LandClass;
-    if (A.LandClass == 0) Spec.LC = A.LC;
-    const bool Same_Again = A.LandClass != 1 || Take_Names(A, Spec);
-    Last_Row_ = Tex_Find(Spec);
+    Tex_Spec Wanted;
+    Wanted.LandClass = A.LandClass;
+    if (A.LandClass == 0) Wanted.LC = A.LC;
+    const bool Same_Again = A.LandClass != 1 || Take_Names(A, Wanted);
+    Last_Row_ = Tex_Find(Wanted);
     Last_Attr_ = Same_Again ? &A : nullptr;
     return Last_Row_;
 }

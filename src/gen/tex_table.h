@@ -33,8 +33,8 @@ std::string Tex_Join(const std::array<std::string, 6>& Names);
 
 class Tex_List {
 public:
-    /// The row of what Spec asks for, added if it is new.
-    Long Tex_Find(const Tex_Spec& Spec);
+    /// The row of what Wanted asks for, added if it is new.
+    Long Tex_Find(const Tex_Spec& Wanted);
 
     /// The row for the attributes of an object. A texture name that is not empty and no valid
     /// path counts as the name accepted last by this list, so the order of the calls matters.
@@ -47,7 +47,7 @@ private:
     struct Hash {
         std::size_t operator()(const Tex& T) const;
     };
-    bool Take_Names(const Attr& A, Tex_Spec& Spec);
+    bool Take_Names(const Attr& A, Tex_Spec& Wanted);
 
     Table<Tex> Tab_Tex_{10, 3};
     std::unordered_map<Tex, Long, Hash> Row_;

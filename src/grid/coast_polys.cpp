@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "grid/point_scans.h"
+#include "grid/drawn_line.h"
 #include "grid/poly_collect.h"
 #include "grid/poly_cut.h"
 #include "grid/poly_split.h"

@@ -5,20 +5,12 @@
 #include <span>
 #include <vector>
 
-#include "grid/point_scans.h"
+#include "grid/drawn_line.h"
 
 namespace {
 
 // Room for the copies of first points that close lines.
 constexpr Long Spare_Points = 50;
-
-void Read_Chain(const Obj& O, std::vector<WPt>& Line) {
-    Line.clear();
-    for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
-        Line.push_back({.X = Tab_Pt[P].X, .Y = Tab_Pt[P].Y});
-        if (P == O.Last_Pt) return;
-    }
-}
 
 // The line cleaned; false when nothing of it is left to draw. The last point's tag goes with the
 // point when the line ends where it began; the first end keeps its tag.
@@ -34,16 +26,6 @@ bool Clean(const Attr& A, bool Has_Tags, std::vector<WPt>& Line) {
 void Close(std::vector<WPt>& Line) {
     Line.back().Tag = Tag_Plain;
     Line.push_back(WPt(Line.front()));
-}
-
-void WPoly_Append(const Obj& O, std::span<const WPt> Line) {
-    const Long First = Nb_WPt + 1;
-    for (const WPt& P : Line) Tab_WPt.Append(P);
-    Tab_WPoly.Append({.Num = O.Num,
-                      .Attr = &O.Attr,
-                      .First = First,
-                      .Last = Nb_WPt,
-                      .Nb = static_cast<Long>(Line.size())});
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "core/messages.h"
 #include "core/model.h"
 #include "core/number_text.h"
+#include "grid/drawn_line.h"
 #include "grid/edge_tree.h"
 #include "grid/segments.h"
 
@@ -19,57 +20,10 @@ bool Is_Taken(const Obj& O, Int Mode) {
            O.Attr.LWM_VTP2 == Technique;
 }
 
-void Read_Chain(const Obj& O, std::vector<Pix>& Line) {
-    Line.clear();
-    for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
-        Line.push_back({Tab_Pt[P].X, Tab_Pt[P].Y});
-        if (P == O.Last_Pt) return;
-    }
-}
-
-// Of equal neighbours the last stays; at the closing edge the first.
-void Drop_Repeats(std::vector<Pix>& Line) {
-    std::size_t Kept = 0;
-    for (std::size_t I = 1; I < Line.size(); ++I) {
-        if (!(Line[I] == Line[Kept])) ++Kept;
-        Line[Kept] = Line[I];
-    }
-    while (Kept > 0 && Line[Kept] == Line[0]) --Kept;
-    Line.resize(Kept + 1);
-}
-
-// A point goes when the path through it from the point kept before it makes no turn. The point
-// behind the last one dropped may escape the test, as the walk ends where the count falls to it.
-void Drop_Straight(std::vector<Pix>& Line) {
-    const std::size_t Nb = Line.size();
-    const Pix First = Line[0];
-    const auto At = [&](std::size_t I) { return I < Nb ? Line[I] : First; };
-    std::size_t Kept = 1;  // points kept
-    std::size_t Next = 1;  // the point in question
-    std::size_t Left = Nb;
-    while (true) {
-        if (Sens_3Pts(Line[Kept - 1], At(Next), At(Next + 1)) == 0) {
-            ++Next;
-            --Left;
-            if (Kept + 1 >= Left) break;
-        } else {
-            if (Kept + 1 == Left) break;
-            Line[Kept++] = Line[Next++];
-        }
-    }
-    while (Next < Nb) Line[Kept++] = Line[Next++];
-    Line.resize(Kept);
-    if (Sens_3Pts(Line[Kept - 1], Line[0], Line[1]) == 0) Line.erase(Line.begin());
-}
-
-void WPoly_Append(const Obj& O, std::span<const Pix> Line) {
-    const Long First = Nb_WPt + 1;
-    for (const Pix P : Line) Tab_WPt.Append({.X = P.X, .Y = P.Y});
-    Tab_WPoly.Append({.Num = O.Num,
-                      .Attr = &O.Attr,
-                      .First = First,
-                      .Last = Nb_WPt,
-                      .Nb = static_cast<Long>(Line.size())});
+// An outline goes on at its first point, which may be in line with its neighbours as well.
+void Drop_Straight_Round(std::vector<Pix>& Line) {
+    Drop_Straight(Line);
+    if (Sens_3Pts(Line.back(), Line[0], Line[1]) == 0) Line.erase(Line.begin());
 }
 
 }  // namespace
@@ -101,7 +55,7 @@ void Poly_Collect(Int Mode) {
         if (!Is_Taken(Tab_Obj[I], Mode)) continue;
         Read_Chain(Tab_Obj[I], Line);
         Drop_Repeats(Line);
-        if (Line.size() >= 3) Drop_Straight(Line);
+        if (Line.size() >= 3) Drop_Straight_Round(Line);
         if (Line.size() < 2) continue;
         if (Line.size() >= 3 && Poly_Orientation(Line) == 0) std::reverse(Line.begin(), Line.end());
         WPoly_Append(Tab_Obj[I], Line);

@@ -1,13 +1,32 @@
-// grid/point_scans.h - the scans that drop points of a drawing that say nothing.
+// grid/drawn_line.h - a drawn chain on its way into the work lists: read, rid of the points that
+// say nothing, stored.
 //
-// The way from the last point back to the first belongs to the drawing in both, whether it is an
-// outline or an open line. A point is anything with X and Y in map pixels.
+// The way from the last point back to the first belongs to the drawing in both scans, whether it
+// is an outline or an open line. A point is anything with X and Y in map pixels.
 #pragma once
 
 #include <cstddef>
 #include <vector>
 
 #include "grid/segments.h"
+#include "grid/work_lists.h"
+
+/// The points of an object with one point or more, in the order of its chain.
+template <typename Point>
+void Read_Chain(const Obj& O, std::vector<Point>& Line) {
+    Line.clear();
+    for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
+        Line.push_back({.X = Tab_Pt[P].X, .Y = Tab_Pt[P].Y});
+        if (P == O.Last_Pt) return;
+    }
+}
+
+inline WPt To_WPt(const WPt& P) {
+    return P;
+}
+inline WPt To_WPt(Pix P) {
+    return {.X = P.X, .Y = P.Y};
+}
 
 template <typename Point>
 Pix Place_Of(const Point& P) {
@@ -50,4 +69,16 @@ void Drop_Straight(std::vector<Point>& Line) {
     }
     while (Next < Nb) Line[Kept++] = Line[Next++];
     Line.resize(Kept);
+}
+
+/// Adds a line of an object to Tab_WPoly and Tab_WPt.
+template <typename Point>
+void WPoly_Append(const Obj& O, const std::vector<Point>& Line) {
+    const Long First = Nb_WPt + 1;
+    for (const Point& P : Line) Tab_WPt.Append(To_WPt(P));
+    Tab_WPoly.Append({.Num = O.Num,
+                      .Attr = &O.Attr,
+                      .First = First,
+                      .Last = Nb_WPt,
+                      .Nb = static_cast<Long>(Line.size())});
 }
