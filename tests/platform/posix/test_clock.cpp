@@ -5,10 +5,10 @@
 #include <regex>
 
 #include "platform/clock.h"
-#include "platform/posix/env_scope.h"
+#include "support/environment.h"
 
 TEST(Clock, SourceDateEpochIsUtc) {
-    const Env_Scope Zone("TZ", "America/New_York");
+    const Environment_Scope Zone("TZ", "America/New_York");
     const struct {
         const char* Epoch;
         const char* Text;
@@ -17,16 +17,16 @@ TEST(Clock, SourceDateEpochIsUtc) {
                  {"1709210096", "2024-02-29 12:34:56"},
                  {"253402300799", "9999-12-31 23:59:59"}};
     for (const auto& Case : Cases) {
-        const Env_Scope Epoch("SOURCE_DATE_EPOCH", Case.Epoch);
+        const Environment_Scope Epoch("SOURCE_DATE_EPOCH", Case.Epoch);
         EXPECT_EQ(Date_Time_Text(), Case.Text);
     }
 }
 
 TEST(Clock, LocalTimeWhenNoWholeNumberIsAsked) {
-    const Env_Scope Zone("TZ", "XYZ-20");  // no place on earth is 20 hours ahead
+    const Environment_Scope Zone("TZ", "XYZ-20");  // no place on earth is 20 hours ahead
     tzset();
     for (const char* Epoch : {"", "yesterday", "12.5", "12 ", "-1", "253402300800", "1e9"}) {
-        const Env_Scope Scope("SOURCE_DATE_EPOCH", Epoch);
+        const Environment_Scope Scope("SOURCE_DATE_EPOCH", Epoch);
         const std::time_t Before = std::time(nullptr);
         const std::string Text = Date_Time_Text();
         ASSERT_TRUE(std::regex_match(Text, std::regex(R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d)")))

@@ -4,8 +4,8 @@
 #include <unistd.h>
 
 #include "platform/instance_lock.h"
-#include "platform/posix/env_scope.h"
 #include "platform/process.h"
+#include "support/environment.h"
 #include "support/temp_dir.h"
 
 namespace fs = std::filesystem;
@@ -30,8 +30,8 @@ bool Free_For_Others() {
 TEST(Instance_Lock, HeldByOneProcessUntilItEnds) {
     const Temp_Dir Dir;
     for (const char* Variable : {"XDG_RUNTIME_DIR", "TMPDIR"}) {
-        const Env_Scope No_Runtime("XDG_RUNTIME_DIR", std::nullopt);
-        const Env_Scope Place(Variable, Dir.Native().string());
+        const Environment_Scope No_Runtime("XDG_RUNTIME_DIR", std::nullopt);
+        const Environment_Scope Place(Variable, Dir.Native().string());
         {
             Instance_Lock Lock;
             EXPECT_TRUE(Free_For_Others()) << "made, not taken";
@@ -47,7 +47,7 @@ TEST(Instance_Lock, HeldByOneProcessUntilItEnds) {
 
 TEST(Instance_Lock, WhatIsNotOursIsNoLock) {
     const Temp_Dir Dir;
-    const Env_Scope Runtime("XDG_RUNTIME_DIR", Dir.Native().string());
+    const Environment_Scope Runtime("XDG_RUNTIME_DIR", Dir.Native().string());
     Dir.Write("victim", "kept");
     fs::create_symlink("victim", Dir.Native("terrafold.lock"));
     Instance_Lock First, Second;

@@ -3,7 +3,7 @@
 
 #include "platform/files.h"
 #include "platform/paths.h"
-#include "platform/posix/env_scope.h"
+#include "support/environment.h"
 #include "support/temp_dir.h"
 
 namespace fs = std::filesystem;
@@ -86,7 +86,7 @@ TEST(Paths, DrivesAreThoseOfTheWinePrefix) {
     fs::create_directory_symlink("../drive_c", Dir.Native("dosdevices/c:"));
     fs::create_directory_symlink("/none/of/this", Dir.Native("dosdevices/d:"));
     {
-        const Env_Scope Prefix("WINEPREFIX", Dir.Native().string());
+        const Environment_Scope Prefix("WINEPREFIX", Dir.Native().string());
         EXPECT_EQ(Native_Path("C:\\program files\\fs9\\FS9.EXE"),
                   Dir.Native("drive_c/Program Files/FS9/fs9.exe"));
         EXPECT_EQ(Native_Path("c:\\..\\New"), Dir.Native("drive_c/New")) << "no way out of a drive";
@@ -94,8 +94,8 @@ TEST(Paths, DrivesAreThoseOfTheWinePrefix) {
         EXPECT_EQ(Native_Path("E:\\x"), std::nullopt);
         EXPECT_FALSE(File_Writer("E:\\x", File_Writer::Mode::Safe).Is_Open());
     }
-    const Env_Scope No_Prefix("WINEPREFIX", std::nullopt);
-    const Env_Scope Home("HOME", Dir.Native().string());
+    const Environment_Scope No_Prefix("WINEPREFIX", std::nullopt);
+    const Environment_Scope Home("HOME", Dir.Native().string());
     EXPECT_EQ(Native_Path("C:\\x"), std::nullopt);
     fs::create_directory(Dir.Native(".wine"));
     fs::rename(Dir.Native("dosdevices"), Dir.Native(".wine/dosdevices"));
@@ -105,7 +105,7 @@ TEST(Paths, DrivesAreThoseOfTheWinePrefix) {
 
 TEST(Paths, AFileOfAnotherComputerIsFoundBesideTheProject) {
     const Temp_Dir Dir;
-    const Env_Scope Prefix("WINEPREFIX", Dir.Native("none").string());
+    const Environment_Scope Prefix("WINEPREFIX", Dir.Native("none").string());
     Dir.Write("Isle.LWM", "");
     Dir.Write("Map.bmp", "");
     Dir.Write("far/Map.bmp", "");

@@ -7,8 +7,8 @@
 #include <csignal>
 
 #include "platform/posix/command_line.h"
-#include "platform/posix/env_scope.h"
 #include "platform/process.h"
+#include "support/environment.h"
 #include "support/temp_dir.h"
 
 namespace fs = std::filesystem;
@@ -35,7 +35,7 @@ protected:
     }
 
     const Temp_Dir Dir;
-    const Env_Scope Prefix_{"WINEPREFIX", Dir.Native("prefix").string()};
+    const Environment_Scope Prefix_{"WINEPREFIX", Dir.Native("prefix").string()};
 };
 
 }  // namespace
@@ -92,7 +92,7 @@ TEST_F(Process, WhatCannotBeStartedIsTold) {
 
 TEST_F(Process, ANameWithoutADirectoryIsLookedForInThePath) {
     Put_Tool("bin/terrafold_stand_in");
-    const Env_Scope Path("PATH", "/none:" + Dir.Native("bin").string());
+    const Environment_Scope Path("PATH", "/none:" + Dir.Native("bin").string());
     EXPECT_EQ(Run("terrafold_stand_in a"), "[a]");
     EXPECT_FALSE(Process_Run("terrafold_other a", true));
     EXPECT_FALSE(Process_Run("bin\\terrafold_stand_in a", true));
@@ -129,11 +129,11 @@ TEST_F(Process, WindowsProgramsRunByWine) {
     const std::string Line = "\"" + Dir.Path("tools dir\\bglc.exe") + "\" \"" +
                              Dir.Path("a b.asm") + "\" C:\\out.bgl \\\\host\\x rel\\y";
     {
-        const Env_Scope Path("PATH", Dir.Native("none").string());
+        const Environment_Scope Path("PATH", Dir.Native("none").string());
         EXPECT_EQ(Run(Line), "-") << "no wine";
     }
     Put_Tool("bin/wine");
-    const Env_Scope Path("PATH", Dir.Native("bin").string() + ":/usr/bin:/bin");
+    const Environment_Scope Path("PATH", Dir.Native("bin").string() + ":/usr/bin:/bin");
     EXPECT_EQ(Run(Line), "[Z:" + Dir.Path("Tools dir\\Bglc.exe") + "][Z:" + Dir.Path("a b.asm") +
                              "][C:\\out.bgl][\\\\host\\x][rel\\y]");
     EXPECT_EQ(Run("c:\\SCASM.exe a"), "[c:\\SCASM.exe][a]");

@@ -4,9 +4,9 @@
 #include <cstdio>
 
 #include "platform/files.h"
-#include "platform/posix/env_scope.h"
 #include "platform/process.h"
 #include "platform/program_dir.h"
+#include "support/environment.h"
 #include "support/temp_dir.h"
 
 namespace fs = std::filesystem;
@@ -35,8 +35,8 @@ protected:
     }
 
     const Temp_Dir Dir;
-    const Env_Scope No_Home_{"TERRAFOLD_HOME", std::nullopt};
-    const Env_Scope Data_{"XDG_DATA_HOME", Dir.Native("data").string()};
+    const Environment_Scope No_Home_{"TERRAFOLD_HOME", std::nullopt};
+    const Environment_Scope Data_{"XDG_DATA_HOME", Dir.Native("data").string()};
 };
 
 }  // namespace
@@ -59,8 +59,8 @@ TEST_F(Moved_Program, AnUnpackedProgramUsesItsOwnDirectory) {
 }
 
 TEST_F(Moved_Program, ARelativeDataDirectoryIsIgnored) {
-    const Env_Scope Home("HOME", Dir.Native().string());
-    const Env_Scope Relative("XDG_DATA_HOME", "data");
+    const Environment_Scope Home("HOME", Dir.Native().string());
+    const Environment_Scope Relative("XDG_DATA_HOME", "data");
     ASSERT_TRUE(Start());
     EXPECT_TRUE(Dir.Has(".local/share/terrafold/Resource"));
 }
@@ -68,15 +68,15 @@ TEST_F(Moved_Program, ARelativeDataDirectoryIsIgnored) {
 TEST(Program_Dir, TheVariableInEitherForm) {
     const Temp_Dir Dir;
     {
-        const Env_Scope Named("TERRAFOLD_HOME", Dir.Native("my app/").string());
+        const Environment_Scope Named("TERRAFOLD_HOME", Dir.Native("my app/").string());
         EXPECT_EQ(Find_App_Dir(), Dir.Path("my app"));
     }
     {
-        const Env_Scope Named("TERRAFOLD_HOME", Dir.Path("app\\"));
+        const Environment_Scope Named("TERRAFOLD_HOME", Dir.Path("app\\"));
         EXPECT_EQ(Find_App_Dir(), Dir.Path("app")) << "given in the program's form";
     }
     {
-        const Env_Scope Named("TERRAFOLD_HOME", Dir.Native("\xCE\xA9").string());
+        const Environment_Scope Named("TERRAFOLD_HOME", Dir.Native("\xCE\xA9").string());
         EXPECT_EQ(Find_App_Dir(), std::nullopt) << "no path of ours";
     }
 }

@@ -1,8 +1,8 @@
 // tests/platform/posix/test_simulator_dir.cpp - finding the simulator without a registry.
 #include <gtest/gtest.h>
 
-#include "platform/posix/env_scope.h"
 #include "platform/simulator_dir.h"
+#include "support/environment.h"
 #include "support/temp_dir.h"
 
 namespace {
@@ -15,8 +15,8 @@ protected:
     }
 
     const Temp_Dir Dir;
-    const Env_Scope No_Variable_{"TERRAFOLD_FSDIR", std::nullopt};
-    const Env_Scope Prefix_{"WINEPREFIX", Dir.Native().string()};
+    const Environment_Scope No_Variable_{"TERRAFOLD_FSDIR", std::nullopt};
+    const Environment_Scope Prefix_{"WINEPREFIX", Dir.Native().string()};
 };
 
 }  // namespace
@@ -26,14 +26,15 @@ TEST_F(Simulator, TheVariableInEitherForm) {
               "[Software\\\\Microsoft\\\\Microsoft Games\\\\Flight Simulator\\\\9.0]\n"
               "\"EXE Path\"=\"C:\\\\FS9\"\n");
     {
-        const Env_Scope Named("TERRAFOLD_FSDIR", Dir.Native("jeux \xC3\xA9t\xC3\xA9/").string());
+        const Environment_Scope Named("TERRAFOLD_FSDIR",
+                                      Dir.Native("jeux \xC3\xA9t\xC3\xA9/").string());
         EXPECT_EQ(Simulator_Dir(), Dir.Path("jeux \xE9t\xE9\\"));
     }
     {
-        const Env_Scope Named("TERRAFOLD_FSDIR", "D:\\FS9");
+        const Environment_Scope Named("TERRAFOLD_FSDIR", "D:\\FS9");
         EXPECT_EQ(Simulator_Dir(), "D:\\FS9");
     }
-    const Env_Scope Empty("TERRAFOLD_FSDIR", "");
+    const Environment_Scope Empty("TERRAFOLD_FSDIR", "");
     EXPECT_EQ(Simulator_Dir(), "C:\\FS9") << "an empty variable says nothing";
 }
 
