@@ -50,11 +50,6 @@ LCell Cell_Of_Piece(const CPoly& P) {
     return C;
 }
 
-bool Same_Cell(const CPoly& A, const CPoly& B) {
-    return A.AreaLat == B.AreaLat && A.AreaLon == B.AreaLon && A.CellLat == B.CellLat &&
-           A.CellLon == B.CellLon;
-}
-
 // Calls Visit with the first and the last row of each Cell's pieces.
 template <typename F>
 void Each_Cell_Run(const Table<CPoly>& Tab, F Visit) {

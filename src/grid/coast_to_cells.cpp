@@ -106,11 +106,6 @@ bool Have_All_Corners(std::span<const CPoly> Polys, const Table<CPt>& Points) {
     return Found == 15;
 }
 
-bool Same_Cell(const CPoly& A, const CPoly& B) {
-    return A.AreaLon == B.AreaLon && A.AreaLat == B.AreaLat && A.CellLon == B.CellLon &&
-           A.CellLat == B.CellLat;
-}
-
 void Append(CPoly P, const Table<CPt>& Points) {
     const Long First = Nb_CCoastPt + 1;
     for (Long I = P.First; I <= P.Last; ++I) Tab_CCoastPt.Append(Points[I]);

@@ -49,6 +49,12 @@ struct CPoly {
     Long Seq = 0;  // always 0
 };
 
+/// Whether two pieces lie in one cell.
+inline bool Same_Cell(const CPoly& A, const CPoly& B) {
+    return A.AreaLat == B.AreaLat && A.AreaLon == B.AreaLon && A.CellLat == B.CellLat &&
+           A.CellLon == B.CellLon;
+}
+
 struct CPt {
     Double X = 0.0, Y = 0.0;  // map pixels
     Int LocX = 0, LocY = 0;   // Cell scale or Area scale, as the cutting was
