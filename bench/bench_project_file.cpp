@@ -4,11 +4,9 @@
 // all digits. Prints the best of five runs each way, and the peak memory of the whole program
 // beside the size of the model itself.
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <random>
 #include <string>
 
@@ -16,6 +14,7 @@
 #include "core/model_ops.h"
 #include "core/program.h"
 #include "core/project_file.h"
+#include "measure.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 
@@ -24,7 +23,7 @@ namespace {
 constexpr int Nb_Objects = 100'000;
 constexpr int Nb_Pts_Each = 10;
 constexpr int Nb_Runs = 5;
-constexpr double Megabyte = 1e6;
+using measure::Megabyte;
 
 void Make_Model() {
     std::mt19937_64 Source(20031004);
@@ -39,36 +38,13 @@ void Make_Model() {
     }
 }
 
-// Memory that a string takes beside its own record.
-std::size_t Heap_Of(const std::string& S) {
-    return S.capacity() > std::string().capacity() ? S.capacity() + 1 : 0;
-}
-
-std::size_t Model_Size() {
-    std::size_t Size = static_cast<std::size_t>(Nb_Pt) * sizeof(Pt);
-    for (const Obj& O : Tab_Obj.Rows()) {
-        Size += sizeof(Obj) + Heap_Of(O.Attr.Text_Rt) + Heap_Of(O.Attr.Imbrication);
-        for (const std::string& Name : O.Attr.Texture_Name) Size += Heap_Of(Name);
-    }
-    return Size;
-}
-
-// Bytes, or 0 where the system does not tell it in this way.
-double Peak_Memory() {
-    std::ifstream Status("/proc/self/status");
-    for (std::string Line; std::getline(Status, Line);)
-        if (Line.starts_with("VmHWM:")) return std::atof(Line.c_str() + 6) * 1024.0;
-    return 0.0;
-}
-
 template <typename F>
 double Best_Seconds(F&& Job) {
     double Best = 1e9;
     for (int Run = 0; Run < Nb_Runs; ++Run) {
-        const auto Start = std::chrono::steady_clock::now();
+        const double Start = measure::Wall_Seconds();
         Job();
-        const std::chrono::duration<double> Took = std::chrono::steady_clock::now() - Start;
-        Best = std::min(Best, Took.count());
+        Best = std::min(Best, measure::Wall_Seconds() - Start);
     }
     return Best;
 }
@@ -97,8 +73,8 @@ int main() {
         Stop_Unless(Load_Failed == 0, "the project was not read");
     });
     Stop_Unless(Nb_Obj == Nb_Objects + 1 && Nb_Pt == Nb_Objects * Nb_Pts_Each, "rows are lost");
-    const double Own = static_cast<double>(Model_Size()) / Megabyte;
-    const double Peak = Peak_Memory() / Megabyte;
+    const double Own = static_cast<double>(measure::Model_Size()) / Megabyte;
+    const double Peak = measure::Peak_Memory() / Megabyte;
     std::printf("%d points, %d objects, file %.1f MB\n", Nb_Objects * Nb_Pts_Each, Nb_Objects,
                 Size);
     std::printf("write %.0f MB/s (%.3f s)\n", Size / Write_Seconds, Write_Seconds);

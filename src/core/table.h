@@ -5,6 +5,8 @@
 // block that grows geometrically behind the capacity, so adding n rows costs n.
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
 #include <span>
 #include <utility>
 #include <vector>
@@ -42,9 +44,20 @@ public:
     /// Adds a row and returns its index.
     Long Append(T Row) {
         Check(Nb_ < std::numeric_limits<Long>::max(), "a table holds at most 2147483647 rows");
-        if (Nb_ == Max_) Grow();
+        if (Nb_ == Max_) Grow(1);
         Row_.push_back(std::move(Row));
         return ++Nb_;
+    }
+
+    /// Adds Count rows as T begins and returns them, to be written before the table grows again.
+    std::span<T> Append_Rows(std::size_t Count) {
+        constexpr auto Most = static_cast<std::size_t>(std::numeric_limits<Long>::max());
+        const auto Before = static_cast<std::size_t>(Nb_);
+        Check(Count <= Most - Before, "a table holds at most 2147483647 rows");
+        Row_.resize(Before + Count);
+        Nb_ = static_cast<Long>(Before + Count);
+        if (Nb_ > Max_) Grow((std::int64_t{Nb_} - Max_ + Step_ - 1) / Step_);
+        return std::span(Row_).subspan(Before);
     }
 
     /// Moves the rows behind I down by one. The capacity stays.
@@ -86,9 +99,9 @@ public:
 
 private:
     void Check_Index(Long I) const { Check(1 <= I && I <= Nb_, "a row of the table"); }
-    void Grow() {
-        const bool Fits = Max_ <= std::numeric_limits<Long>::max() - Step_;
-        Max_ = Fits ? Max_ + Step_ : std::numeric_limits<Long>::max();
+    void Grow(std::int64_t Steps) {
+        Max_ = static_cast<Long>(
+            std::min<std::int64_t>(Max_ + Steps * Step_, std::numeric_limits<Long>::max()));
     }
 
     std::vector<T> Row_;

@@ -1,7 +1,8 @@
-// gen/emit_excl.cpp - exclusion flags sorted into Areas, Cells and classes.
+// gen/emit_excl.cpp - exclusion records sorted into Areas, Cells and classes.
 #include "gen/emit_excl.h"
 
 #include <algorithm>
+#include <span>
 #include <tuple>
 #include <vector>
 
@@ -13,16 +14,6 @@ namespace {
 // A Cell of the file holds at most this many layers; the lowest classes win.
 constexpr std::size_t Max_Classes_Of_Cell = 31;
 
-/// One flag that is set.
-struct Excl_Flat {
-    Cell_Pos Cell;
-    Byte Class = 0;
-
-    auto Key() const {
-        return std::tie(Cell.AreaLat, Cell.AreaLon, Cell.CellLat, Cell.CellLon, Class);
-    }
-};
-
 struct Excl_Cell {
     Int CellLon = 0, CellLat = 0;
     std::vector<Byte> Classes;
@@ -33,32 +24,40 @@ struct Excl_Area {
     std::vector<Excl_Cell> Cells;
 };
 
-// The flags that are set, in order, each once however many records name it. Flags with equal
-// keys are the same flag, so any sort gives the one order.
-std::vector<Excl_Flat> Flatten() {
-    std::vector<Excl_Flat> Flags;
-    for (const Excl& Record : Tab_Excl.Rows())
-        for (std::size_t Class = 0; Class < Record.Chk_Excl.size(); ++Class)
-            if (Record.Chk_Excl[Class] == 1)
-                Flags.push_back({.Cell = Record, .Class = static_cast<Byte>(Class)});
-    const auto Before = [](const auto& A, const auto& B) { return A.Key() < B.Key(); };
-    const auto Same = [](const auto& A, const auto& B) { return A.Key() == B.Key(); };
-    std::sort(Flags.begin(), Flags.end(), Before);
-    Flags.erase(std::unique(Flags.begin(), Flags.end(), Same), Flags.end());
-    return Flags;
+auto Cell_Key(const Cell_Pos& C) {
+    return std::tie(C.AreaLat, C.AreaLon, C.CellLat, C.CellLon);
 }
 
-std::vector<Excl_Area> Group(const std::vector<Excl_Flat>& Flags) {
+// The records with a flag that is set, in the order of their Cells. Records of one Cell are
+// joined later, so any sort gives the one order.
+std::vector<const Excl*> Sorted_Records() {
+    std::vector<const Excl*> Records;
+    for (const Excl& Record : Tab_Excl.Rows())
+        if (std::ranges::find(Record.Chk_Excl, 1) != Record.Chk_Excl.end())
+            Records.push_back(&Record);
+    std::sort(Records.begin(), Records.end(),
+              [](const Excl* A, const Excl* B) { return Cell_Key(*A) < Cell_Key(*B); });
+    return Records;
+}
+
+// The flags of the records of one Cell, each once however many records name it.
+std::vector<Byte> Classes_Of(std::span<const Excl* const> Records) {
+    std::vector<Byte> Classes;
+    for (std::size_t Class = 0; Class < Nb_Chk_Excl; ++Class)
+        if (std::ranges::any_of(Records, [&](const Excl* R) { return R->Chk_Excl[Class] == 1; }))
+            Classes.push_back(static_cast<Byte>(Class));
+    return Classes;
+}
+
+std::vector<Excl_Area> Group(std::span<const Excl* const> Records) {
     std::vector<Excl_Area> Areas;
-    const Cell_Pos* Last = nullptr;
-    for (const Excl_Flat& F : Flags) {
-        const Cell_Pos& C = F.Cell;
-        const bool Same_Area =
-            Last != nullptr && Last->AreaLon == C.AreaLon && Last->AreaLat == C.AreaLat;
-        if (!Same_Area) Areas.push_back({C.AreaLon, C.AreaLat, {}});
-        if (!Same_Area || !(*Last == C)) Areas.back().Cells.push_back({C.CellLon, C.CellLat, {}});
-        Areas.back().Cells.back().Classes.push_back(F.Class);
-        Last = &C;
+    for (std::size_t First = 0, End = 0; First < Records.size(); First = End) {
+        const Cell_Pos& C = *Records[First];
+        while (End < Records.size() && static_cast<const Cell_Pos&>(*Records[End]) == C) ++End;
+        if (Areas.empty() || Areas.back().AreaLon != C.AreaLon || Areas.back().AreaLat != C.AreaLat)
+            Areas.push_back({C.AreaLon, C.AreaLat, {}});
+        Areas.back().Cells.push_back(
+            {C.CellLon, C.CellLat, Classes_Of(Records.subspan(First, End - First))});
     }
     return Areas;
 }
@@ -96,7 +95,7 @@ void Write_Source(Source_File& Out, const std::vector<Excl_Area>& Areas) {
 }  // namespace
 
 void Emit_Excl() {
-    const std::vector<Excl_Area> Areas = Group(Flatten());
+    const std::vector<Excl_Area> Areas = Group(Sorted_Records());
     if (Areas.empty()) return;
     Show_Stage(NameBglExcl, "Exclude : BGLC.exe");
     Source_File Out(Source_Path("Terrafold$_Excl.ASM"));

@@ -23,17 +23,22 @@ void Divide(Long Poly) {
     }
 }
 
+bool Is_Too_Long(const WPoly& W) {
+    return W.Attr->SurfShore >= First_Line && W.Nb > Longest;
+}
+
 }  // namespace
 
 void Line_Limit_Length() {
+    if (std::ranges::none_of(Tab_WPoly.Rows(), Is_Too_Long)) return;
     Tab_NPoly.Dimension(Nb_WPoly);
     Tab_NPt.Dimension(Nb_WPt);
     for (Long I = 1; I <= Nb_WPoly; ++I) {
         const WPoly& W = Tab_WPoly[I];
-        if (W.Attr->SurfShore < First_Line)
-            Line_Emit_Piece(I, W.First, W.Last);
-        else
+        if (Is_Too_Long(W))
             Divide(I);
+        else
+            Line_Emit_Piece(I, W.First, W.Last);
     }
     WPoly_Commit();
 }

@@ -3,34 +3,43 @@
 
 #include <algorithm>
 #include <array>
-#include <tuple>
+#include <cstdint>
+#include <span>
+#include <utility>
+
+#include "grid/coarse_sort.h"
 
 namespace {
 
-auto Area_Key(const LCell& C) {
-    return std::tie(C.AreaLat, C.AreaLon);
+// Places on the globe: Areas row by row, and in each its Cells row by row.
+template <typename T>
+std::uint32_t Area_Key(const T& In) {
+    return static_cast<std::uint32_t>(In.AreaLat * Nb_AreaLon + In.AreaLon);
 }
-auto Area_Key(const LArea& A) {
-    return std::tie(A.AreaLat, A.AreaLon);
-}
-auto Cell_Key(const LCell& C) {
-    return std::tie(C.AreaLat, C.AreaLon, C.CellLat, C.CellLon);
+std::uint32_t Cell_Key(const LCell& C) {
+    const auto In_Area = static_cast<std::uint32_t>(C.CellLat * Nb_Cell_In_Area + C.CellLon);
+    return Area_Key(C) * Nb_Cell_In_Area * Nb_Cell_In_Area + In_Area;
 }
 
 // Sorts a list and leaves one row of each key: the one added first, after Take has given it what
 // the others hold.
 template <typename T, typename Key_Of, typename Take_Of>
 void Sort_And_Merge(Table<T>& Tab, Key_Of Key, Take_Of Take) {
-    std::stable_sort(Tab.Rows().begin(), Tab.Rows().end(),
-                     [&](const T& A, const T& B) { return Key(A) < Key(B); });
-    Long Kept = 0;
-    for (Long I = 1; I <= Tab.Nb(); ++I) {
-        if (Kept > 0 && Key(Tab[Kept]) == Key(Tab[I]))
-            Take(Tab[Kept], Tab[I]);
+    const std::span<const T> Rows = Tab.Rows();
+    std::vector<Coarse_Entry> Order;
+    Order.reserve(Rows.size());
+    for (const T& Row : Rows) Order.push_back({Key(Row), static_cast<Long>(Order.size())});
+    Sort_By_Key(Order);
+    Table<T> Merged{20, 20};
+    Merged.Reserve(Tab.Nb());
+    for (std::size_t I = 0; I < Order.size(); ++I) {
+        const T& Row = Rows[static_cast<std::size_t>(Order[I].Place)];
+        if (I > 0 && Order[I - 1].Key == Order[I].Key)
+            Take(Merged[Merged.Nb()], Row);
         else
-            Tab[++Kept] = Tab[I];
+            Merged.Append(Row);
     }
-    Tab.Truncate(Kept);
+    Tab = std::move(Merged);
 }
 
 LCell Cell_Of_Record(const Area& A) {
@@ -89,18 +98,22 @@ void Collect_Cells(Table<LCell>& Cells) {
         C.Last_Coast = Last;
         Cells.Append(C);
     });
-    Sort_And_Merge(
-        Cells, [](const LCell& C) { return Cell_Key(C); }, Take_Pieces);
+    Sort_And_Merge(Cells, Cell_Key, Take_Pieces);
 }
 
 void Collect_Areas(const Table<LCell>& Cells, Table<LArea>& Areas) {
     for (const Lod8& L : Tab_Lod8.Rows())
         Areas.Append({.AreaLon = L.AreaLon, .AreaLat = L.AreaLat, .Attrib = L.Attrib});
-    for (const LCell& C : Cells.Rows())
-        if (Is_Active(C)) Areas.Append({.AreaLon = C.AreaLon, .AreaLat = C.AreaLat, .Has_Data = 1});
-    Sort_And_Merge(
-        Areas, [](const LArea& A) { return Area_Key(A); },
-        [](LArea& To, const LArea& From) { To.Has_Data |= From.Has_Data; });
+    // The Cells of an Area stand together.
+    const LCell* Before = nullptr;
+    for (const LCell& C : Cells.Rows()) {
+        if (!Is_Active(C)) continue;
+        if (!Before || Area_Key(*Before) != Area_Key(C))
+            Areas.Append({.AreaLon = C.AreaLon, .AreaLat = C.AreaLat, .Has_Data = 1});
+        Before = &C;
+    }
+    Sort_And_Merge(Areas, Area_Key<LArea>,
+                   [](LArea& To, const LArea& From) { To.Has_Data |= From.Has_Data; });
 }
 
 // Both lists are in the same order of Areas.

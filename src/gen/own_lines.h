@@ -5,6 +5,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <unordered_map>
 
 #include "core/numbers.h"
 
@@ -23,6 +25,8 @@ struct Own_Line {
 class Own_Lines {
 public:
     Own_Lines();
+    Own_Lines(const Own_Lines&) = delete;
+    Own_Lines& operator=(const Own_Lines&) = delete;
 
     Own_Line Kind(Int Code) const;
     /// The first texture file of a kind, "RiverSu.bmp" when the file names none.
@@ -32,4 +36,5 @@ private:
     std::string Value(Int Code, const char* Key, const char* Default) const;
 
     std::string Text_;
+    std::unordered_map<std::string, std::string_view> Sections_;  // by their names in capitals
 };

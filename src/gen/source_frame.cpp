@@ -44,7 +44,24 @@ Source_File::Source_File(std::string Path)
     if (!Writer_.Is_Open()) Box_Not_Made(Path_);
 }
 
+Source_File::~Source_File() {
+    Flush();
+}
+
+void Source_File::Flush() {
+    Writer_.Put({Block_.get(), Used_});
+    Used_ = 0;
+}
+
+void Source_File::Make_Room(std::size_t Most) {
+    Flush();
+    if (Most <= Size_) return;
+    Block_ = std::make_unique_for_overwrite<char[]>(Most);
+    Size_ = Most;
+}
+
 bool Source_File::Close() {
+    Flush();
     if (Writer_.Commit()) {
         The_Host().Note_File(File_Event::Written, Path_);
         return true;

@@ -2,7 +2,12 @@
 // ended, its first lines, the skeleton of a VTP file, and the run of its compiler.
 #pragma once
 
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <cstring>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -18,14 +23,22 @@ public:
     /// Path is that of the file, in the program's form. When it cannot be made, a plain box
     /// with the path tells the user, and Is_Open is false.
     explicit Source_File(std::string Path);
+    /// What has been written without Close stays.
+    ~Source_File();
+    Source_File(const Source_File&) = delete;
+    Source_File& operator=(const Source_File&) = delete;
 
     bool Is_Open() const { return Writer_.Is_Open(); }
     const std::string& Path() const { return Path_; }
 
+    /// A line of texts and numbers.
     template <typename... Piece>
     void Line(const Piece&... P) {
-        (Add(P), ...);
-        Writer_.Put("\r\n");
+        char* Out = Room((Most_Of(P) + ... + 2));
+        ((Out = Put(Out, P)), ...);
+        *Out++ = '\r';
+        *Out++ = '\n';
+        Used_ = static_cast<std::size_t>(Out - Block_.get());
     }
 
     /// Ends the file and tells the host of it. False, after a plain box with the path, when
@@ -33,17 +46,41 @@ public:
     bool Close();
 
 private:
-    void Add(std::string_view Text) { Writer_.Put(Text); }
-    void Add(const char* Text) { Writer_.Put(Text); }
-    void Add(const std::string& Text) { Writer_.Put(Text); }
-    void Add(const Number_Chars& N) { Writer_.Put(N); }
-    void Add(Int X) { Writer_.Put(Num_Text(X)); }
-    void Add(Byte X) { Writer_.Put(Num_Text(X)); }
-    void Add(Long X) { Writer_.Put(Num_Text(X)); }
-    void Add(Double X) { Writer_.Put(Num_Text(X)); }
+    // Lines are made in place, since they are many and short: room for the longest that each
+    // piece can be is taken once a line.
+    static constexpr std::size_t Block_Size = 1 << 13;
+    static constexpr std::size_t Most_Digits = 11;  // of a Long, with its sign
+
+    template <std::size_t N>
+    static constexpr std::size_t Most_Of(const char (&)[N]) {
+        return N - 1;
+    }
+    static std::size_t Most_Of(std::string_view Text) { return Text.size(); }
+    static constexpr std::size_t Most_Of(Long) { return Most_Digits; }
+    static constexpr std::size_t Most_Of(Double) { return sizeof(Number_Chars); }
+
+    template <std::size_t N>
+    static char* Put(char* Out, const char (&Literal)[N]) {
+        std::memcpy(Out, Literal, N - 1);
+        return Out + (N - 1);
+    }
+    static char* Put(char* Out, std::string_view Text) {
+        return std::copy(Text.begin(), Text.end(), Out);
+    }
+    static char* Put(char* Out, Long X) { return std::to_chars(Out, Out + Most_Digits, X).ptr; }
+    static char* Put(char* Out, Double X) { return Put(Out, std::string_view(Num_Text(X))); }
+
+    char* Room(std::size_t Most) {
+        if (Most > Size_ - Used_) Make_Room(Most);
+        return Block_.get() + Used_;
+    }
+    void Make_Room(std::size_t Most);
+    void Flush();
 
     std::string Path_;
     File_Writer Writer_;
+    std::size_t Size_ = Block_Size, Used_ = 0;
+    std::unique_ptr<char[]> Block_ = std::make_unique_for_overwrite<char[]>(Block_Size);
 };
 
 /// Limits of a source's header in whole degrees, one outside what the file covers.

@@ -2,6 +2,7 @@
 #include "gen/vlines.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <map>
 #include <span>
@@ -45,11 +46,15 @@ VLinePt Local(const WPt& P, const Cell_Pos& Area, bool Bare) {
     return {L.LocX, L.LocY};
 }
 
-// The points of a line as they are written.
-void Convert(std::span<const WPt> Line, const Cell_Pos& Area, bool Bare,
-             std::vector<VLinePt>& Out) {
+// The points of a line on the scale of its Area, and as they are written; kept from line to line.
+struct Line_Points {
+    std::vector<VLinePt> Loc, Out;
+};
+
+void Convert(std::span<const WPt> Line, const Cell_Pos& Area, bool Bare, Line_Points& Points) {
+    auto& [Loc, Out] = Points;
+    Loc.clear();
     Out.clear();
-    std::vector<VLinePt> Loc;
     for (const WPt& P : Line) Loc.push_back(Local(P, Area, Bare));
     const std::size_t Last = Line.size() - 1;
     for (std::size_t J = 0; J <= Last; ++J) {
@@ -73,18 +78,24 @@ bool Comes_Before(const VLine& A, const VLine& B) {
            std::tie(B.AreaLat, B.AreaLon, B.Layer, B.Attr->LineType);
 }
 
+// The Area's place on the globe, row by row, and the layer, which has eight bits.
+std::uint32_t Layer_Key(const VLine& L) {
+    const auto Area = static_cast<std::uint32_t>(L.AreaLat * Nb_AreaLon + L.AreaLon);
+    return Area << 8 | static_cast<std::uint32_t>(L.Layer);
+}
+
 void Convert_All(VLine_Lists& V) {
     V.Lines.Reserve(Nb_WPoly);
     V.Points.Reserve(Nb_WPt);
     const std::span<const WPt> All = Tab_WPt.Rows();
-    std::vector<VLinePt> Points;
+    Line_Points Points;
     for (const WPoly& W : Tab_WPoly.Rows()) {
         const auto Line =
             All.subspan(static_cast<std::size_t>(W.First - 1), static_cast<std::size_t>(W.Nb));
         const Cell_Pos Area = Area_Of(Line);
         Convert(Line, Area, Is_Bare_Line(*W.Attr), Points);
-        VLine L{.Nb_Pts = static_cast<Long>(Points.size()), .First_Pt = V.Points.Nb() + 1};
-        for (const VLinePt P : Points) V.Points.Append(P);
+        VLine L{.Nb_Pts = static_cast<Long>(Points.Out.size()), .First_Pt = V.Points.Nb() + 1};
+        std::ranges::copy(Points.Out, V.Points.Append_Rows(Points.Out.size()).begin());
         L.Last_Pt = V.Points.Nb();
         L.AreaLon = Area.AreaLon;
         L.AreaLat = Area.AreaLat;
@@ -156,7 +167,7 @@ bool Bare_Line_Fits(std::span<const WPt> Line) {
 VLine_Lists VLine_Build() {
     VLine_Lists V;
     Convert_All(V);
-    Exchange_Order(V.Lines, Comes_Before);
+    Exchange_Order(V.Lines, Layer_Key, Comes_Before);
     List_Textures(V);
     Nest(V);
     return V;

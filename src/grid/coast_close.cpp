@@ -52,6 +52,7 @@ bool Coast_Ends_Aligned(std::span<const CoastLoc> Line) {
 // The points of the closed outline; nothing when there is no way to close it.
 std::optional<std::vector<Pix>> Closed(std::span<const CoastLoc> Line) {
     std::vector<Pix> Outline;
+    Outline.reserve(Line.size());
     for (const CoastLoc& P : Line) Outline.push_back(P.At);
     if (Coast_Ends_Aligned(Line)) return Outline;
     if (!On_Edge(Line.front().Loc) || !On_Edge(Line.back().Loc)) return std::nullopt;

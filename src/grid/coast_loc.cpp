@@ -11,7 +11,7 @@ Pix Cell_Loc_To_Pixel(const Cell_Pos& C, const Loc_Cell& L) {
 
 CoastLoc Coast_Snap(Pix P, Pix Segment_Middle) {
     CoastLoc C;
-    Pixel_To_Cell_Loc(Segment_Middle, C.Cell);
+    C.Cell = LatLon_To_Cell(Pixel_To_LatLon(Segment_Middle));
     C.Loc = Pixel_Loc_In_Cell(P, C.Cell);
     C.At = Cell_Loc_To_Pixel(C.Cell, C.Loc);
     return C;

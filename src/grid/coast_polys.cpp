@@ -41,4 +41,6 @@ void Coast_Polys() {
     WPoly_Commit();
     Poly_Split_Max(Piece_Limit);
     Poly_Cut_Cells(Mode_Cells);
+    Tab_NPoly.Reset();
+    Tab_NPt.Reset();
 }

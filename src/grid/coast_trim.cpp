@@ -6,9 +6,7 @@
 namespace {
 
 Cell_Pos Cell_Of_Segment(Pix A, Pix B) {
-    Cell_Pos C;
-    Pixel_To_Cell_Loc(Middle_Of(A, B), C);
-    return C;
+    return LatLon_To_Cell(Pixel_To_LatLon(Middle_Of(A, B)));
 }
 
 bool Is_On_Edge(Pix P, Pix Next) {

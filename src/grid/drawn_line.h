@@ -75,7 +75,8 @@ void Drop_Straight(std::vector<Point>& Line) {
 template <typename Point>
 void WPoly_Append(const Obj& O, const std::vector<Point>& Line) {
     const Long First = Nb_WPt + 1;
-    for (const Point& P : Line) Tab_WPt.Append(To_WPt(P));
+    const std::span<WPt> To = Tab_WPt.Append_Rows(Line.size());
+    for (std::size_t I = 0; I < To.size(); ++I) To[I] = To_WPt(Line[I]);
     Tab_WPoly.Append({.Num = O.Num,
                       .Attr = &O.Attr,
                       .First = First,

@@ -7,8 +7,14 @@
 // Where only boxes meet, the segment may still keep off. That is told apart with a margin, for
 // the meeting point that Seg_Cross works out is rounded: it lies inside both boxes, but strays
 // from either line by up to 64 roundings of (slope 1 + slope 2) * X + Y, measured upright. Slopes
-// count as 0 for upright segments. Edges that are all but upright stray far; nodes with such an
-// edge are looked into whenever boxes meet.
+// count as 0 for upright segments. Edges that are all but upright stray far; they and the nodes
+// above them are looked into whenever boxes meet.
+//
+// Edges stand in the tree as they follow each other round the outline: neighbours lie close
+// together, and a stretch of the outline is a few nodes. But where an outline bends round others
+// of its own stretches, as a spiral does, the boxes of long stretches lie over each other. Such an
+// outline has its edges sorted by where they lie: a query into a spiral of 1,000,000 points then
+// looks at 31 nodes instead of 84, and the spiral takes a fifth less time.
 #pragma once
 
 #include <array>
@@ -37,13 +43,12 @@ public:
 
     /// Sets the box of edge E, or takes it away. The nodes above are right after Refresh.
     void Put(Long E, Pix P1, Pix P2);
-    void Drop(Long E) { Set(E, None); }
-    void Refresh_All();
+    void Drop(Long E) { Set(Slot(E), None); }
     void Refresh(Long E);
     /// Whether one Refresh serves both edges.
-    static bool Share_Node(Long E1, Long E2) {
-        return static_cast<std::size_t>(E1) / Fan == static_cast<std::size_t>(E2) / Fan;
-    }
+    bool Share_Node(Long E1, Long E2) const { return Slot(E1) / Fan == Slot(E2) / Fan; }
+    /// To be called once all edges are put in.
+    void Settle();
 
     /// Whether Hits(e) for some edge e that is not in Skip and whose box the segment from A to B
     /// passes. Size bounds all coordinates.
@@ -112,10 +117,19 @@ private:
         Double dx, dy, Margin;
     };
 
-    void Set(Long E, const Box_Single& B) {
-        Level_[0][static_cast<std::size_t>(E) / Fan].Set(static_cast<std::size_t>(E) % Fan, B);
+    std::size_t Slot(Long E) const {
+        const auto I = static_cast<std::size_t>(E);
+        return Slot_.empty() ? I : static_cast<std::size_t>(Slot_[I]);
     }
+    Long Edge_At(std::size_t Slot) const {
+        return Edge_.empty() ? static_cast<Long>(Slot) : Edge_[Slot];
+    }
+    void Set(std::size_t Slot, const Box_Single& B) { Level_[0][Slot / Fan].Set(Slot % Fan, B); }
+    Box_Single Get(std::size_t Slot) const { return Level_[0][Slot / Fan].Get(Slot % Fan); }
     static Box_Single Union(const Node& N);
+    void Refresh_All();
+    bool Is_Overlaid() const;
+    void Sort_By_Place();
 
     template <typename Hit>
     bool Descend(std::size_t Lv, std::size_t K, const Query& Q, const Place_Range& Skip,
@@ -135,18 +149,20 @@ private:
             const auto C = static_cast<std::size_t>(std::countr_zero(Meets));
             const std::size_t Child = Fan * K + C;
             if (Lv == 0) {
-                const auto E = static_cast<Long>(Child);
-                if (!Skip.Holds(E) && Hits(E)) return true;
+                const Long E = Edge_At(Child);
+                if (!Skip.Holds(E) && !Q.Is_Beside(N, C) && Hits(E)) return true;
                 continue;
             }
             const int Shift = 3 * static_cast<int>(Lv);
-            if (Skip.Holds(static_cast<Long>(Child << Shift),
-                           static_cast<Long>((Child + 1) << Shift)))
+            if (Edge_.empty() && Skip.Holds(static_cast<Long>(Child << Shift),
+                                            static_cast<Long>((Child + 1) << Shift)))
                 continue;
             if (!Q.Is_Beside(N, C) && Descend(Lv - 1, Child, Q, Skip, Hits)) return true;
         }
         return false;
     }
 
+    Long Nb_ = 0;
     std::vector<std::vector<Node>> Level_;
+    std::vector<Long> Slot_, Edge_;  // where edges stand in the tree; empty when in order
 };

@@ -87,7 +87,8 @@ void Exchange_Turns(std::vector<Long>& Order, const std::vector<Long>& Group) {
     constexpr std::size_t Small_Group = 64;
     const std::size_t N = Order.size();
     std::vector<Long> Smaller(N);
-    Count_Tree Seen(N);
+    const Long Nb_Group = N == 0 ? 0 : Group[static_cast<std::size_t>(Order.back())] + 1;
+    Count_Tree Seen(static_cast<std::size_t>(Nb_Group));
     for (std::size_t I = 0; I < N; ++I) {
         const auto G = static_cast<std::size_t>(Group[I]);
         Smaller[I] = Seen.Below(G);

@@ -42,15 +42,10 @@ std::vector<Long> Exchange_Places(Long N, Key_Of Key, Before Comes_Before) {
     return Order;
 }
 
-/// Puts the rows of Tab in the order that the exchange sort leaves, by a strict predicate on
-/// two rows and a whole number of a row that never falls where the order rises.
-template <typename T, typename Key_Of, typename Before>
-void Exchange_Order(Table<T>& Tab, Key_Of Key, Before Comes_Before) {
+/// Moves the rows of Tab so that row k + 1 is the one whose place, from 0, was Order[k].
+template <typename T>
+void Put_In_Order(Table<T>& Tab, std::vector<Long> Order) {
     const auto Rows = Tab.Rows();
-    const auto Row = [&](Long I) -> const T& { return Rows[static_cast<std::size_t>(I)]; };
-    std::vector<Long> Order = Exchange_Places(
-        Tab.Nb(), [&](Long I) -> std::uint32_t { return Key(Row(I)); },
-        [&](Long I, Long J) { return Comes_Before(Row(I), Row(J)); });
     // Round after round of rows that take each other's places.
     for (std::size_t Start = 0; Start < Order.size(); ++Start) {
         if (Order[Start] == static_cast<Long>(Start)) continue;
@@ -65,6 +60,17 @@ void Exchange_Order(Table<T>& Tab, Key_Of Key, Before Comes_Before) {
         }
         Rows[To] = std::move(First);
     }
+}
+
+/// Puts the rows of Tab in the order that the exchange sort leaves, by a strict predicate on
+/// two rows and a whole number of a row that never falls where the order rises.
+template <typename T, typename Key_Of, typename Before>
+void Exchange_Order(Table<T>& Tab, Key_Of Key, Before Comes_Before) {
+    const auto Rows = Tab.Rows();
+    const auto Row = [&](Long I) -> const T& { return Rows[static_cast<std::size_t>(I)]; };
+    Put_In_Order(Tab, Exchange_Places(
+                          Tab.Nb(), [&](Long I) -> std::uint32_t { return Key(Row(I)); },
+                          [&](Long I, Long J) { return Comes_Before(Row(I), Row(J)); }));
 }
 
 /// The same without a whole number.

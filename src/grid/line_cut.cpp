@@ -1,8 +1,9 @@
 // grid/line_cut.cpp - each line along its own rows and columns.
 //
-// A grid line changes only lines that it touches, and the pieces of a line stay in its place. So
-// each line is cut along all its grid lines before the next one is looked at, with the same
-// result as if each grid line were taken across all lines in turn.
+// A grid line changes only segments that it touches, and the pieces of a line stay in its place.
+// Grid lines lie much further apart than their tolerance. So each segment is cut along the grid
+// lines that touch it before the next one is looked at, with the same result as if each grid line
+// were taken across all lines in turn.
 #include "grid/line_cut.h"
 
 #include <algorithm>
@@ -12,12 +13,20 @@
 
 namespace {
 
+// A point of a line that is being cut.
+struct Joint {
+    WPt P;         // inside a piece, or as its first point
+    Byte End_Tag;  // its tag as the last point of a piece
+    bool Begins;   // a piece begins here, and the one before it ends
+};
+
 // The grid lines of one direction, seen so that both directions have one rule.
 struct Rows {
     std::span<const Double> Lines;
     Double Tol;
 
     static Double Across(const WPt& P) { return P.Y; }
+    static Double Across(const Joint& J) { return J.P.Y; }
     Seg_Cut Cut(const WPt& P1, const WPt& P2, Double Line) const {
         return Seg_Cut_Horiz(To_Pix(P1), To_Pix(P2), Line, Tol);
     }
@@ -28,6 +37,7 @@ struct Columns {
     Double Tol;
 
     static Double Across(const WPt& P) { return P.X; }
+    static Double Across(const Joint& J) { return J.P.X; }
     Seg_Cut Cut(const WPt& P1, const WPt& P2, Double Line) const {
         return Seg_Cut_Vert(To_Pix(P1), To_Pix(P2), Line, Tol);
     }
@@ -38,19 +48,6 @@ struct Pieces {
     std::vector<WPt> Points;
     std::vector<std::size_t> End;
 
-    void Clear() {
-        Points.clear();
-        End.clear();
-    }
-    void Add(std::span<const WPt> Piece) {
-        Points.insert(Points.end(), Piece.begin(), Piece.end());
-        End.push_back(Points.size());
-    }
-    void Add(std::span<const WPt> Piece, const WPt& Last) {
-        Points.insert(Points.end(), Piece.begin(), Piece.end());
-        Points.push_back(Last);
-        End.push_back(Points.size());
-    }
     std::span<const WPt> operator[](std::size_t K) const {
         const std::size_t First = K == 0 ? 0 : End[K - 1];
         return std::span(Points).subspan(First, End[K] - First);
@@ -60,7 +57,7 @@ struct Pieces {
 void Append_Piece(const WPoly& Like, std::span<const WPt> Points) {
     WPoly Piece = Like;
     Piece.First = Nb_NPt + 1;
-    for (const WPt& P : Points) Tab_NPt.Append(P);
+    std::ranges::copy(Points, Tab_NPt.Append_Rows(Points.size()).begin());
     Piece.Last = Nb_NPt;
     Piece.Nb = static_cast<Long>(Points.size());
     Tab_NPoly.Append(Piece);
@@ -75,111 +72,132 @@ public:
     void Cut(const WPoly& W);
 
 private:
-    struct Waiting {
-        std::size_t Nb;    // its points are the last ones of the stack
-        std::size_t Line;  // the next grid line that may cut it
-    };
-
+    void Load(std::span<const WPt> Line);
     template <typename Axis>
-    Line_Range Lines_Of(const Axis& A, std::span<const WPt> Line) const;
+    void Cut_Along(const Axis& A);
     template <typename Axis>
-    void Walk(const Axis& A, Double At, std::span<WPt> Line, Pieces& Out) const;
-    template <typename Axis>
-    void Cut_Along(const Axis& A, std::span<const WPt> Line, Pieces& Out) const;
-    bool All_Fit(const Pieces& P) const;
+    void Cut_Segment(const Axis& A, std::span<const Double> Lines, const Joint& From, Joint& To);
+    void List_Pieces();
+    bool All_Fit() const;
 
     const Line_Cut_Rule& Rule_;
     Rows Rows_;
     Columns Columns_;
-    Pieces By_Row_, Done_;
+    std::vector<Joint> Line_, With_Cuts_;
+    Pieces Done_;
 };
 
-template <typename Axis>
-Line_Range Line_Cutter::Lines_Of(const Axis& A, std::span<const WPt> Line) const {
+template <typename Axis, typename Points>
+Line_Range Lines_Of(const Axis& A, const Points& Line) {
     Double Low = A.Across(Line[0]), High = Low;
-    for (const WPt& P : Line) {
+    for (const auto& P : Line) {
         Low = std::min(Low, A.Across(P));
         High = std::max(High, A.Across(P));
     }
     return Lines_Between(A.Lines, Low - A.Tol, High + A.Tol);
 }
 
-// The pieces that one grid line leaves of a line. A crossing takes the place of the point before
-// it, so that the next piece begins there. A vertex on the grid line ends a piece, unless the
-// piece has just begun at it.
-template <typename Axis>
-void Line_Cutter::Walk(const Axis& A, Double At, std::span<WPt> Line, Pieces& Out) const {
-    const std::size_t Last = Line.size() - 1;
-    std::size_t Start = 0;
-    for (std::size_t I = 0; I < Last; ++I) {
-        const Seg_Cut C = A.Cut(Line[I], Line[I + 1], At);
-        if (C.Code == 3 && !(I == Start && C.At == To_Pix(Line[I]))) {
-            Out.Add(Line.subspan(Start, I + 2 - Start));
-            Start = I + 1;
-        } else if (C.Code == 2) {
-            WPt Cut = Line[I];
-            Cut.X = C.At.X;
-            Cut.Y = C.At.Y;
-            if (Rule_.Tags_Cuts) Cut.Tag = Tag_Cut;
-            Out.Add(Line.subspan(Start, I + 1 - Start), {.X = C.At.X, .Y = C.At.Y, .Tag = Tag_Cut});
-            Start = I;
-            Line[I] = Cut;
-        }
-    }
-    if (Start < Last) Out.Add(Line.subspan(Start));
+bool Is_Empty(const Line_Range& R) {
+    return R.First == R.End;
 }
 
+void Line_Cutter::Load(std::span<const WPt> Line) {
+    Line_.clear();
+    Line_.reserve(Line.size());
+    for (const WPt& P : Line) Line_.push_back({P, P.Tag, false});
+    Line_.front().Begins = true;
+}
+
+// The cuts of a segment behind its first point. What an earlier grid line has cut off lies north
+// or west of the later ones, so these may cut the part behind the last cut when the segment runs
+// south or east, else the part before it. A crossing begins a piece. A vertex on a grid line ends
+// a piece, unless the piece has just begun at it.
 template <typename Axis>
-void Line_Cutter::Cut_Along(const Axis& A, std::span<const WPt> Line, Pieces& Out) const {
-    const Line_Range Range = Lines_Of(A, Line);
-    if (Range.First == Range.End) {
-        Out.Add(Line);
-        return;
-    }
-    std::vector<WPt> Stack(Line.begin(), Line.end());
-    std::vector<Waiting> Open{{Line.size(), Range.First}};
-    std::vector<WPt> Piece;
-    Pieces Cut;
-    while (!Open.empty()) {
-        auto [Nb, K] = Open.back();
-        Open.pop_back();
-        const auto First = Stack.end() - static_cast<std::ptrdiff_t>(Nb);
-        Piece.assign(First, Stack.end());
-        Stack.erase(First, Stack.end());
-        const Line_Range Own = Lines_Of(A, Piece);
-        Cut.Clear();
-        for (K = std::max(K, Own.First); K < Own.End && Cut.End.size() < 2; ++K) {
-            Cut.Clear();
-            Walk(A, A.Lines[K], Piece, Cut);
+void Line_Cutter::Cut_Segment(const Axis& A, std::span<const Double> Lines, const Joint& From,
+                              Joint& To) {
+    const bool Ascends = A.Across(From) < A.Across(To);
+    const auto First_Cut = static_cast<std::ptrdiff_t>(With_Cuts_.size());
+    WPt P1 = From.P, P2 = To.P;
+    for (const Double Line : Lines) {
+        const Seg_Cut C = A.Cut(P1, P2, Line);
+        if (C.Code == 2) {
+            const Byte Tag = Rule_.Tags_Cuts ? Tag_Cut : P1.Tag;
+            const WPt At{.X = C.At.X, .Y = C.At.Y, .Tag = Tag};
+            With_Cuts_.push_back({At, Tag_Cut, true});
+            (Ascends ? P1 : P2) = At;
+        } else if (C.Code == 3) {
+            // Where a cut stands before To, a piece has begun already.
+            const bool Is_Whole = To_Pix(P2) == To_Pix(To.P);
+            const bool Just_Begun = From.Begins && C.At == To_Pix(From.P);
+            if (Is_Whole && !Just_Begun) To.Begins = true;
         }
-        if (Cut.End.size() < 2) {
-            Out.Add(Piece);
+    }
+    if (!Ascends) std::reverse(With_Cuts_.begin() + First_Cut, With_Cuts_.end());
+}
+
+// The first grid line of a segment is looked for from that of the segment before it.
+template <typename Axis>
+void Line_Cutter::Cut_Along(const Axis& A) {
+    const Line_Range Range = Lines_Of(A, Line_);
+    if (Is_Empty(Range)) return;
+    With_Cuts_.clear();
+    With_Cuts_.reserve(Line_.size());
+    std::size_t First = Range.First;
+    for (std::size_t I = 0; I + 1 < Line_.size(); ++I) {
+        With_Cuts_.push_back(Line_[I]);
+        const Double V1 = A.Across(Line_[I]), V2 = A.Across(Line_[I + 1]);
+        const Double Low = std::min(V1, V2) - A.Tol, High = std::max(V1, V2) + A.Tol;
+        while (First > Range.First && A.Lines[First - 1] >= Low) --First;
+        while (First < Range.End && A.Lines[First] < Low) ++First;
+        std::size_t End = First;
+        while (End < Range.End && A.Lines[End] <= High) ++End;
+        if (First < End)
+            Cut_Segment(A, A.Lines.subspan(First, End - First), Line_[I], Line_[I + 1]);
+    }
+    With_Cuts_.push_back(Line_.back());
+    Line_.swap(With_Cuts_);
+}
+
+void Line_Cutter::List_Pieces() {
+    Done_.Points.clear();
+    Done_.End.clear();
+    Done_.Points.push_back(Line_[0].P);
+    for (std::size_t I = 1; I < Line_.size(); ++I) {
+        const Joint& J = Line_[I];
+        const bool Is_Last = I + 1 == Line_.size();
+        if (!J.Begins && !Is_Last) {
+            Done_.Points.push_back(J.P);
             continue;
         }
-        for (std::size_t N = Cut.End.size(); N-- > 0;) {
-            Stack.insert(Stack.end(), Cut[N].begin(), Cut[N].end());
-            Open.push_back({Cut[N].size(), K});
-        }
+        Done_.Points.push_back({.X = J.P.X, .Y = J.P.Y, .Tag = J.End_Tag});
+        Done_.End.push_back(Done_.Points.size());
+        if (!Is_Last) Done_.Points.push_back(J.P);
     }
 }
 
-bool Line_Cutter::All_Fit(const Pieces& P) const {
-    for (std::size_t K = 0; K < P.End.size(); ++K)
-        if (!Rule_.Fits(P[K])) return false;
+bool Line_Cutter::All_Fit() const {
+    for (std::size_t K = 0; K < Done_.End.size(); ++K)
+        if (!Rule_.Fits(Done_[K])) return false;
     return true;
 }
 
 void Line_Cutter::Cut(const WPoly& W) {
     const auto Line = Tab_WPt.Rows().subspan(static_cast<std::size_t>(W.First - 1),
                                              static_cast<std::size_t>(W.Nb));
-    Done_.Clear();
-    const bool Skips_Rows = Rule_.Skips_Rows && Rule_.Skips_Rows(*W.Attr);
-    if (Skips_Rows) Cut_Along(Columns_, Line, Done_);
-    if (!Skips_Rows || !All_Fit(Done_)) {
-        By_Row_.Clear();
-        Done_.Clear();
-        Cut_Along(Rows_, Line, By_Row_);
-        for (std::size_t K = 0; K < By_Row_.End.size(); ++K) Cut_Along(Columns_, By_Row_[K], Done_);
+    if (Is_Empty(Lines_Of(Rows_, Line)) && Is_Empty(Lines_Of(Columns_, Line)))
+        return Append_Piece(W, Line);
+    bool Skips_Rows = Rule_.Skips_Rows && Rule_.Skips_Rows(*W.Attr);
+    if (Skips_Rows) {
+        Load(Line);
+        Cut_Along(Columns_);
+        List_Pieces();
+        Skips_Rows = All_Fit();
+    }
+    if (!Skips_Rows) {
+        Load(Line);
+        Cut_Along(Rows_);
+        Cut_Along(Columns_);
+        List_Pieces();
     }
     for (std::size_t K = 0; K < Done_.End.size(); ++K) Append_Piece(W, Done_[K]);
 }
@@ -189,6 +207,8 @@ void Line_Cutter::Cut(const WPoly& W) {
 void Line_Cut(const Line_Cut_Rule& Rule) {
     Tab_NPoly.Dimension(Nb_WPoly);
     Tab_NPt.Dimension(Nb_WPt);
+    Tab_NPoly.Reserve(Nb_WPoly);
+    Tab_NPt.Reserve(Nb_WPt);
     Line_Cutter Cutter(Rule);
     for (const WPoly& W : Tab_WPoly.Rows()) Cutter.Cut(W);
     WPoly_Commit();

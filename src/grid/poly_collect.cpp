@@ -46,10 +46,10 @@ void Poly_Collect(Int Mode) {
             ++Nb_Poly;
             Nb_Points += Tab_Obj[I].Nb_Pts;
         }
-    // Room for the pieces too, since the cut writes them here again: memory that is not used
-    // costs nothing.
-    Tab_WPoly.Reserve(Nb_Poly);
-    Tab_WPt.Reserve(Most_Points(std::min(Nb_Points, Nb_Pt)));
+    // Room for the pieces too, since the cut writes them here again.
+    const Long Nb_Taken = std::min(Nb_Points, Nb_Pt);
+    Tab_WPoly.Reserve(std::max(Nb_Poly, Nb_Taken));
+    Tab_WPt.Reserve(Room_For_Points(Nb_Taken));
     std::vector<Pix> Line;
     for (Long I = First_Obj; I <= Nb_Obj; ++I) {
         if (!Is_Taken(Tab_Obj[I], Mode)) continue;

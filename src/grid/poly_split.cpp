@@ -197,7 +197,8 @@ void Poly_Split_Max(Long Limit) {
     The_Host().Refresh();
     Tab_NPoly.Dimension(Nb_WPoly + 10);
     Tab_NPt.Dimension(Nb_WPt);
-    Tab_NPt.Reserve(Most_Points(Nb_WPt));
+    Tab_NPoly.Reserve(Nb_WPt);
+    Tab_NPt.Reserve(Room_For_Points(Nb_WPt));
     Splitter Both_Passes(Limit);
     Piece_List Pieces, Second;
     std::vector<Pix> Points;

@@ -25,8 +25,8 @@ CPt Local(const WPt& P, const Cell_Pos& C, bool By_Area) {
 }
 
 // Of two equal neighbours the first goes; the second then stays without being looked at, so
-// that three in a row leave two.
-void Drop_Repeats(std::vector<CPt>& Line) {
+// that three in a row leave two. Returns what is left, at the front of Line.
+std::span<CPt> Without_Repeats(std::span<CPt> Line) {
     const std::size_t Nb = Line.size();
     const CPt First = Line[0];
     std::size_t Kept = 0;
@@ -38,7 +38,7 @@ void Drop_Repeats(std::vector<CPt>& Line) {
             Line[Kept++] = Line[I];
         }
     }
-    Line.resize(Kept);
+    return Line.first(Kept);
 }
 
 CPoly Finished(const WPoly& W, const Cell_Pos& C, bool By_Area) {
@@ -54,20 +54,33 @@ CPoly Finished(const WPoly& W, const Cell_Pos& C, bool By_Area) {
     return P;
 }
 
-// The cell's place on the globe, row by row of Areas, then row by row inside the Area.
-std::uint32_t Cell_Key(const CPoly& P) {
+// What the order of the pieces depends on. It stands apart from them, since they are large and
+// there may be millions.
+struct Cell_Rank {
+    std::uint32_t Cell;  // its place on the globe: row by row of Areas, then inside the Area
+    Long Group_Root, Draw_Order;
+};
+
+Cell_Rank Rank_Of(const CPoly& P) {
     const auto Area = static_cast<std::uint32_t>(P.AreaLat * Nb_AreaLon + P.AreaLon);
     const auto Cell = static_cast<std::uint32_t>(P.CellLat * Nb_Cell_In_Area + P.CellLon);
-    return Area * Nb_Cell_In_Area * Nb_Cell_In_Area + Cell;
+    return {Area * Nb_Cell_In_Area * Nb_Cell_In_Area + Cell, P.Group_Root, P.Draw_Order};
 }
 
-bool Comes_Before(const CPoly& A, const CPoly& B) {
-    if (A.AreaLat != B.AreaLat) return A.AreaLat < B.AreaLat;
-    if (A.AreaLon != B.AreaLon) return A.AreaLon < B.AreaLon;
-    if (A.CellLat != B.CellLat) return A.CellLat < B.CellLat;
-    if (A.CellLon != B.CellLon) return A.CellLon < B.CellLon;
+bool Comes_Before(const Cell_Rank& A, const Cell_Rank& B) {
+    if (A.Cell != B.Cell) return A.Cell < B.Cell;
     if (A.Group_Root != B.Group_Root) return A.Group_Root < B.Group_Root;
     return A.Draw_Order > B.Draw_Order;
+}
+
+void Sort_By_Cell(Table<CPoly>& Polys) {
+    std::vector<Cell_Rank> Rank;
+    Rank.reserve(Polys.Rows().size());
+    for (const CPoly& P : Polys.Rows()) Rank.push_back(Rank_Of(P));
+    const auto At = [&](Long I) -> const Cell_Rank& { return Rank[static_cast<std::size_t>(I)]; };
+    Put_In_Order(Polys, Exchange_Places(
+                            Polys.Nb(), [&](Long I) { return At(I).Cell; },
+                            [&](Long I, Long J) { return Comes_Before(At(I), At(J)); }));
 }
 
 }  // namespace
@@ -78,26 +91,29 @@ void Poly_To_Cells_Into(Int Mode, Table<CPoly>& Polys, Table<CPt>& Places,
     Polys.Reserve(Nb_WPoly);
     Places.Reserve(Nb_WPt);
     const std::span<const WPt> All = Tab_WPt.Rows();
-    std::vector<CPt> Line;
     for (const WPoly& W : Tab_WPoly.Rows()) {
         const auto Points =
             All.subspan(static_cast<std::size_t>(W.First - 1), static_cast<std::size_t>(W.Nb));
         const Cell_Pos C = Cell_Of(Points);
-        Line.clear();
-        for (const WPt& P : Points) Line.push_back(Local(P, C, By_Area));
-        Drop_Repeats(Line);
-        if (Line.size() < 3 && !(W.Nb == 2 && Line.size() == 2)) continue;
-        if (Drops && Drops(Line)) continue;
+        const Long Before = Places.Nb();
+        const std::span<CPt> Line = Places.Append_Rows(Points.size());
+        for (std::size_t I = 0; I < Line.size(); ++I) Line[I] = Local(Points[I], C, By_Area);
+        const std::span<const CPt> Left = Without_Repeats(Line);
+        const bool Is_Kept = Left.size() >= 3 || (W.Nb == 2 && Left.size() == 2);
+        if (!Is_Kept || (Drops && Drops(Left))) {
+            Places.Truncate(Before);
+            continue;
+        }
+        Places.Truncate(Before + static_cast<Long>(Left.size()));
         CPoly P = Finished(W, C, By_Area);
-        P.Nb = static_cast<Int>(Line.size());
-        P.First = Places.Nb() + 1;
-        for (const CPt& Pt : Line) Places.Append(Pt);
+        P.Nb = static_cast<Int>(Left.size());
+        P.First = Before + 1;
         P.Last = Places.Nb();
         Polys.Append(P);
     }
     Tab_WPoly.Reset();
     Tab_WPt.Reset();
-    Exchange_Order(Polys, Cell_Key, Comes_Before);
+    Sort_By_Cell(Polys);
 }
 
 void Poly_To_Cells(Int Mode) {

@@ -2,6 +2,7 @@
 #include "grid/sorted_points.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdint>
 
@@ -21,17 +22,20 @@ public:
                                                       [](Pix A, Pix B) { return A.X < B.X; });
         Low_ = West->X;
         const Double Span = East->X - Low_;
-        if (Span > 0.0 && std::isfinite(Span)) Scale_ = Most / Span;
+        const int Bits = std::min(static_cast<int>(std::bit_width(Points.size())) + Bits_More, 32);
+        Most_ = std::ldexp(1.0, Bits) - 1.0;
+        if (Span > 0.0 && std::isfinite(Span)) Scale_ = Most_ / Span;
     }
 
     std::uint32_t operator()(Pix P) const {
         if (Scale_ == 0.0) return 0;
-        return static_cast<std::uint32_t>(std::min((P.X - Low_) * Scale_, Most));
+        return static_cast<std::uint32_t>(std::min((P.X - Low_) * Scale_, Most_));
     }
 
 private:
-    static constexpr Double Most = 4294967295.0;
-    Double Low_ = 0.0, Scale_ = 0.0;
+    // Digits cost a pass each, shared keys a comparison.
+    static constexpr int Bits_More = 4;
+    Double Low_ = 0.0, Scale_ = 0.0, Most_ = 0.0;
 };
 
 }  // namespace

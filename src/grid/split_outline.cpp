@@ -31,7 +31,7 @@ void Split_Outline::Load(std::span<const Pix> Points) {
     if (Is_Convex()) return;
     Boxes_.Reset(Nb_);
     for (Long V = 0; V < Nb_; ++V) Boxes_.Put(V, At(V), At(Next(V)));
-    Boxes_.Refresh_All();
+    Boxes_.Settle();
 }
 
 Long Split_Outline::Find_Start() {
@@ -61,7 +61,7 @@ void Split_Outline::Cut(Long A, Long B) {
     Free_Blocked_By(A);
     for (Long V = Next(A), Before = A; V != B; Before = V, V = Next(V)) {
         Take_Out(V);
-        if (!Edge_Boxes::Share_Node(Before, V)) Boxes_.Refresh(Before);
+        if (!Boxes_.Share_Node(Before, V)) Boxes_.Refresh(Before);
         if (Next(V) == B) Boxes_.Refresh(V);
     }
     Next_[Ix(A)] = B;

@@ -6,7 +6,8 @@
 void NPoly_Append(const WPoly& Like, std::span<const Pix> Points) {
     WPoly W = Like;
     W.First = Nb_NPt + 1;
-    for (const Pix P : Points) Tab_NPt.Append({.X = P.X, .Y = P.Y});
+    const std::span<WPt> To = Tab_NPt.Append_Rows(Points.size());
+    for (std::size_t I = 0; I < To.size(); ++I) To[I] = {.X = Points[I].X, .Y = Points[I].Y};
     W.Last = Nb_NPt;
     W.Nb = static_cast<Long>(Points.size());
     Tab_NPoly.Append(W);

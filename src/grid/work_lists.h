@@ -89,10 +89,12 @@ inline Long Err_PixY = 0;
 /// Adds a polygon with the values of Like to the output lists of a pass.
 void NPoly_Append(const WPoly& Like, std::span<const Pix> Points);
 
-/// As many points as the convex pieces of outlines of Nb points have at most: each run taken off
-/// adds two.
-inline Long Most_Points(Long Nb) {
-    return static_cast<Long>(std::min<std::int64_t>(std::int64_t{3} * Nb, 2'000'000'000));
+/// Room for the points of the pieces of outlines of Nb points: the convex ones have at most three
+/// times as many, since each run taken off adds two, and cutting them along the grid adds about
+/// as many again. Memory that is not used costs nothing, while a list that has to move costs more
+/// than its cut.
+inline Long Room_For_Points(Long Nb) {
+    return static_cast<Long>(std::min<std::int64_t>(std::int64_t{4} * Nb, 2'000'000'000));
 }
 
 /// Makes the output lists of a pass the new work lists. The output lists are empty then and keep

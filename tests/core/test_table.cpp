@@ -24,6 +24,25 @@ TEST(Table, ARowOfItsOwnCanBeAdded) {
     EXPECT_EQ(Tab[101], Tab[1]);
 }
 
+TEST(Table, ManyRowsAtOnceCountAsOneByOne) {
+    Table<int> Many{2, 3}, One_By_One{2, 3};
+    for (const int Count : {1, 1, 0, 4, 90}) {
+        const auto Rows = Many.Append_Rows(static_cast<std::size_t>(Count));
+        ASSERT_EQ(Rows.size(), static_cast<std::size_t>(Count));
+        for (int& Row : Rows) {
+            EXPECT_EQ(Row, 0);
+            Row = One_By_One.Append(static_cast<int>(One_By_One.Nb()));
+        }
+        EXPECT_EQ(Many.Nb(), One_By_One.Nb());
+        EXPECT_EQ(Many.Max(), One_By_One.Max());
+    }
+    EXPECT_EQ(Many[1], 1);
+    EXPECT_EQ(Many[96], 96);
+    Many.Dimension(std::numeric_limits<Long>::max() - 1);
+    Many.Append_Rows(1);
+    EXPECT_DEATH(Many.Append_Rows(std::numeric_limits<Long>::max()), "at most 2147483647 rows");
+}
+
 TEST(Table, RemoveMovesTheFollowingRowsDown) {
     Table<int> Tab{5, 5};
     for (const int X : {10, 20, 30}) Tab.Append(X);

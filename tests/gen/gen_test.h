@@ -7,6 +7,7 @@
 #include "gen/driver.h"
 #include "support/environment.h"
 #include "support/program_test.h"
+#include "support/stand_in.h"
 
 /// An open, empty project whose outputs go to the test's directory, at a fixed time. Outside
 /// tools are taken as run unless a test says otherwise.
@@ -24,10 +25,9 @@ protected:
     std::string Source(const std::string& Name) const { return Dir.Read("App/" + Name); }
     bool Has_Source(const std::string& Name) const { return Dir.Has("App/" + Name); }
 
-    /// Puts a shell script in App_Path as an outside tool, and lets tools run for real.
-    void Put_Tool(const std::string& Name, const std::string& Script) {
-        Dir.Write("App/" + Name, "#!/bin/sh\n" + Script);
-        std::filesystem::permissions(Dir.Native("App/" + Name), std::filesystem::perms::owner_all);
+    /// Puts a stand-in for an outside tool in App_Path, and lets tools run for real.
+    void Put_Tool(const std::string& Name, std::string_view Plan) {
+        Put_Stand_In(Dir, "App/" + Name, Plan);
         Host_Of_Test.Tool = nullptr;
     }
 

@@ -11,6 +11,7 @@
 #include "grid/box.h"
 #include "grid/coast_close.h"
 #include "grid/coast_cut.h"
+#include "grid/coast_fill.h"
 #include "grid/coast_polys.h"
 #include "grid/coast_to_cells.h"
 #include "grid/grid_lines.h"
@@ -379,7 +380,7 @@ struct Pieces {
         P.Last = Points.Nb();
         Polys.Append(P);
     }
-    bool Fill() const { return Fill_Cell(Polys.Rows(), Points); }
+    bool Fill() const { return Fill_Test().Fill_Cell(Polys.Rows(), Points); }
 };
 
 TEST(Coast_Cells, FilledCells) {

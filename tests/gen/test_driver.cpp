@@ -68,7 +68,7 @@ TEST_F(Driver_Test, NamesAreNoPatterns) {
 TEST_F(Driver_Test, ToolsPresentMissingAndFailing) {
     Exclude_Something();
     const std::string Source = "write " + App_Path + "\\Terrafold$_Excl.ASM";
-    Put_Tool("bglc.exe", "cp \"$1\" \"$2\"; exit 3\n");
+    Put_Tool("bglc.exe", "copy $1 $2\nexit 3\n");
     Cmd_API();
     EXPECT_TRUE(Host_Of_Test.Boxes.empty()) << "the exit status of a tool is not looked at";
     EXPECT_EQ(Dir.Read("Excl.bgl"), this->Source("Terrafold$_Excl.ASM"));

@@ -191,10 +191,9 @@ TEST_F(Class_Test, FilesThatCannotBeWrittenAreTold) {
 
 TEST_F(Class_Test, ToolsForReal) {
     Tab_LC.Append(Cell(3, 4, 5));
-    const std::string To_Temp = "cd \"$(dirname \"$0\")/Temp\" && ";
-    Put_Tool("ResampleV11.exe", To_Temp + "test -f \"$1\" && cp FicRaw.Raw landclass.tmf\n");
-    Put_Tool("tmfcompress.exe", "cp \"$1\" \"$2\"\n");
-    Put_Tool("tmf2bgl.exe", "cp \"$1\" \"$2\"\n");
+    Put_Tool("ResampleV11.exe", "need $1\ncopy Temp/FicRaw.Raw Temp/landclass.tmf\n");
+    Put_Tool("tmfcompress.exe", "copy $1 $2\n");
+    Put_Tool("tmf2bgl.exe", "copy $1 $2\n");
     Dir.Write("Classes/LC_048_032.bgl", "older");
     LC_Generate();
     EXPECT_TRUE(Dir.Read("Classes/LC_048_032.bgl") == Blank_But(3, 4, 5));

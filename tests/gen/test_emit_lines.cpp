@@ -11,6 +11,7 @@
 #include "gen/own_lines.h"
 #include "gen/vlines.h"
 #include "grid/line_collect.h"
+#include "platform/settings_file.h"
 #include "reference/shapes.h"
 #include "support/golden.h"
 
@@ -253,6 +254,23 @@ TEST_F(Emit_Lines_Test, OwnKinds) {
         Lines_With(Source_Name, "VTPTextureName"),
         (Lines{"        VTPTextureName \"c.bmp\"", "        VTPTextureName \"RiverSu.bmp\""}));
     EXPECT_TRUE(Lines_With(Source_Name, "VTPTextureType").empty());
+}
+
+TEST_F(Emit_Lines_Test, OwnKindsAreFoundAsSettingsAre) {
+    const std::string Text =
+        "\xEF\xBB\xBF[texture.4096]\nType=1\n  [ Texture.4097 ] x\nType=3\n[Texture.4096]\nType=9\n"
+        "Size=9\n[Texture.4098\nType=5\n[]\nType=6\n[Texture.4097]\n[Texture.4099]\r\nSize=8";
+    Dir.Write("App/Resource/OwnLines4.txt", Text);
+    const Own_Lines Own;
+    for (Int Code = 4095; Code <= 4100; ++Code) {
+        const auto Setting = [&](const char* Key) {
+            return Setting_In_Text(Text, "Texture." + std::to_string(Code), Key);
+        };
+        EXPECT_EQ(Own.Kind(Code).Type, Setting("Type").value_or("2")) << Code;
+        EXPECT_EQ(Own.Kind(Code).Size, Setting("Size").value_or("4")) << Code;
+    }
+    EXPECT_EQ(Own.Kind(4096).Type, "1") << "the first section of a name counts";
+    EXPECT_EQ(Own.Kind(4099).Size, "8");
 }
 
 TEST_F(Emit_Lines_Test, WhatIsShippedNamesEachKindOnce) {

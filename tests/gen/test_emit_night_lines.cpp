@@ -54,7 +54,7 @@ TEST_F(Night_Test, TheWholeSource) {
 
 TEST_F(Night_Test, EachAreaIsAFileOfItsOwn) {
     Draw_Three_Areas();
-    Put_Tool("scasm.exe", "test \"$3\" = -l && cp \"$1\" \"$2\"\n");
+    Put_Tool("scasm.exe", "same $3 -l\ncopy $1 $2\n");
     Night_Lines_Generate();
     EXPECT_TRUE(Host_Of_Test.Boxes.empty());
     EXPECT_EQ(Dir.Read("Out_9003.bgl"), Source(Source_Name));

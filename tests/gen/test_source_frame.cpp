@@ -1,6 +1,8 @@
 // tests/gen/test_source_frame.cpp - header limits, the skeleton, sources and tools.
 #include "gen/source_frame.h"
 
+#include <limits>
+
 #include "gen_test.h"
 
 namespace {
@@ -47,6 +49,23 @@ TEST_F(Source_Frame_Test, ASourceReplacesTheOlderOne) {
     const std::string Path = App_Path + "\\Some.asm";
     EXPECT_EQ(Host_Of_Test.Events,
               (std::vector<std::string>{"write " + Path, "delete " + Path, "write " + Path}));
+}
+
+TEST_F(Source_Frame_Test, LinesOfAnyLengthAndNumbersOfAnySizeAreWrittenWhole) {
+    std::string Wanted;
+    {
+        Source_File Out(Source_Path("Some.asm"));
+        for (const std::size_t Size : {0, 1, 8180, 8190, 8192, 70'000, 3, 200'000, 5}) {
+            const std::string Text(Size, static_cast<char>('a' + Size % 26));
+            Out.Line(Text, "|", std::numeric_limits<Long>::min(), "|", -1e-300 / 3, "|", Text);
+            Wanted += Text + "|-2147483648|-3.33333333333333E-301|" + Text + "\r\n";
+        }
+        for (Long N = 0; N < 5'000; ++N) {
+            Out.Line(N, Byte{255}, std::numeric_limits<Int>::min());
+            Wanted += std::to_string(N) + "255-32768\r\n";
+        }
+    }
+    EXPECT_EQ(Source("Some.asm"), Wanted) << "what is not closed stays";
 }
 
 TEST_F(Source_Frame_Test, ASourceThatCannotBeMadeIsTold) {

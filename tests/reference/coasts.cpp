@@ -1,12 +1,16 @@
-// reference/coasts.cpp - pass after pass over all lines, sweep after sweep over all edges.
+// reference/coasts.cpp - from the drawn coastlines to lines from edge to edge, pass after pass over
+// all of them.
 #include "reference/coasts.h"
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 #include <vector>
 
+#include "core/number_text.h"
 #include "grid/poly_cut.h"
 #include "grid/terrain_grid.h"
+#include "reference/lines.h"
 
 namespace reference {
 
@@ -45,54 +49,74 @@ void Line_Pass(Cut Seg_Cut) {
     WPoly_Commit();
 }
 
-struct Edge {
-    Int FromX, FromY, ToX, ToY;
-    bool Used = false;
-};
-
-bool Is_Reverse(const Edge& A, const Edge& B) {
-    return A.FromX == B.ToX && A.FromY == B.ToY && A.ToX == B.FromX && A.ToY == B.FromY;
+Cell_Pos Cell_Of_Segment(Long A, Long B) {
+    const Pix P = Pix_Of(Tab_WPt[A]), Q = Pix_Of(Tab_WPt[B]);
+    Cell_Pos C;
+    Pixel_To_Cell_Loc({(P.X + Q.X) / 2, (P.Y + Q.Y) / 2}, C);
+    return C;
 }
 
-Edge Edge_At(const CPoly& P, const Table<CPt>& Points, Long I) {
-    const CPt& From = Points[I];
-    const CPt& To = Points[I == P.Last ? P.First : I + 1];
-    return {From.LocX, From.LocY, To.LocX, To.LocY};
+bool Is_On_Edge(Long I, const Cell_Pos& C) {
+    const Loc_Cell L = Pixel_Loc_In_Cell(Pix_Of(Tab_WPt[I]), C);
+    return L.LocX == 0 || L.LocX == 255 || L.LocY == 0 || L.LocY == 255;
 }
 
-std::vector<Edge> Edges_Of(std::span<const CPoly> Polys, const Table<CPt>& Points) {
-    std::vector<Edge> List;
-    for (std::size_t K = 0; K < Polys.size(); ++K)
-        for (Long I = Polys[K].First; I <= Polys[K].Last; ++I) {
-            const Edge E = Edge_At(Polys[K], Points, I);
-            const auto Reverse = std::find_if(List.begin(), List.end(),
-                                              [&](const Edge& L) { return Is_Reverse(E, L); });
-            if (K > 0 && Reverse != List.end())
-                Reverse->Used = true;
-            else
-                List.push_back(E);
-        }
-    return List;
+bool Is_In_One_Cell(Long First, Long Last) {
+    for (Long i = First; i < Last; ++i)
+        if (Cell_Of_Segment(i, i + 1) != Cell_Of_Segment(First, First + 1)) return false;
+    return true;
 }
 
-// Empty when the pieces stay whatever the chain is.
-std::vector<Edge> Chain_Of(std::vector<Edge> List) {
-    std::size_t First = 0;
-    while (First < List.size() && List[First].Used) ++First;
-    if (First + 2 >= List.size()) return {};
-    List[First].Used = true;
-    std::vector<Edge> Chain{List[First]};
-    std::size_t Sweeps = 0;
-    for (bool Added = true; Added;) {
-        Added = false;
-        if (++Sweeps > List.size() + 2) return {};
-        for (Edge& E : List) {
-            if (E.Used || E.FromX != Chain.back().ToX || E.FromY != Chain.back().ToY) continue;
-            E.Used = Added = true;
-            Chain.push_back(E);
+void Pass_Over(WPoly& W) {
+    W.First = W.Last = W.Nb = 0;
+}
+
+// Without an edge a line inside one Cell is passed over; any other fails.
+bool Trim_Starts() {
+    for (WPoly& W : Tab_WPoly.Rows()) {
+        Long i = W.First;
+        while (i < W.Last && !Is_On_Edge(i, Cell_Of_Segment(i, i + 1))) ++i;
+        if (i < W.Last) {
+            W.Nb -= i - W.First;
+            W.First = i;
+        } else if (Is_In_One_Cell(W.First, W.Last)) {
+            Pass_Over(W);
+        } else {
+            return false;
         }
     }
-    return Chain;
+    return true;
+}
+
+bool Trim_Ends(const std::vector<Long>& Old_First) {
+    for (Long k = 1; k <= Nb_WPoly; ++k) {
+        WPoly& W = Tab_WPoly[k];
+        if (W.Nb == 0) continue;
+        const Long First = Old_First[static_cast<std::size_t>(k - 1)];
+        Long i = W.Last;
+        while (i > First && !Is_On_Edge(i, Cell_Of_Segment(i, i - 1))) --i;
+        if (i == First && !Is_In_One_Cell(First, W.Last)) return false;
+        W.Nb -= W.Last - i;
+        W.Last = i;
+        if (i == First || W.Nb < 2) Pass_Over(W);
+    }
+    return true;
+}
+
+void Drop_Lines_In_One_Cell() {
+    for (WPoly& W : Tab_WPoly.Rows()) {
+        if (W.Nb < 3 || !Is_In_One_Cell(W.First, W.Last)) continue;
+        const Cell_Pos C = Cell_Of_Segment(W.First, W.First + 1);
+        if (!Is_On_Edge(W.First, C) || !Is_On_Edge(W.Last, C)) Pass_Over(W);
+    }
+}
+
+void Compact() {
+    Tab_NPoly.Dimension(Nb_WPoly);
+    Tab_NPt.Dimension(Nb_WPt);
+    for (const WPoly& W : Tab_WPoly.Rows())
+        if (W.Nb != 0) Copy_Line(W);
+    WPoly_Commit();
 }
 
 }  // namespace
@@ -115,20 +139,48 @@ void Coast_Crossings() {
     }
 }
 
-bool Fill_Cell(std::span<const CPoly> Polys, const Table<CPt>& Points) {
-    const std::vector<Edge> Chain = Chain_Of(Edges_Of(Polys, Points));
-    const std::size_t n = Chain.size();
-    if (n < 4) return false;
-    const auto Start = [&](std::size_t I) {
-        const Edge& E = Chain[I % n];
-        return Pix{static_cast<Double>(E.FromX), static_cast<Double>(E.FromY)};
-    };
-    std::vector<Pix> Left;
-    for (std::size_t I = 0; I < n; ++I)
-        if (Sens_3Pts(Start(I + n - 1), Start(I), Start(I + 1)) != 0) Left.push_back(Start(I));
-    if (Left.size() != 4) return false;
-    std::rotate(Left.begin(), std::find(Left.begin(), Left.end(), Pix{0, 0}), Left.end());
-    return Left == std::vector<Pix>{{0, 0}, {255, 0}, {255, 255}, {0, 255}};
+Int Coast_Self_Cross() {
+    for (const WPoly& W : Tab_WPoly.Rows())
+        for (Long i = W.First; i <= W.Last - 3; ++i)
+            for (Long j = i + 2; j <= W.Last - 1; ++j) {
+                const Pix P1 = Pix_Of(Tab_WPt[i]), P2 = Pix_Of(Tab_WPt[i + 1]);
+                const Pix P3 = Pix_Of(Tab_WPt[j]), P4 = Pix_Of(Tab_WPt[j + 1]);
+                const Line_Meet M = Line_Cross(P1, P2, P3, P4);
+                if (M.Found == 0 || !In_Span(M.At.X, P1.X, P2.X) || !In_Span(M.At.X, P3.X, P4.X) ||
+                    !In_Span(M.At.Y, P1.Y, P2.Y) || !In_Span(M.At.Y, P3.Y, P4.Y))
+                    continue;
+                Err_PixX = Round_Lng(M.At.X);
+                Err_PixY = Round_Lng(M.At.Y);
+                return 3;
+            }
+    return 0;
+}
+
+void Coast_Cut_Cells() {
+    Coast_Crossings();
+    std::vector<Long> Old_First;
+    for (const WPoly& W : Tab_WPoly.Rows()) Old_First.push_back(W.First);
+    if (!Trim_Starts() || !Trim_Ends(Old_First)) {
+        Messages.push_back("132");
+        Tab_WPoly.Dimension(0);
+        return;
+    }
+    Drop_Lines_In_One_Cell();
+    Compact();
+}
+
+void Coast_Generate() {
+    Line_Collect({.Takes = [](const Attr& A) { return A.SurfShore == 3; }, .Turns = true});
+    if (Coast_Self_Cross() != 0) {
+        Messages.push_back("121 Bmp pixel X:" + std::string(Num_Text(Err_PixX)) +
+                           " Y:" + std::string(Num_Text(Err_PixY)));
+        return;
+    }
+    if (Nb_WPoly > 0) Coast_Cut_Cells();
+    if (Nb_WPoly > 0) Coast_Close();
+    if (Nb_WPoly == 0) return;
+    Coast_Polys();
+    Coast_To_Cells();
 }
 
 }  // namespace reference
