@@ -73,8 +73,8 @@ bool Ask_Save() {
     const std::string Question = In_Language("Do you want to save ",
                                              "Voulez-vous enregistrer les modifications apport\xE9"
                                              "es \xE0 ");
-    const Int Answer = The_Host().Show_Box(
-        {.Text = Question + Upper_1252(Nom_Projet) + " ?", .Style = Box_Yes_No_Cancel});
+    const Int Answer = The_Host().Show_Box({.Text = Question + Upper_1252(Nom_Projet) + " ?",
+                                            .Style = Box_Question + Box_Yes_No_Cancel});
     if (Answer == Button_Yes) return Save_Project(0, {});
     return Answer == Button_No;
 }
@@ -94,7 +94,12 @@ void Open_Project(std::string_view Path) {
         The_Host().Set_Pointer(Pointer_Shape::Normal);
         return;
     }
-    if (The_View.Tiles_Build && !The_View.Tiles_Build()) return;
+    if (The_View.Tiles_Build && !The_View.Tiles_Build()) {
+        Init_Tables();  // a project without its map can't be worked on
+        Projet_Open = 0;
+        The_Host().Set_Pointer(Pointer_Shape::Normal);
+        return;
+    }
     Recent_Update(Nom_Projet, 1);
     Begin_Editing();
 }
@@ -158,6 +163,16 @@ void Mnu_File_Prec(Int Index) {
     Open_In_View(Path);
 }
 
+void Open_From_Outside(std::string_view Path) {
+    const std::string Wanted(Path);
+    if (!Leave_Project()) return;
+    if (!Name_Valid(Path_Name(Wanted))) {
+        Msg_Show(1);
+        return;
+    }
+    Open_In_View(Wanted);
+}
+
 void Mnu_File_Close() {
     Leave_Project();
 }
@@ -186,7 +201,7 @@ void Mnu_Reinit() {
     const std::string Question =
         In_Language("Do you want to really initialize ", "Voulez-vous r\xE9llement initialiser ");
     const Int Answer = The_Host().Show_Box(
-        {.Text = Question + Upper_1252(Nom_Projet) + " ?", .Style = Box_Yes_No});
+        {.Text = Question + Upper_1252(Nom_Projet) + " ?", .Style = Box_Question + Box_Yes_No});
     if (Answer != Button_Yes) return;
     Call(The_View.Mode_Leave);
     if (Nb_Ima != 0) Call(The_View.Ima_Unload);

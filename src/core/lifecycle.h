@@ -44,7 +44,8 @@ void Close_View();
 /// it; Cancel keeps everything as it was.
 void Cmd_New();
 void Mnu_File_Open();
-void Mnu_File_Prec(Int Index);  // 0 to 3: a recent project
+void Mnu_File_Prec(Int Index);                  // 0 to 3: a recent project
+void Open_From_Outside(std::string_view Path);  // a file dropped on the window
 void Mnu_File_Close();
 
 void Cmd_Save();             // the button, which gives the focus back to the canvas

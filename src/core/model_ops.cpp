@@ -6,11 +6,13 @@
 #include <utility>
 
 #include "core/messages.h"
+#include "core/model_changes.h"
 
 namespace {
 
 // The rows grow by the pool's own rule; a point is never taken from a hole.
 Long Pt_New(Double X, Double Y) {
+    ++Model_Changes;
     return Tab_Pt.Append({.Prev = 0, .Next = 0, .X = X, .Y = Y});
 }
 
@@ -34,6 +36,7 @@ Attr Attr_Zero() {
 }
 
 void Init_Tables() {
+    ++Model_Changes;
     Tab_Obj.Reset();
     Tab_Pt.Reset();
     Tab_Area.Reset();
@@ -69,6 +72,7 @@ Long Obj_Add(const Attr& A, Double X, Double Y) {
 void Obj_Delete(Long I) {
     Check(I >= First_Obj, "the reserved element is never deleted");
     Tab_Obj.Remove(I);
+    ++Model_Changes;
 }
 
 Long Pt_Append(Long I, Double X, Double Y) {
@@ -133,6 +137,7 @@ bool Pt_Delete(Long I, Long P) {
         Tab_Pt[Next].Prev = Prev;
     }
     --O.Nb_Pts;
+    ++Model_Changes;
     return true;
 }
 

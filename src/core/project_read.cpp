@@ -8,6 +8,7 @@
 #include "core/host.h"
 #include "core/line_reader.h"
 #include "core/messages.h"
+#include "core/model_changes.h"
 #include "core/model_ops.h"
 #include "core/number_text.h"
 #include "core/program.h"
@@ -347,6 +348,7 @@ void Read_Project_Text(std::string_view Text) {
     Reader_Open(Text);
     const bool Accepted = Version_Is_Accepted();
     const bool Sound = Accepted && Project_Reader().Read_All();
+    ++Model_Changes;
     Reader_Open({});
     if (Sound) {
         Call(The_View.Ima_Load);

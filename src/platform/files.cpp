@@ -87,7 +87,9 @@ bool File_Copy(std::string_view From, std::string_view To) {
         In.read(Block.data(), static_cast<std::streamsize>(Block.size()));
         Out.Put(std::string_view(Block).substr(0, static_cast<std::size_t>(In.gcount())));
     }
-    return In.eof() && !In.bad() && Out.Commit();
+    const bool Whole = In.eof() && !In.bad();
+    In.close();  // a file in use can't be replaced everywhere, and it may be the same
+    return Whole && Out.Commit();
 }
 
 std::optional<std::string> File_Read(std::string_view Path) {
@@ -107,14 +109,18 @@ std::optional<std::string> File_Read(std::string_view Path) {
     return Text;
 }
 
-std::vector<std::string> Dir_Files(std::string_view Dir) {
+namespace {
+
+// Names in Dir of what Wanted takes, in order of their capitals.
+template <typename Test>
+std::vector<std::string> Names_In(std::string_view Dir, Test Wanted) {
     const std::optional<fs::path> Native = Native_Path(Dir);
     if (!Native) return {};
     std::vector<std::pair<std::string, std::string>> Keyed;  // capitals, name
     std::error_code Error;
     for (fs::directory_iterator At(*Native, Error), End; !Error && At != End; At.increment(Error)) {
         const std::optional<std::string> Name = From_Utf8(Utf8_From_Path(At->path().filename()));
-        if (!Name || Name->find('\\') != std::string::npos || !Is_File(At->path())) continue;
+        if (!Name || Name->find('\\') != std::string::npos || !Wanted(At->path(), *Name)) continue;
         Keyed.emplace_back(Upper_1252(std::string_view(*Name)), *Name);
     }
     std::sort(Keyed.begin(), Keyed.end());
@@ -122,6 +128,19 @@ std::vector<std::string> Dir_Files(std::string_view Dir) {
     Names.reserve(Keyed.size());
     for (auto& [Capitals, Name] : Keyed) Names.push_back(std::move(Name));
     return Names;
+}
+
+}  // namespace
+
+std::vector<std::string> Dir_Files(std::string_view Dir) {
+    return Names_In(Dir, [](const fs::path& Path, const std::string&) { return Is_File(Path); });
+}
+
+std::vector<std::string> Dir_Dirs(std::string_view Dir) {
+    return Names_In(Dir, [](const fs::path& Path, const std::string& Name) {
+        std::error_code Error;
+        return !Name.starts_with('.') && fs::is_directory(Path, Error);
+    });
 }
 
 std::vector<std::string> Files_Matching(std::string_view Stem, std::string_view Pattern) {

@@ -29,6 +29,9 @@ std::optional<std::string> File_Read(std::string_view Path);
 /// can't write are left out.
 std::vector<std::string> Dir_Files(std::string_view Dir);
 
+/// The same of the directories in it, without those that begin with a dot.
+std::vector<std::string> Dir_Dirs(std::string_view Dir);
+
 /// Paths of the files whose path is Stem followed by text that matches Pattern, in order of
 /// their capitals. In Pattern "*" stands for any text and "?" for any one character; in Stem
 /// they are ordinary characters. Case is ignored. Only the directory of Stem is looked at (the

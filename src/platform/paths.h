@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The file or directory that Path names, ignoring case where the exact name is absent; the
 /// path it would have when it does not exist. "/" divides parts as well, "." and ".." are
@@ -20,6 +21,10 @@ std::optional<std::filesystem::path> Native_Path(std::string_view Path);
 /// The program's form of a path of the system, made absolute; it ends in "\" where that ended
 /// in a divider. Nothing when code page 1252 can't write it or a name in it holds a "\".
 std::optional<std::string> Program_Path(const std::filesystem::path& Path);
+
+/// The roots from which directories are chosen, each ending in "\\": the drives, and on a POSIX
+/// system "\\" before those of the Wine prefix.
+std::vector<std::string> Drive_List();
 
 /// The directory part of Path with its final "\", and the rest; "" and Path without a "\".
 std::string_view Path_Dir(std::string_view Path);

@@ -16,6 +16,12 @@ namespace {
 
 constexpr const char* Resource = "Resource";
 
+std::optional<fs::path> Own_Program_Dir() {
+    const std::optional<fs::path> Program = Own_Program();
+    if (!Program) return std::nullopt;
+    return Program->parent_path();
+}
+
 // The program's own directory where it is unpacked as a whole and belongs to the user.
 std::optional<fs::path> Usable_Own_Dir() {
     std::optional<fs::path> Own = Own_Program_Dir();

@@ -20,8 +20,8 @@ std::optional<std::string> Env_Program_Path(const char* Name);
 std::filesystem::path Path_From_Utf8(const std::string& Text);
 std::string Utf8_From_Path(const std::filesystem::path& Path);
 
-/// The directory that holds the running program.
-std::optional<std::filesystem::path> Own_Program_Dir();
+/// The file of the running program.
+std::optional<std::filesystem::path> Own_Program();
 
 /// The directory in which Terrafold is to keep this user's data, whether it exists or not.
 std::optional<std::filesystem::path> User_Data_Dir();

@@ -125,8 +125,9 @@ TEST_F(Lifecycle, AMapThatIsRefusedStopsTheOpening) {
     The_View.Tiles_Build = [] { return false; };
     Host_Of_Test.File_Answers = {Path};
     Mnu_File_Open();
-    EXPECT_EQ(Projet_Open, 1);
+    EXPECT_EQ(Projet_Open, 0) << "without its map a project can't be worked on";
     EXPECT_EQ(Edit_On, 0);
+    EXPECT_EQ(Nb_Obj, 1) << "nothing of it is left";
     EXPECT_EQ(DerApt[0], "");
     EXPECT_EQ(Host_Of_Test.Pointer, Pointer_Shape::Normal);
 }

@@ -35,14 +35,14 @@ TEST(Wildcard, StarsAndQuestionMarks) {
 TEST(Files, MatchingTakesStemLiterally) {
     const Temp_Dir Dir;
     for (const char* Name : {"isle_3.bgl", "Isle_2.BGL", "isle_9001.bgl", "isle.bgl", "isle_.txt",
-                             "island_3.bgl", "is*e_1.bgl", "sub/isle_4.bgl"})
+                             "island_3.bgl", "sub/isle_4.bgl"})
         Dir.Write(Name, "x");
     ASSERT_TRUE(Dir_Create(Dir.Path("isle_5.bgl")));
 
     const std::string Stem = Dir.Path("ISLE");
     EXPECT_EQ(Files_Matching(Stem, "_*.bgl"),
               (Names{Dir.Path("Isle_2.BGL"), Dir.Path("isle_3.bgl"), Dir.Path("isle_9001.bgl")}));
-    EXPECT_EQ(Files_Matching(Dir.Path("is*e"), "_*.bgl"), Names{Dir.Path("is*e_1.bgl")});
+    EXPECT_EQ(Files_Matching(Dir.Path("is*e"), "_*.bgl"), Names{});
     EXPECT_EQ(Files_Matching(Dir.Path("?sle"), "_*.bgl"), Names{});
     EXPECT_EQ(Files_Matching("", "*"), Names{});
     EXPECT_EQ(Files_Matching(Dir.Path("none\\isle"), "*"), Names{});

@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "platform/paths.h"
+#include "platform/system.h"
 
 namespace fs = std::filesystem;
 
@@ -21,6 +22,10 @@ Temp_Dir::Temp_Dir() {
 Temp_Dir::~Temp_Dir() {
     std::error_code Ignored;
     fs::remove_all(Native_, Ignored);
+}
+
+fs::path Temp_Dir::Native(std::string_view Name) const {
+    return Native_ / Path_From_Utf8(std::string(Name));
 }
 
 std::string Temp_Dir::Path() const {

@@ -14,7 +14,7 @@ public:
 
     /// The system's path of the directory, and of a file in it.
     const std::filesystem::path& Native() const { return Native_; }
-    std::filesystem::path Native(std::string_view Name) const { return Native_ / Name; }
+    std::filesystem::path Native(std::string_view Name) const;  // Name in UTF-8
     /// The same in the program's form.
     std::string Path() const;
     std::string Path(std::string_view Name) const;

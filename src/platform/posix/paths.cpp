@@ -115,3 +115,13 @@ std::optional<std::string> Program_Path(const fs::path& Path) {
     std::replace(Text.begin(), Text.end(), '/', '\\');
     return From_Utf8(Text);
 }
+
+std::vector<std::string> Drive_List() {
+    std::vector<std::string> Drives{"\\"};
+    std::error_code Error;
+    for (char Letter = 'A'; Letter <= 'Z'; ++Letter) {
+        const std::optional<fs::path> Drive = Wine_Drive(Letter);
+        if (Drive && fs::is_directory(*Drive, Error)) Drives.push_back({Letter, ':', '\\'});
+    }
+    return Drives;
+}

@@ -1,4 +1,4 @@
-// platform/posix/simulator_dir.cpp - the simulator by environment or by Wine's registry.
+// platform/posix/simulator_dir.cpp - the simulator by Wine's registry.
 #include "platform/simulator_dir.h"
 
 #include <array>
@@ -9,7 +9,6 @@
 #include <string_view>
 
 #include "platform/posix/user_dirs.h"
-#include "platform/system.h"
 #include "platform/text1252.h"
 
 namespace {
@@ -65,7 +64,9 @@ std::optional<std::string> Unescaped(std::string_view Text) {
     return Text.empty() ? std::nullopt : From_Utf8(Utf8);
 }
 
-std::string From_Registry() {
+}  // namespace
+
+std::string Registered_Simulator_Dir() {
     const auto Prefix = Wine_Prefix();
     if (!Prefix) return "";
     std::ifstream In(*Prefix / "system.reg", std::ios::binary);
@@ -79,11 +80,4 @@ std::string From_Registry() {
         }
     }
     return "";
-}
-
-}  // namespace
-
-std::string Simulator_Dir() {
-    if (const auto Named = Env_Program_Path("TERRAFOLD_FSDIR")) return *Named;
-    return From_Registry();
 }

@@ -33,11 +33,11 @@ std::string Utf8_From_Path(const fs::path& Path) {
     return Path.native();
 }
 
-std::optional<fs::path> Own_Program_Dir() {
+std::optional<fs::path> Own_Program() {
     std::error_code Error;
-    const fs::path Program = fs::read_symlink("/proc/self/exe", Error);
+    fs::path Program = fs::read_symlink("/proc/self/exe", Error);
     if (Error) return std::nullopt;
-    return Program.parent_path();
+    return Program;
 }
 
 std::optional<fs::path> User_Data_Dir() {

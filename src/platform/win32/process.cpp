@@ -3,24 +3,61 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <string>
 
 #include "platform/system.h"
 #include "platform/text1252.h"
 
+namespace {
+
+using Owned_Handle = std::unique_ptr<void, decltype(&CloseHandle)>;
+
+Owned_Handle Own(HANDLE Handle) {
+    return {Handle == INVALID_HANDLE_VALUE ? nullptr : Handle, &CloseHandle};
+}
+
+// A device with nothing to read, for a child to have.
+Owned_Handle Empty_Input() {
+    SECURITY_ATTRIBUTES Inherited{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
+    return Own(CreateFileW(L"NUL", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, &Inherited,
+                           OPEN_EXISTING, 0, nullptr));
+}
+
+// Our standard error, for a child to have; empty when we have none.
+Owned_Handle Error_Output() {
+    HANDLE Copy = nullptr;
+    const HANDLE Self = GetCurrentProcess(), Error = GetStdHandle(STD_ERROR_HANDLE);
+    if (Error == nullptr || Error == INVALID_HANDLE_VALUE ||
+        DuplicateHandle(Self, Error, Self, &Copy, 0, TRUE, DUPLICATE_SAME_ACCESS) == 0)
+        return Own(nullptr);
+    return Own(Copy);
+}
+
+}  // namespace
+
 bool Process_Run(std::string_view Cmd_Line, bool Hidden) {
     if (Cmd_Line.find('\0') != std::string_view::npos) return false;
+    Cmd_Line = Trim(Cmd_Line);
+    if (Cmd_Line.empty()) return false;
     std::wstring Line = Path_From_Utf8(To_Utf8(Cmd_Line)).native();
     STARTUPINFOW Start{};
     Start.cb = sizeof Start;
     Start.dwFlags = STARTF_USESHOWWINDOW;
     Start.wShowWindow = Hidden ? SW_HIDE : SW_SHOWNORMAL;
+    // Our standard output is read by other programs, so what a tool prints goes to standard
+    // error. A program without one leaves the tool its own console.
+    const Owned_Handle Input = Empty_Input(), Output = Error_Output();
+    if (Output) {
+        Start.dwFlags |= STARTF_USESTDHANDLES;
+        Start.hStdInput = Input.get();
+        Start.hStdOutput = Start.hStdError = Output.get();
+    }
     PROCESS_INFORMATION Child{};
     if (CreateProcessW(nullptr, Line.data(), nullptr, nullptr, TRUE, NORMAL_PRIORITY_CLASS, nullptr,
                        nullptr, &Start, &Child) == 0)
         return false;
-    CloseHandle(Child.hThread);
-    WaitForSingleObject(Child.hProcess, INFINITE);
-    CloseHandle(Child.hProcess);
+    const Owned_Handle Process = Own(Child.hProcess), Thread = Own(Child.hThread);
+    WaitForSingleObject(Process.get(), INFINITE);
     return true;
 }

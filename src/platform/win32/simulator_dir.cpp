@@ -25,7 +25,7 @@ std::string Text_Value(HKEY Key, const wchar_t* Name) {
 
 }  // namespace
 
-std::string Simulator_Dir() {
+std::string Registered_Simulator_Dir() {
     HKEY Key = nullptr;
     // The simulator is a 32-bit program and wrote its key where those do.
     if (RegOpenKeyExW(HKEY_LOCAL_MACHINE,

@@ -39,12 +39,12 @@ std::string Utf8_From_Path(const fs::path& Path) {
     }
 }
 
-std::optional<fs::path> Own_Program_Dir() {
+std::optional<fs::path> Own_Program() {
     std::wstring Name(32768, L'\0');
     const DWORD Length = GetModuleFileNameW(nullptr, Name.data(), static_cast<DWORD>(Name.size()));
     if (Length == 0 || Length >= Name.size()) return std::nullopt;
     Name.resize(Length);
-    return fs::path(Name).parent_path();
+    return fs::path(Name);
 }
 
 std::optional<fs::path> User_Data_Dir() {

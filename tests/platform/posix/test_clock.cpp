@@ -1,4 +1,4 @@
-// tests/platform/posix/test_clock.cpp - the clock, and the time that builds ask for.
+// tests/platform/posix/test_clock.cpp - local time.
 #include <gtest/gtest.h>
 
 #include <ctime>
@@ -6,21 +6,6 @@
 
 #include "platform/clock.h"
 #include "support/environment.h"
-
-TEST(Clock, SourceDateEpochIsUtc) {
-    const Environment_Scope Zone("TZ", "America/New_York");
-    const struct {
-        const char* Epoch;
-        const char* Text;
-    } Cases[] = {{"0", "1970-01-01 00:00:00"},
-                 {"1065225599", "2003-10-03 23:59:59"},
-                 {"1709210096", "2024-02-29 12:34:56"},
-                 {"253402300799", "9999-12-31 23:59:59"}};
-    for (const auto& Case : Cases) {
-        const Environment_Scope Epoch("SOURCE_DATE_EPOCH", Case.Epoch);
-        EXPECT_EQ(Date_Time_Text(), Case.Text);
-    }
-}
 
 TEST(Clock, LocalTimeWhenNoWholeNumberIsAsked) {
     const Environment_Scope Zone("TZ", "XYZ-20");  // no place on earth is 20 hours ahead

@@ -1,4 +1,4 @@
-// tests/platform/posix/test_file_writer.cpp - saves that are killed or refused half way.
+// tests/platform/posix/test_file_writer.cpp - saves that are refused half way, and links.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -32,39 +32,12 @@ int In_Child(Job Run) {
     return WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
 }
 
-// Saves and dies before step Last, counted from 1; 0 when the save came to its end before.
-int Save_Until(const std::string& Path, int Last) {
-    return In_Child([&] {
-        int Steps = 0;
-        On_Save_Step = [&](Save_Step Step) {
-            if (++Steps == Last) _exit(10 + static_cast<int>(Step));
-        };
-        return Save(Path) ? 0 : 1;
-    });
-}
-
 mode_t Mode_Of(const fs::path& Path) {
     struct stat Found {};
     return stat(Path.c_str(), &Found) == 0 ? Found.st_mode & 07777 : 0;
 }
 
 }  // namespace
-
-TEST(Safe_Save, KilledAtAnyStepLeavesAWholeFile) {
-    std::vector<int> Ends;
-    for (int Last = 1; Ends.empty() || Ends.back() != 0; ++Last) {
-        ASSERT_LT(Last, 100);
-        const Temp_Dir Dir;
-        Dir.Write("p.LWM", Old_Text);
-        const int End = Save_Until(Dir.Path("p.LWM"), Last);
-        ASSERT_TRUE(End == 0 || End >= 10) << End;
-        const bool Renamed = End == 0 || End == 10 + static_cast<int>(Save_Step::Sync_Dir);
-        EXPECT_TRUE(Dir.Read("p.LWM") == (Renamed ? New_Text : Old_Text)) << "step " << Last;
-        Ends.push_back(End);
-    }
-    EXPECT_EQ(Ends, (std::vector{10, 11, 11, 11, 11, 11, 12, 13, 14, 0}))
-        << "create, five writes, sync, rename, sync of the directory, end";
-}
 
 TEST(Safe_Save, WithoutRoomTheOldFileStays) {
     const Temp_Dir Dir;

@@ -79,6 +79,14 @@ TEST(Paths, NothingForWhatCannotExist) {
     EXPECT_EQ(Dir_Files(Dir.Path()), std::vector<std::string>{"seen"});
 }
 
+TEST(Paths, AStarInANameIsNoPattern) {
+    const Temp_Dir Dir;
+    Dir.Write("is*e_1.bgl", "");
+    Dir.Write("isle_2.bgl", "");
+    EXPECT_EQ(Files_Matching(Dir.Path("is*e"), "_*.bgl"),
+              std::vector<std::string>{Dir.Path("is*e_1.bgl")});
+}
+
 TEST(Paths, DrivesAreThoseOfTheWinePrefix) {
     const Temp_Dir Dir;
     Dir.Write("drive_c/Program Files/FS9/fs9.exe", "MZ");
@@ -93,6 +101,7 @@ TEST(Paths, DrivesAreThoseOfTheWinePrefix) {
         EXPECT_EQ(Native_Path("D:\\x"), std::nullopt) << "a link to nowhere";
         EXPECT_EQ(Native_Path("E:\\x"), std::nullopt);
         EXPECT_FALSE(File_Writer("E:\\x", File_Writer::Mode::Safe).Is_Open());
+        EXPECT_EQ(Drive_List(), (std::vector<std::string>{"\\", "C:\\"}));
     }
     const Environment_Scope No_Prefix("WINEPREFIX", std::nullopt);
     const Environment_Scope Home("HOME", Dir.Native().string());

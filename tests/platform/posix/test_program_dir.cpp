@@ -1,91 +1,19 @@
-// tests/platform/posix/test_program_dir.cpp - where App_Path is, and what is put there.
+// tests/platform/posix/test_program_dir.cpp - directories of this system alone.
+#include "platform/program_dir.h"
+
 #include <gtest/gtest.h>
 
-#include <cstdio>
-
-#include "platform/files.h"
-#include "platform/process.h"
-#include "platform/program_dir.h"
+#include "platform/system.h"
 #include "support/environment.h"
 #include "support/temp_dir.h"
 
-namespace fs = std::filesystem;
-
-// Not a test: what a copy of this program, put somewhere else, runs to tell where it finds its
-// directory.
-TEST(Program_Dir, DISABLED_Report) {
-    const std::string Dir = Find_App_Dir().value();
-    ASSERT_TRUE(Prepare_App_Dir(Dir));
-    std::fprintf(stderr, "prepared\n");
-}
-
-namespace {
-
-class Moved_Program : public testing::Test {
-protected:
-    Moved_Program() {
-        fs::create_directories(Dir.Native("opt/bin"));
-        fs::copy_file("/proc/self/exe", Dir.Native("opt/bin/terrafold"));
-    }
-    bool Start() const {
-        return Process_Run(Dir.Path("opt\\bin\\terrafold") +
-                               " --gtest_brief=1 --gtest_also_run_disabled_tests"
-                               " --gtest_filter=Program_Dir.DISABLED_Report",
-                           true);
-    }
-
+TEST(Program_Dir, ARelativeDataDirectoryIsIgnored) {
     const Temp_Dir Dir;
-    const Environment_Scope No_Home_{"TERRAFOLD_HOME", std::nullopt};
-    const Environment_Scope Data_{"XDG_DATA_HOME", Dir.Native("data").string()};
-};
-
-}  // namespace
-
-TEST_F(Moved_Program, AnInstalledProgramFillsTheUsersDirectory) {
-    Dir.Write("opt/share/terrafold/Resource/FicErr.txt", "[ERR]");
-    Dir.Write("opt/share/terrafold/Resource/LC.txt", "classes");
-    Dir.Write("data/terrafold/Resource/ficerr.TXT", "the user's own");
-    ASSERT_TRUE(Start());
-    EXPECT_EQ(Dir.Read("data/terrafold/Resource/LC.txt"), "classes");
-    EXPECT_EQ(Dir.Read("data/terrafold/Resource/ficerr.TXT"), "the user's own");
-    EXPECT_FALSE(Dir.Has("data/terrafold/Resource/FicErr.txt")) << "there, in other letters";
-}
-
-TEST_F(Moved_Program, AnUnpackedProgramUsesItsOwnDirectory) {
-    Dir.Write("opt/bin/Resource/FicErr.txt", "[ERR]");
-    ASSERT_TRUE(Start());
-    EXPECT_FALSE(Dir.Has("data"));
-    EXPECT_EQ(Dir_Files(Dir.Path("opt\\bin\\Resource")), std::vector<std::string>{"FicErr.txt"});
-}
-
-TEST_F(Moved_Program, ARelativeDataDirectoryIsIgnored) {
     const Environment_Scope Home("HOME", Dir.Native().string());
     const Environment_Scope Relative("XDG_DATA_HOME", "data");
-    ASSERT_TRUE(Start());
-    EXPECT_TRUE(Dir.Has(".local/share/terrafold/Resource"));
+    EXPECT_EQ(User_Data_Dir(), Dir.Native(".local/share/terrafold"));
 }
 
-TEST(Program_Dir, TheVariableInEitherForm) {
-    const Temp_Dir Dir;
-    {
-        const Environment_Scope Named("TERRAFOLD_HOME", Dir.Native("my app/").string());
-        EXPECT_EQ(Find_App_Dir(), Dir.Path("my app"));
-    }
-    {
-        const Environment_Scope Named("TERRAFOLD_HOME", Dir.Path("app\\"));
-        EXPECT_EQ(Find_App_Dir(), Dir.Path("app")) << "given in the program's form";
-    }
-    {
-        const Environment_Scope Named("TERRAFOLD_HOME", Dir.Native("\xCE\xA9").string());
-        EXPECT_EQ(Find_App_Dir(), std::nullopt) << "no path of ours";
-    }
-}
-
-TEST(Program_Dir, PrepareMakesTheDirectoryOrSaysSo) {
-    const Temp_Dir Dir;
-    EXPECT_TRUE(Prepare_App_Dir(Dir.Path("new\\app")));
-    EXPECT_TRUE(Dir_Exists(Dir.Path("new\\app\\Resource")));
-    Dir.Write("file", "");
-    EXPECT_FALSE(Prepare_App_Dir(Dir.Path("file")));
+TEST(Program_Dir, WhatCannotBeMadeIsTold) {
     EXPECT_FALSE(Prepare_App_Dir("\\proc\\self\\app"));
 }

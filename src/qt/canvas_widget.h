@@ -1,0 +1,37 @@
+// qt/canvas_widget.h - the canvas on the screen: a surface kept as an image, and the overlay.
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+#include <functional>
+
+#include "ui/surface.h"
+
+class Canvas_Widget final : public QWidget, public Surface {
+public:
+    explicit Canvas_Widget(QWidget* Parent = nullptr);
+
+    /// Told of the room there is, in canvas pixels, once the image has that size.
+    std::function<void(Long Width, Long Height)> On_Resize = {};
+
+    void Clear() override;
+    void Stretch_Copy(const Picture& P, Box_Px Source, Box_Px Dest) override;
+    void Lines(std::span<const Line_Px> Segments, const Pen& With) override;
+    void Refresh() override;
+    void Set_Cursor(Pointer_Shape Shape) override;
+    void Overlay_Changed() override;
+
+    /// What was painted, without the overlay, in pixels of the screen.
+    const QImage& Image() const { return Image_; }
+
+protected:
+    void paintEvent(QPaintEvent* E) override;
+    void resizeEvent(QResizeEvent* E) override;
+    void changeEvent(QEvent* E) override;
+    void showEvent(QShowEvent* E) override;
+
+private:
+    void Fit();
+
+    QImage Image_;
+};

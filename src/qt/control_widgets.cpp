@@ -1,0 +1,300 @@
+// qt/control_widgets.cpp - labels, buttons, boxes, bars and menus.
+#include "qt/control_widgets.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QToolButton>
+
+#include "qt/canvas_widget.h"
+#include "qt/form_widget.h"
+#include "qt/icons.h"
+#include "qt/text.h"
+#include "ui/form_events.h"
+
+namespace {
+
+constexpr int Icon_Size = 22;  // of a tool button, pixels
+
+class Label_Widget final : public Control_Widget {
+public:
+    Label_Widget(Form_Widget& Owner, const Control& C) : Text_(new QLabel(&Owner)) {
+        Widget = Text_;
+        Text_->setTextFormat(Qt::PlainText);
+        if (C.Columns == 0) return;
+        Text_->setMinimumWidth(Width_Of(*Text_, C.Columns));
+        Text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+    void Follow(const Control& C) override {
+        Follow_Common(*this, C);
+        const QString Caption = Qt_Text(C.Caption);
+        Text_->setText(C.Columns == 0 ? Caption
+                                      : Text_->fontMetrics().elidedText(
+                                            Caption, Qt::ElideMiddle,
+                                            std::max(Text_->width(), Text_->minimumWidth())));
+    }
+
+private:
+    QLabel* Text_;
+};
+
+class Button_Widget final : public Control_Widget {
+public:
+    Button_Widget(Form_Widget& Owner, const Control& C) : Button_(new QPushButton(&Owner)) {
+        Widget = Button_;
+        Button_->setFocusPolicy(Qt::TabFocus);
+        Button_->setAutoDefault(false);
+        Button_->setDefault(C.Role == Button_Role::Ok);
+        Button_->setIcon(Themed_Icon(C.Icon));
+        QObject::connect(Button_, &QPushButton::clicked, &Owner, [&Owner, Name = C.Name] {
+            Owner.Do([&](Form& F) { Form_Click(F, Name); });
+        });
+    }
+    void Follow(const Control& C) override {
+        Follow_Common(*this, C);
+        Button_->setText(Literal_Caption(C.Caption));
+    }
+
+private:
+    QPushButton* Button_;
+};
+
+class Tool_Widget final : public Control_Widget {
+public:
+    Tool_Widget(Form_Widget& Owner, const Control& C) : Button_(new QToolButton(&Owner)) {
+        Widget = Button_;
+        Button_->setAutoRaise(true);
+        Button_->setIconSize(QSize(Icon_Size, Icon_Size));
+        Button_->setIcon(Themed_Icon(C.Icon));
+        Button_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        QObject::connect(Button_, &QToolButton::clicked, &Owner, [&Owner, Name = C.Name] {
+            Owner.Do([&](Form& F) { Form_Click(F, Name); });
+        });
+    }
+    void Follow(const Control& C) override {
+        Follow_Common(*this, C);
+        Button_->setText(Literal_Caption(C.Caption));
+        Button_->setToolButtonStyle(C.Caption.empty() ? Qt::ToolButtonIconOnly
+                                                      : Qt::ToolButtonTextBesideIcon);
+        Button_->setCheckable(C.Value != 0);
+        Button_->setChecked(C.Value != 0);
+    }
+
+private:
+    QToolButton* Button_;
+};
+
+class Check_Widget final : public Control_Widget {
+public:
+    Check_Widget(Form_Widget& Owner, const Control& C) : Box_(new QCheckBox(&Owner)) {
+        Widget = Box_;
+        Box_->setFocusPolicy(Qt::TabFocus);
+        QObject::connect(Box_, &QCheckBox::clicked, &Owner, [this, &Owner, Name = C.Name] {
+            Owner.Do([&](Form& F) { Form_Click(F, Name); });
+            Follow(Owner.The_Form()[Name]);
+        });
+    }
+    void Follow(const Control& C) override {
+        Follow_Common(*this, C);
+        Box_->setText(Literal_Caption(C.Caption));
+        Box_->setChecked(C.Value != 0);
+    }
+
+private:
+    QCheckBox* Box_;
+};
+
+class Frame_Widget final : public Control_Widget {
+public:
+    explicit Frame_Widget(Form_Widget& Owner) : Box_(new QGroupBox(&Owner)) { Widget = Box_; }
+    void Follow(const Control& C) override {
+        Follow_Common(*this, C);
+        Box_->setTitle(Literal_Caption(C.Caption));
+    }
+
+private:
+    QGroupBox* Box_;
+};
+
+class Tabs_Widget final : public Control_Widget {
+public:
+    Tabs_Widget(Form_Widget& Owner, const Control& C) : Pages_(new QTabWidget(&Owner)) {
+        Widget = Pages_;
+        QObject::connect(Pages_, &QTabWidget::tabBarClicked, &Owner,
+                         [this, &Owner, Name = C.Name](int Page) { Chosen(Owner, Name, Page); });
+        QObject::connect(Pages_, &QTabWidget::currentChanged, &Owner,
+                         [this, &Owner, Name = C.Name](int Page) { Chosen(Owner, Name, Page); });
+    }
+    void Follow(const Control& C) override {
+        Follow_Common(*this, C);
+        const QSignalBlocker Quiet(Pages_);
+        Pages_->setCurrentIndex(C.Value);
+    }
+
+private:
+    void Chosen(Form_Widget& Owner, const std::string& Name, int Page) {
+        if (Page < 0 || Page == Owner.The_Form()[Name].Value) return;
+        Owner.Do([&](Form& F) { Form_Choose(F, Name, Page); });
+        Follow(Owner.The_Form()[Name]);
+    }
+
+    QTabWidget* Pages_;
+};
+
+class Tab_Widget final : public Control_Widget {
+public:
+    explicit Tab_Widget(Form_Widget& Owner) { Widget = new QWidget(&Owner); }
+    void Follow(const Control& C) override {
+        Widget->setAccessibleName(Readable_Name(C));
+        for (QWidget* Up = Widget->parentWidget(); Up != nullptr; Up = Up->parentWidget()) {
+            auto* Pages = qobject_cast<QTabWidget*>(Up);
+            if (Pages == nullptr) continue;
+            const QSignalBlocker Quiet(Pages);
+            const int Page = Pages->indexOf(Widget);
+            Pages->setTabText(Page, Literal_Caption(C.Caption));
+            Pages->setTabToolTip(Page, Qt_Text(C.Tip));
+            Pages->setTabEnabled(Page, C.Enabled);
+            Pages->setTabVisible(Page, C.Visible);
+            return;
+        }
+    }
+};
+
+class Scroll_Widget final : public Control_Widget {
+public:
+    Scroll_Widget(Form_Widget& Owner, const Control& C) : Bar_(new QScrollBar(&Owner)) {
+        Widget = Bar_;
+        QObject::connect(Bar_, &QScrollBar::valueChanged, &Owner,
+                         [this, &Owner, Name = C.Name](int Value) {
+                             Owner.Do([&](Form& F) { Form_Scroll(F, Name, Value); });
+                             Follow(Owner.The_Form()[Name]);
+                         });
+    }
+    void Follow(const Control& C) override {
+        Follow_Common(*this, C);
+        const QSignalBlocker Quiet(Bar_);
+        Bar_->setRange(0, C.Max);
+        Bar_->setSingleStep(C.Small_Step);
+        Bar_->setPageStep(C.Large_Step);
+        Bar_->setValue(C.Value);
+    }
+
+private:
+    QScrollBar* Bar_;
+};
+
+// An item without words is none: a free place of a list that changes.
+class Menu_Item_Widget final : public Control_Widget {
+public:
+    Menu_Item_Widget(Form_Widget& Owner, const Control& C) {
+        Action = new QAction(&Owner);
+        Action->setObjectName(Qt_Text(C.Name));
+        Action->setShortcut(QKeySequence(Qt_Text(C.Shortcut), QKeySequence::PortableText));
+        QObject::connect(Action, &QAction::triggered, &Owner, [&Owner, Name = C.Name] {
+            Owner.Do([&](Form& F) { Form_Click(F, Name); });
+        });
+    }
+    void Follow(const Control& C) override {
+        Action->setText(Literal_Caption(C.Caption));
+        Action->setEnabled(C.Enabled);
+        Action->setVisible(C.Visible && !C.Caption.empty());
+    }
+};
+
+class Canvas_Control final : public Control_Widget {
+public:
+    Canvas_Control(Form_Widget& Owner, const Control& C) : Canvas_(new Canvas_Widget(&Owner)) {
+        Widget = Canvas_;
+        Canvas_->On_Resize = [&Owner, Name = C.Name](Long Width, Long Height) {
+            const auto& Tell = Owner.The_Form()[Name].On_Resize;
+            if (Tell) Tell(Width, Height);
+        };
+    }
+    void Follow(const Control& C) override { Follow_Common(*this, C); }
+
+private:
+    Canvas_Widget* Canvas_;
+};
+
+std::unique_ptr<Control_Widget> Make_Kind(Form_Widget& Owner, const Control& C, Place Where) {
+    switch (C.Kind) {
+        case Control_Kind::Button:
+            if (Where == Place::Tool_Bar) return std::make_unique<Tool_Widget>(Owner, C);
+            return std::make_unique<Button_Widget>(Owner, C);
+        case Control_Kind::Check:
+            return std::make_unique<Check_Widget>(Owner, C);
+        case Control_Kind::Options:
+            return Make_Options(Owner, C);
+        case Control_Kind::Text:
+        case Control_Kind::Number:
+            return Make_Field(Owner, C);
+        case Control_Kind::List:
+            return Make_List(Owner, C);
+        case Control_Kind::Combo:
+            return Make_Combo(Owner, C);
+        case Control_Kind::Image:
+            return Make_Image(Owner, C);
+        case Control_Kind::Frame:
+            return std::make_unique<Frame_Widget>(Owner);
+        case Control_Kind::Tabs:
+            return std::make_unique<Tabs_Widget>(Owner, C);
+        case Control_Kind::Tab:
+            return std::make_unique<Tab_Widget>(Owner);
+        case Control_Kind::Scroll_Bar:
+            return std::make_unique<Scroll_Widget>(Owner, C);
+        case Control_Kind::Menu:
+        case Control_Kind::Menu_Item:
+            return std::make_unique<Menu_Item_Widget>(Owner, C);
+        case Control_Kind::Canvas:
+            return std::make_unique<Canvas_Control>(Owner, C);
+        case Control_Kind::Label:
+            break;
+    }
+    return std::make_unique<Label_Widget>(Owner, C);
+}
+
+bool Has_Label_Beside(Control_Kind Kind) {
+    return Kind == Control_Kind::Text || Kind == Control_Kind::Number ||
+           Kind == Control_Kind::List || Kind == Control_Kind::Combo || Kind == Control_Kind::Image;
+}
+
+}  // namespace
+
+QString Readable_Name(const Control& C) {
+    const std::string& Said = !C.Caption.empty() ? C.Caption : !C.Tip.empty() ? C.Tip : C.Name;
+    return Qt_Text(Said);
+}
+
+int Width_Of(const QWidget& Widget, int Columns) {
+    return Columns * Widget.fontMetrics().averageCharWidth();
+}
+
+void Follow_Common(Control_Widget& Shown, const Control& C) {
+    Shown.Widget->setEnabled(C.Enabled);
+    Shown.Widget->setVisible(C.Visible);
+    Shown.Widget->setToolTip(Qt_Text(C.Tip));
+    Shown.Widget->setAccessibleName(Readable_Name(C));
+    if (Shown.Label == nullptr) return;
+    Shown.Label->setText(Literal_Caption(C.Caption));
+    Shown.Label->setEnabled(C.Enabled);
+    Shown.Label->setVisible(C.Visible && !C.Caption.empty());
+}
+
+std::unique_ptr<Control_Widget> Make_Control_Widget(Form_Widget& Owner, const Control& C,
+                                                    Place Where) {
+    auto Made = Make_Kind(Owner, C, Where);
+    if (Made->Widget != nullptr) {
+        Made->Widget->setObjectName(Qt_Text(C.Name));
+        Owner.Watch(*Made->Widget);
+        if (Has_Label_Beside(C.Kind)) {
+            Made->Label = new QLabel(&Owner);
+            Made->Label->setBuddy(Made->Widget);
+        }
+    }
+    return Made;
+}

@@ -1,0 +1,35 @@
+// qt/form_window.h - the windows that forms are shown in.
+#pragma once
+
+#include <QDialog>
+
+#include "ui/form.h"
+
+class Form_Widget;
+
+/// A window round one form: its title, its closing by the user, files dropped on it.
+class Form_Window : public QDialog {
+public:
+    Form_Window(Form& F, QWidget* Parent, Qt::WindowFlags Flags);
+
+    Form_Widget& Shown() { return *Shown_; }
+
+protected:
+    void closeEvent(QCloseEvent* E) override;
+    void keyPressEvent(QKeyEvent* E) override;
+    void dragEnterEvent(QDragEnterEvent* E) override;
+    void dropEvent(QDropEvent* E) override;
+    void reject() override;
+
+private:
+    Form_Widget* Shown_;
+};
+
+/// The window of the main form, as large as the screen comfortably allows.
+class Main_Window final : public Form_Window {
+public:
+    explicit Main_Window(Form& F);
+};
+
+/// Shows F as a dialog above Parent and returns when it is closed.
+void Run_Dialog(Form& F, QWidget* Parent);

@@ -1,0 +1,69 @@
+// qt/program_window.cpp - the program with its window, from start to end.
+#include "qt/program_window.h"
+
+#include <QApplication>
+
+#include "core/lifecycle.h"
+#include "core/program.h"
+#include "core/view_calls.h"
+#include "platform/program_dir.h"
+#include "qt/boxes.h"
+#include "qt/busy.h"
+#include "qt/canvas_widget.h"
+#include "qt/form_widget.h"
+#include "qt/form_window.h"
+#include "qt/window_host.h"
+#include "ui/form_list.h"
+#include "ui/frm.h"
+
+struct Program_Window::Parts {
+    explicit Parts(Form& F) : Window(F) {}
+
+    Main_Window Window;
+    Surface_Scope On_Canvas{*Window.Shown().Canvas()};
+};
+
+namespace {
+
+// The window comes up when its tool bar is laid out: a second instance has ended by then, and
+// the first dialog or project is still to come.
+void Show_When_Laid_Out(Form_Window& Window) {
+    The_View.Tool_Bar_Layout = [&Window, Before = The_View.Tool_Bar_Layout] {
+        Call(Before);
+        Window.show();
+        Window.Shown().Take_Focus();
+        Process_Events_Busy();
+    };
+}
+
+}  // namespace
+
+Program_Window::Program_Window(Window_Host& Host) {
+    Forms_Install();
+    Frm_Install();
+    Parts_ = std::make_unique<Parts>(Frm());
+    Window_ = &Parts_->Window;
+    Host.Set_Window(Window_);
+    Window_->Shown().On_Closed = [] { QCoreApplication::quit(); };
+}
+
+Program_Window::~Program_Window() = default;
+
+bool Program_Window::Start(std::string_view Command_Line, std::string_view App_Dir) {
+    Show_When_Laid_Out(*Window_);
+    return Program_Start(Command_Line, App_Dir);
+}
+
+int Program_Run(std::string_view Command_Line) {
+    Program_Reset();
+    Window_Host Host;
+    const Host_Scope Scope(Host);
+    const auto App_Dir = Find_App_Dir();
+    if (!App_Dir || !Prepare_App_Dir(*App_Dir)) {
+        Plain_Box("No directory for resources and sources can be written");
+        return 1;
+    }
+    Program_Window Program(Host);
+    if (!Program.Start(Command_Line, *App_Dir)) return 1;
+    return QCoreApplication::exec();
+}

@@ -1,0 +1,26 @@
+// qt/raster.h - lines and stretched pictures painted into an image of 32 bits a pixel.
+//
+// Positions are canvas pixels; Scale turns them into pixels of the image, so that a canvas on a
+// screen of fine pixels stays sharp. What lies outside the image is left out.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "tex/picture.h"
+#include "ui/surface.h"
+
+struct Raster {
+    std::uint32_t* Pixels = nullptr;  // 0xffRRGGBB
+    std::ptrdiff_t Stride = 0;        // pixels from a line to the next
+    Long Width = 0, Height = 0;       // image pixels
+    double Scale = 1.0;               // image pixels for a canvas pixel
+};
+
+/// Copies Source of P onto Dest by nearest pixels: those of the image whose centre lies in a
+/// source pixel take its colour. What Source has outside P is left out.
+void Raster_Copy(const Raster& R, const Picture& P, Box_Px Source, Box_Px Dest);
+
+/// Both ends are painted. A dotted line has one pixel in three.
+void Raster_Lines(const Raster& R, std::span<const Line_Px> Segments, const Pen& With);

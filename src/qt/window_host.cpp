@@ -1,0 +1,135 @@
+// qt/window_host.cpp - the program's host with a window.
+#include "qt/window_host.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QScreen>
+#include <atomic>
+#include <string>
+#include <thread>
+
+#include "qt/boxes.h"
+#include "qt/busy.h"
+#include "qt/canvas_widget.h"
+#include "qt/form_widget.h"
+#include "qt/form_window.h"
+#include "ui/frm.h"
+
+namespace {
+
+// Often enough to look alive, seldom enough to cost nothing.
+constexpr qint64 Refresh_Ms = 30;
+
+// What is in front: a dialog, or else the main window.
+QWidget* Front(Form_Window* Main) {
+    QWidget* Modal = QApplication::activeModalWidget();
+    return Modal != nullptr ? Modal : Main;
+}
+
+// The hourglass would stay above a box that waits for the user.
+class Plain_Pointer {
+public:
+    Plain_Pointer() : Was_Busy_(QApplication::overrideCursor() != nullptr) {
+        if (Was_Busy_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~Plain_Pointer() {
+        if (Was_Busy_) QApplication::restoreOverrideCursor();
+    }
+    Plain_Pointer(const Plain_Pointer&) = delete;
+    Plain_Pointer& operator=(const Plain_Pointer&) = delete;
+
+private:
+    bool Was_Busy_;
+};
+
+}  // namespace
+
+void Window_Host::Set_Window(Form_Window* Main) {
+    Main_ = Main;
+    Since_Refresh_.start();
+}
+
+void Window_Host::Bring_Up_To_Date() {
+    if (Main_ != nullptr) Main_->Shown().Flush();
+}
+
+Int Window_Host::Show_Box(const Box& B) {
+    Bring_Up_To_Date();
+    const Plain_Pointer Pointer;
+    return Show_Message_Box(B, Front(Main_));
+}
+
+std::optional<std::string> Window_Host::Ask_File(const File_Question& Q) {
+    Bring_Up_To_Date();
+    const Plain_Pointer Pointer;
+    return Ask_For_File(Q, Front(Main_));
+}
+
+Form_End Window_Host::Run_Form(std::string_view Form) {
+    return Form_Run(Form, *this);
+}
+
+void Window_Host::Run_Modal(Form& F) {
+    Bring_Up_To_Date();
+    const Plain_Pointer Pointer;
+    Run_Dialog(F, Front(Main_));
+}
+
+void Window_Host::Set_Caption(std::string_view Control, std::string_view Text) {
+    Frm_Set_Caption(Control, Text);
+}
+
+void Window_Host::Set_Enabled(std::string_view Control, bool On) {
+    Frm_Set_Enabled(Control, On);
+}
+
+void Window_Host::Set_Visible(std::string_view Control, bool On) {
+    Frm_Set_Visible(Control, On);
+}
+
+void Window_Host::Set_Focus(std::string_view Control) {
+    Frm_Set_Focus(Control);
+}
+
+// The cross belongs to the canvas, which keeps it under the hourglass; that is everywhere.
+void Window_Host::Set_Pointer(Pointer_Shape Shape) {
+    const bool Busy_Shape = Shape == Pointer_Shape::Hourglass;
+    const bool Shows_It = QApplication::overrideCursor() != nullptr;
+    if (Busy_Shape && !Shows_It) QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (!Busy_Shape && Shows_It) QApplication::restoreOverrideCursor();
+    if (Shape == Pointer_Shape::Cross && Main_ != nullptr)
+        if (Canvas_Widget* Canvas = Main_->Shown().Canvas()) Canvas->Set_Cursor(Shape);
+}
+
+void Window_Host::Refresh() {
+    if (Main_ == nullptr || Since_Refresh_.elapsed() < Refresh_Ms) return;
+    Bring_Up_To_Date();
+    Process_Events_Busy();
+    Since_Refresh_.restart();
+}
+
+void Window_Host::Turn() {
+    if (Main_ == nullptr) return;
+    Bring_Up_To_Date();
+    Process_Events_Busy();
+}
+
+Display_Info Window_Host::Display() {
+    const QScreen* Screen = QApplication::primaryScreen();
+    const Int Bits = Screen != nullptr ? static_cast<Int>(Screen->depth()) : Int{0};
+    return {.Bits_Per_Pixel = Bits, .Has_Raster = true};
+}
+
+bool Window_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
+    Bring_Up_To_Date();
+    const Busy Now;
+    QEventLoop Loop;
+    bool Started = false;
+    std::thread Worker([&, Line = std::string(Cmd_Line)] {
+        Started = Silent_Host::Run_Tool(Line, Show_Mode);
+        QMetaObject::invokeMethod(&Loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    Loop.exec();
+    Worker.join();
+    return Started;
+}

@@ -1,0 +1,38 @@
+// qt/window_host.h - the program's host with a window.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QPointer>
+
+#include "core/host.h"
+#include "ui/form_list.h"
+
+class Form_Window;
+
+class Window_Host : public Silent_Host, public Form_Host {
+public:
+    /// The window of the main form, above which boxes and dialogs come up; null before it is
+    /// there.
+    void Set_Window(Form_Window* Main);
+
+    Int Show_Box(const Box& B) override;
+    std::optional<std::string> Ask_File(const File_Question& Q) override;
+    Form_End Run_Form(std::string_view Form) override;
+    void Run_Modal(Form& F) override;
+    void Set_Caption(std::string_view Control, std::string_view Text) override;
+    void Set_Enabled(std::string_view Control, bool On) override;
+    void Set_Visible(std::string_view Control, bool On) override;
+    void Set_Focus(std::string_view Control) override;
+    void Set_Pointer(Pointer_Shape Shape) override;
+    void Refresh() override;
+    void Turn() override;
+    Display_Info Display() override;
+    /// The window goes on painting while the tool runs.
+    bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
+
+private:
+    void Bring_Up_To_Date();
+
+    QPointer<Form_Window> Main_;
+    QElapsedTimer Since_Refresh_;
+};

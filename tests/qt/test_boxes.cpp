@@ -1,0 +1,113 @@
+// tests/qt/test_boxes.cpp - message boxes and questions for a file.
+#include "qt/boxes.h"
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "core/program.h"
+#include "qt_test.h"
+#include "support/program_test.h"
+
+namespace {
+
+class Boxes_Test : public Program_Test {
+protected:
+    Boxes_Test() { Language = "US"; }
+
+    // The box of that style, with its button pressed.
+    Int Press_In(Int Style, const char* Button) {
+        Dialog_Script Script({Answer(Button)});
+        return Show_Message_Box({.Text = "Text", .Style = Style}, nullptr);
+    }
+    Int Dismiss(Int Style) {
+        Dialog_Script Script({[](QDialog& Box) { QTest::keyClick(&Box, Qt::Key_Escape); }});
+        return Show_Message_Box({.Text = "Text", .Style = Style}, nullptr);
+    }
+    File_Question Question(File_Question::Kind Mode) {
+        return {.Mode = Mode,
+                .Title = "Loading a file",
+                .Start_Dir = Dir.Path() + "\\",
+                .File_Name = {},
+                .Filter = "Terrafold (*.LWM)|*.LWM"};
+    }
+    // Types Name into the question for a file and accepts it.
+    static Dialog_Script::Step Typed(const char* Name) {
+        return [Name](QDialog& D) {
+            Find<QLineEdit>(D, "fileNameEdit").setText(QLatin1String(Name));
+            auto& Box = *D.findChild<QDialogButtonBox*>();
+            for (QAbstractButton* Button : Box.buttons())
+                if (Box.buttonRole(Button) == QDialogButtonBox::AcceptRole) Button->click();
+        };
+    }
+};
+
+}  // namespace
+
+TEST_F(Boxes_Test, EachButtonGivesItsNumber) {
+    EXPECT_EQ(Press_In(Box_Ok, "OK"), Button_Ok);
+    EXPECT_EQ(Press_In(Box_Ok_Cancel + Box_Warning, "Cancel"), Button_Cancel);
+    EXPECT_EQ(Press_In(Box_Yes_No_Cancel + Box_Question, "No"), Button_No);
+    EXPECT_EQ(Press_In(Box_Yes_No + Box_Stop, "Yes"), Button_Yes);
+    Language = "FR";
+    EXPECT_EQ(Press_In(Box_Yes_No_Cancel, "Oui"), Button_Yes);
+    EXPECT_EQ(Press_In(Box_Yes_No_Cancel, "Annuler"), Button_Cancel);
+}
+
+TEST_F(Boxes_Test, DismissingABoxChangesNothing) {
+    EXPECT_EQ(Dismiss(Box_Ok), Button_Ok);
+    EXPECT_EQ(Dismiss(Box_Yes_No_Cancel), Button_Cancel);
+    EXPECT_EQ(Dismiss(Box_Yes_No), Button_No);
+}
+
+TEST_F(Boxes_Test, TheTextIsPlainAndKeepsItsLines) {
+    Dialog_Script Script({[](QDialog& D) {
+        auto& Box = static_cast<QMessageBox&>(D);
+        EXPECT_EQ(Box.text(), QStringLiteral("<b>\u00E9</b>\nline"));
+        EXPECT_EQ(Box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(Box.icon(), QMessageBox::Warning);
+        EXPECT_EQ(Box.windowTitle(), "Title");
+        EXPECT_EQ(Box.defaultButton()->text(), "Yes");
+        QTest::keyClick(&Box, Qt::Key_Return);
+    }});
+    EXPECT_EQ(Show_Message_Box({.Text = "<b>\xE9</b>\r\nline",
+                                .Style = Box_Warning + Box_Yes_No_Cancel,
+                                .Title = "Title"},
+                               nullptr),
+              Button_Yes);
+}
+
+TEST_F(Boxes_Test, AFileIsAskedForInTheDirectoryGiven) {
+    Dir.Write("b.lwm", "");
+    Dialog_Script Script({[this](QDialog& D) {
+        auto& Asked = static_cast<QFileDialog&>(D);
+        EXPECT_EQ(Asked.windowTitle(), "Loading a file");
+        EXPECT_EQ(Asked.directory().absolutePath().toStdString(), Dir.Native().string());
+        EXPECT_TRUE(Asked.nameFilters().front().contains(QLatin1String("*.LWM *.lwm")));
+        Typed("b.lwm")(D);
+    }});
+    EXPECT_EQ(Ask_For_File(Question(File_Question::Kind::Open), nullptr), Dir.Path("b.lwm"));
+}
+
+TEST_F(Boxes_Test, ANameWithoutAnExtensionGetsThatOfTheFilter) {
+    Dir.Write("old.LWM", "");
+    {
+        Dialog_Script Script({Typed("new")});
+        EXPECT_EQ(Ask_For_File(Question(File_Question::Kind::Save), nullptr), Dir.Path("new.LWM"));
+    }
+    Dialog_Script Script({Typed("old")});
+    EXPECT_EQ(Ask_For_File(Question(File_Question::Kind::Open), nullptr), Dir.Path("old.LWM"));
+}
+
+TEST_F(Boxes_Test, AFileIsReplacedOnlyAfterAQuestion) {
+    Dir.Write("old.LWM", "");
+    Dialog_Script Script({Typed("old"), [](QDialog& Question) {
+                              auto* Asked = static_cast<QDialog*>(Question.parentWidget());
+                              QMetaObject::invokeMethod(Asked, &QDialog::reject,
+                                                        Qt::QueuedConnection);
+                              Press_Button(Question, "&No");
+                          }});
+    EXPECT_EQ(Ask_For_File(Question(File_Question::Kind::Save), nullptr), std::nullopt);
+}

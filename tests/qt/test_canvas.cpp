@@ -1,0 +1,163 @@
+// tests/qt/test_canvas.cpp - the canvas on the screen, at the screen's fineness.
+#include <QImage>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+#include "qt/canvas_widget.h"
+#include "qt/form_widget.h"
+#include "qt/form_window.h"
+#include "qt_test.h"
+#include "support/program_test.h"
+#include "tex/picture.h"
+
+namespace {
+
+class Canvas_Test : public Program_Test {
+protected:
+    Canvas_Test() {
+        F.Add({.Kind = Control_Kind::Canvas,
+               .Name = "Pic",
+               .On_Mouse = [this](const Mouse_Event& E) { Seen.push_back(E); },
+               .On_Resize =
+                   [this](Long W, Long H) {
+                       Size = {W, H};
+                   }});
+        F.Add({.Kind = Control_Kind::Scroll_Bar, .Name = "Up", .Max = 10});
+        F.Add({.Kind = Control_Kind::Scroll_Bar, .Name = "Flat", .Max = 10});
+        F.Add({.Kind = Control_Kind::Frame, .Name = "Fram", .Visible = false});
+        F.Add({.Name = "Progress", .Caption = "42 %"});
+        F.Set_Layout(
+            Column({Canvas("Pic", {"Up", "Flat"}), Over_Canvas({Frame("Fram", {"Progress"})})}));
+        W = std::make_unique<Form_Window>(F, nullptr, Qt::Window);
+        W->resize(400, 300);
+        W->show();
+        Turn();
+        On = std::make_unique<Surface_Scope>(Pic());
+        Pic().Clear();
+    }
+    ~Canvas_Test() override { The_Overlay = {}; }
+
+    Canvas_Widget& Pic() { return *W->Shown().Canvas(); }
+    double Fine() { return Pic().devicePixelRatioF(); }
+    // The colour in the middle of a canvas pixel, of what is on the screen.
+    QRgb On_Screen(Long X, Long Y) {
+        const QImage Shot = Pic().grab().toImage();
+        return Shot.pixel(static_cast<int>((X + 0.5) * Fine()),
+                          static_cast<int>((Y + 0.5) * Fine()));
+    }
+    void Send(QEvent::Type What, Qt::MouseButton Button, Qt::MouseButtons Held) {
+        QMouseEvent E(What, QPointF(11, 12), QPointF(11, 12), Button, Held, Qt::ShiftModifier);
+        QCoreApplication::sendEvent(&Pic(), &E);
+    }
+
+    Form F{"Frm_Canvas"};
+    std::unique_ptr<Form_Window> W;
+    std::unique_ptr<Surface_Scope> On;
+    std::vector<Mouse_Event> Seen;
+    std::pair<Long, Long> Size;
+};
+
+}  // namespace
+
+TEST_F(Canvas_Test, TheImageIsAsFineAsTheScreen) {
+    EXPECT_EQ(Size.first, Pic().width());
+    EXPECT_EQ(Size.second, Pic().height());
+    EXPECT_EQ(Pic().Image().width(), std::lround(Pic().width() * Fine()));
+    if (!qEnvironmentVariableIsEmpty("QT_SCALE_FACTOR")) {
+        EXPECT_EQ(Fine(), qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
+    }
+    W->resize(520, 444);
+    Turn();
+    EXPECT_EQ(Size.first, Pic().width());
+    EXPECT_EQ(Pic().Image().height(), std::lround(Pic().height() * Fine()));
+}
+
+TEST_F(Canvas_Test, WhatIsPaintedIsSeen) {
+    Picture P = Picture_Make(2, 1, 24);
+    P.Bytes[0] = P.Bytes[5] = 255;  // blue, then red
+    Pic().Stretch_Copy(P, {0, 0, 2, 1}, {10, 10, 8, 4});
+    Pic().Line({0, 30, 50, 30}, {.Colour = 0x00FF00});
+    Pic().Refresh();
+    EXPECT_EQ(On_Screen(13, 12), 0xFF0000FFU);
+    EXPECT_EQ(On_Screen(14, 12), 0xFFFF0000U);
+    EXPECT_EQ(On_Screen(50, 30), 0xFF00FF00U);
+    EXPECT_NE(On_Screen(51, 30), 0xFF00FF00U);
+    EXPECT_NE(On_Screen(20, 31), 0xFF00FF00U);
+}
+
+TEST_F(Canvas_Test, AFinePixelIsNotBlurred) {
+    Pic().Line({20, 0, 20, 60}, {.Colour = 0xFF0000});
+    const QImage& Image = Pic().Image();
+    int Red = 0;
+    for (int X = 0; X < Image.width(); ++X) Red += Image.pixel(X, 10) == 0xFFFF0000U;
+    EXPECT_EQ(Red, std::lround(Fine()));
+}
+
+TEST_F(Canvas_Test, TheOverlayLiesAboveAndLeavesTheImage) {
+    const QRgb Before = On_Screen(40, 40);
+    The_Overlay.Ln1 = {.At = {30, 40, 60, 40}, .Colour = 0x0000FF, .Visible = true};
+    The_Overlay.Cercle = {.X = 100, .Y = 100, .Visible = true};
+    The_Overlay.LPtGrid = {.X = 150, .Y = 20, .Text = "123 m", .Visible = true};
+    Pic().Overlay_Changed();
+    EXPECT_EQ(On_Screen(40, 40), 0xFF0000FFU);
+    EXPECT_GT(qRed(On_Screen(105, 100)), 200) << "11 pixels across";
+    EXPECT_EQ(On_Screen(100, 100), Before) << "the circle is hollow";
+    EXPECT_NE(On_Screen(152, 22), Before);
+    EXPECT_EQ(Pic().Image().pixel(static_cast<int>(40 * Fine()), static_cast<int>(40 * Fine())),
+              Before);
+    The_Overlay.Ln1.Visible = false;
+    Pic().Overlay_Changed();
+    EXPECT_EQ(On_Screen(40, 40), Before);
+}
+
+TEST_F(Canvas_Test, TheMouseIsToldInCanvasPixels) {
+    using Kind = Mouse_Event::Kind;
+    Send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+    Send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton | Qt::RightButton);
+    Send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+    Send(QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton);
+    Send(QEvent::MouseButtonPress, Qt::MiddleButton, Qt::MiddleButton);
+    ASSERT_EQ(Seen.size(), 5U);
+    EXPECT_EQ(Seen[0].What, Kind::Press);
+    EXPECT_EQ(Seen[0].Button, Mouse_Left);
+    EXPECT_EQ(Seen[0].Shift, Shift_Key);
+    EXPECT_EQ(Seen[0].X, 11.0);
+    EXPECT_EQ(Seen[0].Y, 12.0);
+    EXPECT_EQ(Seen[1].What, Kind::Move);
+    EXPECT_EQ(Seen[1].Button, Mouse_Left + Mouse_Right);
+    EXPECT_EQ(Seen[2].What, Kind::Release);
+    EXPECT_EQ(Seen[3].What, Kind::Double_Click);
+    EXPECT_EQ(Seen[4].Button, Mouse_Middle);
+    EXPECT_EQ(F.Focus(), "");
+}
+
+TEST_F(Canvas_Test, SmallTurnsOfTheWheelAddUpToSteps) {
+    const auto Turn_Wheel = [this](int Eighths) {
+        QWheelEvent E(QPointF(5, 6), QPointF(5, 6), {}, {0, Eighths}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&Pic(), &E);
+    };
+    Turn_Wheel(60);
+    EXPECT_TRUE(Seen.empty());
+    Turn_Wheel(60);
+    Turn_Wheel(-240);
+    ASSERT_EQ(Seen.size(), 2U);
+    EXPECT_EQ(Seen[0].What, Mouse_Event::Kind::Wheel);
+    EXPECT_EQ(Seen[0].Steps, 1);
+    EXPECT_EQ(Seen[1].Steps, -2);
+    EXPECT_EQ(Seen[1].Y, 6.0);
+}
+
+TEST_F(Canvas_Test, APanelLiesOverTheMiddleWhileItIsVisible) {
+    QWidget& Panel = Find<QWidget>(*W, "Fram");
+    EXPECT_FALSE(Panel.isVisible());
+    F.Set_Visible("Fram", true);
+    Turn();
+    ASSERT_TRUE(Panel.isVisible());
+    const QPoint Middle = Panel.mapTo(&Pic(), Panel.rect().center());
+    EXPECT_NEAR(Middle.x(), Pic().width() / 2, 2);
+    EXPECT_NEAR(Middle.y(), Pic().height() / 2, 2);
+    F.Set_Visible("Fram", false);
+    Turn();
+    EXPECT_FALSE(Panel.isVisible());
+}

@@ -1,0 +1,323 @@
+// tests/qt/test_form_widget.cpp - a form drawn, its changes followed, its user heard.
+#include <QAbstractButton>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTabWidget>
+
+#include "qt/form_widget.h"
+#include "qt/form_window.h"
+#include "qt_test.h"
+#include "sample_form.h"
+#include "support/program_test.h"
+#include "tex/picture.h"
+
+namespace {
+
+class Form_Widget_Test : public Program_Test {
+protected:
+    Form_Widget_Test() { Show(); }
+
+    void Show() {
+        Language = "US";
+        S.F.Set_Language("US");
+        W = std::make_unique<Form_Window>(S.F, nullptr, Qt::Dialog);
+        W->show();
+        W->activateWindow();
+        W->Shown().Take_Focus();
+        Turn();
+    }
+    template <typename T>
+    T& Get(const std::string& Name) {
+        return Find<T>(*W, Name);
+    }
+    void Bad_Number() {
+        Get<QLineEdit>("Number").setFocus(Qt::TabFocusReason);
+        Turn();
+        Get<QLineEdit>("Number").selectAll();
+        Type(*W, "x");
+    }
+    std::size_t Messages() const { return Host_Of_Test.Boxes.size(); }
+    std::string Focus() { return Program_Text(W->focusWidget()->objectName()); }
+
+    Sample S;
+    std::unique_ptr<Form_Window> W;
+};
+
+}  // namespace
+
+TEST_F(Form_Widget_Test, EveryControlIsThereUnderItsNameAndReadsWell) {
+    for (const Control& C : S.F.Controls()) {
+        if (C.Kind == Control_Kind::Menu || C.Kind == Control_Kind::Menu_Item) {
+            EXPECT_NE(W->findChild<QObject*>(Qt_Text(C.Name)), nullptr) << C.Name;
+            continue;
+        }
+        auto* Widget = W->findChild<QWidget*>(Qt_Text(C.Name));
+        ASSERT_NE(Widget, nullptr) << C.Name;
+        const std::string Said = C.Caption.empty() ? C.Name : C.Caption;
+        EXPECT_EQ(Program_Text(Widget->accessibleName()), Said) << C.Name;
+    }
+    EXPECT_EQ(W->windowTitle(), "Sample");
+    EXPECT_EQ(Get<QAbstractButton>("Opt(1)").text(), "Two");
+    EXPECT_EQ(Get<QTabWidget>("Tabs").tabText(1), "Page 2");
+    EXPECT_EQ(Get<QAction>("Mnu_Item").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_I));
+}
+
+TEST_F(Form_Widget_Test, AnAmpersandIsALetter) {
+    S.F.Set_Caption("Cmd_Plain", "Roads & rails");
+    Turn();
+    EXPECT_EQ(Get<QPushButton>("Cmd_Plain").text(), "Roads && rails") << "Qt shows one of them";
+    EXPECT_TRUE(Get<QPushButton>("Cmd_Plain").shortcut().isEmpty());
+    S.F.Set_Caption("Lab", "Roads & rails");
+    Turn();
+    EXPECT_EQ(Get<QLabel>("Lab").text(), "Roads & rails");
+}
+
+TEST_F(Form_Widget_Test, ChangesOfTheFormAreFollowed) {
+    Form& F = S.F;
+    Picture Shown = Picture_Make(30, 20, 24);
+    F.Set_Text("Field", "caf\xE9");
+    F.Set_Value("Chk", 1);
+    F.Set_Value("Opt", 2);
+    F.Set_Items("List", {"a", "b", "c", "d"}, 3);
+    F.Set_Items("Cbo", {"x"}, 0);
+    F.Set_Value("Tabs", 1);
+    F.Set_Value("Scroll", 40);
+    F.Set_Shown("Image", &Shown);
+    F.Set_Enabled("Cmd_Ok", false);
+    F.Set_Visible("Number", false);
+    F.Set_Enabled("Fram", false);
+    F.Set_Language("FR");
+    F.Set_Title("Autre");
+    Turn();
+    EXPECT_EQ(Program_Text(Get<QLineEdit>("Field").text()), "caf\xE9");
+    EXPECT_TRUE(Get<QCheckBox>("Chk").isChecked());
+    EXPECT_EQ(Get<QCheckBox>("Chk").text(), "Cocher");
+    EXPECT_TRUE(Get<QAbstractButton>("Opt(2)").isChecked());
+    EXPECT_EQ(Get<QAbstractButton>("Opt(2)").text(), "Trois");
+    EXPECT_EQ(Get<QListWidget>("List").count(), 4);
+    EXPECT_EQ(Get<QListWidget>("List").currentRow(), 3);
+    EXPECT_EQ(Get<QComboBox>("Cbo").currentText(), "x");
+    EXPECT_EQ(Get<QTabWidget>("Tabs").currentIndex(), 1);
+    EXPECT_EQ(Get<QScrollBar>("Scroll").value(), 40);
+    EXPECT_EQ(Get<QWidget>("Image").size(), QSize(30, 20));
+    EXPECT_FALSE(Get<QWidget>("Cmd_Ok").isEnabled());
+    EXPECT_FALSE(Get<QWidget>("Number").isVisible());
+    EXPECT_FALSE(Get<QWidget>("Scroll").isEnabled()) << "its frame is disabled";
+    EXPECT_EQ(Get<QGroupBox>("Fram").title(), "Cadre");
+    EXPECT_EQ(Get<QMenu>("Mnu").title(), "&Menu");
+    EXPECT_EQ(W->windowTitle(), "Autre");
+    EXPECT_EQ(S.Log, "") << "no handler has run";
+}
+
+TEST_F(Form_Widget_Test, WhatTheUserDoesReachesTheForm) {
+    Click(*W, "Cmd_Plain");
+    Click(*W, "Chk");
+    Click(*W, "Opt(1)");
+    auto& List = Get<QListWidget>("List");
+    const QPoint Second = List.visualItemRect(List.item(1)).center();
+    QTest::mouseClick(List.viewport(), Qt::LeftButton, {}, Second);
+    QTest::mouseDClick(List.viewport(), Qt::LeftButton, {}, Second);
+    Click(*W, "Path");
+    QTest::mouseDClick(&Get<QLineEdit>("Path"), Qt::LeftButton);
+    Get<QComboBox>("Cbo").setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&Get<QComboBox>("Cbo"), Qt::Key_Down);
+    auto& Bar = *Get<QTabWidget>("Tabs").tabBar();
+    QTest::mouseClick(&Bar, Qt::LeftButton, {}, Bar.tabRect(1).center());
+    Turn();
+    Get<QScrollBar>("Scroll").triggerAction(QAbstractSlider::SliderPageStepAdd);
+    Get<QAction>("Mnu_Item").trigger();
+    EXPECT_EQ(S.Log, "plain check option list list-twice path path-twice combo tab scroll item ");
+    EXPECT_EQ(S.F["Chk"].Value, 1);
+    EXPECT_EQ(S.F["Opt"].Value, 1);
+    EXPECT_EQ(S.F["List"].Value, 1);
+    EXPECT_EQ(S.F["Cbo"].Value, 1);
+    EXPECT_EQ(S.F["Tabs"].Value, 1);
+    EXPECT_EQ(S.F["Scroll"].Value, 10);
+}
+
+TEST_F(Form_Widget_Test, TypedTextIsOfTheCodePage) {
+    Get<QLineEdit>("Field").setFocus(Qt::TabFocusReason);
+    Turn();
+    QKeyEvent Typed(QEvent::KeyPress, 0, Qt::NoModifier, QStringLiteral("\u00E9\u20AC\u4E2D"));
+    QCoreApplication::sendEvent(&Get<QLineEdit>("Field"), &Typed);
+    EXPECT_EQ(S.F["Field"].Text, "\xE9\x80?");
+    EXPECT_EQ(S.Log, "typed ");
+}
+
+TEST_F(Form_Widget_Test, AFieldIsSelectedOnEntryAndReadOnEnter) {
+    EXPECT_EQ(S.F.Focus(), "Number") << "the first control has the focus";
+    EXPECT_EQ(Get<QLineEdit>("Number").selectedText(), "12");
+    Type(*W, " 34 ");
+    EXPECT_EQ(S.Held, "12") << "not before Enter";
+    Press(*W, Qt::Key_Return);
+    EXPECT_EQ(S.Held, "34");
+    EXPECT_EQ(Get<QLineEdit>("Number").text(), "34");
+    EXPECT_EQ(Get<QLineEdit>("Number").selectedText(), "34");
+    Type(*W, "99");
+    Press(*W, Qt::Key_Escape);
+    EXPECT_EQ(Get<QLineEdit>("Number").text(), "34") << "Escape puts the held value back";
+    EXPECT_FALSE(S.F.Is_Closed());
+    Press(*W, Qt::Key_Escape);
+    EXPECT_TRUE(S.F.Is_Closed()) << "with nothing typed it is the dialog's";
+}
+
+TEST_F(Form_Widget_Test, ABadFieldKeepsTheFocusAfterOneMessage) {
+    Bad_Number();
+    Press(*W, Qt::Key_Tab);
+    EXPECT_EQ(Messages(), 1U);
+    EXPECT_EQ(Host_Of_Test.Last_Message(), 1);
+    EXPECT_EQ(Focus(), "Number");
+    EXPECT_EQ(Get<QLineEdit>("Number").selectedText(), "x");
+    QTest::mouseClick(&Get<QLineEdit>("Field"), Qt::LeftButton);
+    Turn();
+    EXPECT_EQ(Messages(), 2U);
+    EXPECT_EQ(Focus(), "Number");
+}
+
+TEST_F(Form_Widget_Test, AClickOnAControlReadsTheFieldOnce) {
+    Bad_Number();
+    for (const char* Name : {"Cmd_Ok", "Chk", "Opt(1)"}) {
+        const std::size_t Before = Messages();
+        Click(*W, Name);
+        EXPECT_EQ(Messages(), Before + 1) << Name;
+        EXPECT_EQ(Focus(), "Number") << Name;
+    }
+    auto& List = Get<QListWidget>("List");
+    QTest::mouseClick(List.viewport(), Qt::LeftButton, {},
+                      List.visualItemRect(List.item(2)).center());
+    Turn();
+    EXPECT_EQ(Messages(), 4U);
+    EXPECT_FALSE(S.F.Is_Closed());
+    EXPECT_FALSE(Get<QCheckBox>("Chk").isChecked()) << "the refused click leaves no mark";
+    EXPECT_TRUE(Get<QAbstractButton>("Opt(0)").isChecked());
+    EXPECT_NE(List.currentRow(), 2);
+    EXPECT_EQ(S.Log, "");
+    Get<QLineEdit>("Number").selectAll();
+    Type(*W, "7");
+    Click(*W, "Cmd_Ok");
+    EXPECT_EQ(Messages(), 4U);
+    EXPECT_EQ(S.Held, "7") << "read before the button's work";
+    EXPECT_EQ(S.F.End(), Form_End::Ok);
+}
+
+TEST_F(Form_Widget_Test, CancelAndTheCloseButtonReadNoField) {
+    Bad_Number();
+    Click(*W, "Cmd_Cancel");
+    EXPECT_EQ(Messages(), 0U);
+    EXPECT_EQ(S.F.End(), Form_End::Closed);
+    EXPECT_TRUE(S.F.Is_Closed());
+    EXPECT_TRUE(W->close());
+}
+
+TEST_F(Form_Widget_Test, ClosingTheWindowIsTheFormsDecision) {
+    bool Lets = false;
+    S.F.On_Close = [&] { return Lets; };
+    EXPECT_FALSE(W->close());
+    EXPECT_FALSE(S.F.Is_Closed());
+    Lets = true;
+    EXPECT_TRUE(W->close());
+    EXPECT_TRUE(S.F.Is_Closed());
+}
+
+TEST_F(Form_Widget_Test, TheFormSeesAKeyBeforeFieldsAndMenus) {
+    std::vector<Key_Event> Seen;
+    bool Takes = true;
+    S.F.On_Key = [&](Key_Event K) {
+        Seen.push_back(K);
+        return Takes;
+    };
+    Press(*W, Qt::Key_M, Qt::AltModifier);
+    Press(*W, Qt::Key_5);
+    Press(*W, Qt::Key_Plus, Qt::AltModifier | Qt::KeypadModifier);
+    Press(*W, Qt::Key_Left, Qt::ShiftModifier | Qt::ControlModifier);
+    ASSERT_EQ(Seen.size(), 4U) << "each key once";
+    EXPECT_EQ(Seen[0].Code, 'M');
+    EXPECT_EQ(Seen[0].Shift, Alt_Key);
+    EXPECT_EQ(Seen[2].Code, Key_Pad_Plus);
+    EXPECT_EQ(Seen[3].Code, Key_Left);
+    EXPECT_EQ(Seen[3].Shift, Shift_Key + Ctrl_Key);
+    EXPECT_EQ(Get<QLineEdit>("Number").text(), "12") << "a key that was used goes no further";
+    Takes = false;
+    Press(*W, Qt::Key_5);
+    EXPECT_EQ(Get<QLineEdit>("Number").text(), "5");
+}
+
+TEST_F(Form_Widget_Test, ALetterThatTheFormLeavesOpensItsMenu) {
+    QMenu& Menu = Get<QMenu>("Mnu");
+    ASSERT_EQ(Menu.title(), "&Menu");
+    Press(*W, Qt::Key_M, Qt::AltModifier);
+    EXPECT_TRUE(Menu.isVisible());
+    Menu.close();
+    Turn();
+    S.F.On_Key = [](Key_Event K) { return K.Shift == Alt_Key; };
+    Press(*W, Qt::Key_M, Qt::AltModifier);
+    EXPECT_FALSE(Menu.isVisible());
+    Press(*W, Qt::Key_I, Qt::ControlModifier);
+    EXPECT_EQ(S.Log, "item ");
+}
+
+TEST_F(Form_Widget_Test, AFieldFilledByAClickIsReachedByKeys) {
+    Get<QLineEdit>("Path").setFocus(Qt::TabFocusReason);
+    Turn();
+    Press(*W, Qt::Key_Space);
+    EXPECT_EQ(S.Log, "path ");
+}
+
+TEST_F(Form_Widget_Test, ButtonsStandByTheirRoles) {
+    const auto& Box = *W->findChild<QDialogButtonBox*>();
+    const auto Role = [&](const char* Name) { return Box.buttonRole(&Get<QPushButton>(Name)); };
+    EXPECT_EQ(Role("Cmd_Ok"), QDialogButtonBox::AcceptRole);
+    EXPECT_EQ(Role("Cmd_Cancel"), QDialogButtonBox::RejectRole);
+    EXPECT_EQ(Role("Cmd_Help"), QDialogButtonBox::HelpRole);
+    EXPECT_EQ(Role("Cmd_Plain"), QDialogButtonBox::ActionRole);
+    EXPECT_TRUE(Get<QPushButton>("Cmd_Ok").isDefault());
+    Press(*W, Qt::Key_Return);
+    EXPECT_EQ(S.F.End(), Form_End::Ok) << "Enter presses the default button";
+}
+
+TEST_F(Form_Widget_Test, FieldsAreAlignedUnderTheirLabels) {
+    const auto Left = [&](const char* Name) {
+        return Get<QWidget>(Name).mapTo(W.get(), QPoint()).x();
+    };
+    EXPECT_EQ(Left("Number"), Left("Field"));
+    EXPECT_EQ(Left("Number"), Left("Path"));
+    EXPECT_GT(Left("Number"), 0);
+}
+
+TEST(Form_Dialog_Test, DialogsRunOneAboveTheOther) {
+    Sample Outer, Inner;
+    Outer.F.Handlers("Cmd_Plain").On_Click = [&] { Run_Dialog(Inner.F, nullptr); };
+    Dialog_Script Script({[](QDialog& D) {
+                              Click(D, "Cmd_Plain");
+                              Click(D, "Chk");
+                              Click(D, "Cmd_Ok");
+                          },
+                          [](QDialog& D) { Click(D, "Cmd_Cancel"); }});
+    Run_Dialog(Outer.F, nullptr);
+    EXPECT_EQ(Inner.F.End(), Form_End::Closed);
+    EXPECT_EQ(Outer.F.End(), Form_End::Ok);
+    EXPECT_EQ(Outer.Log, "check ") << "the outer one worked on after the inner";
+    EXPECT_EQ(Outer.F.View, nullptr);
+}
+
+TEST(Form_Dialog_Test, ATimerTicksWhileTheFormIsShown) {
+    Sample S;
+    int Ticks = 0;
+    S.F.Tick_Ms = 1;
+    S.F.On_Tick = [&] {
+        if (++Ticks == 3) S.F.Close(Form_End::Ok);
+    };
+    Run_Dialog(S.F, nullptr);
+    EXPECT_EQ(Ticks, 3);
+}

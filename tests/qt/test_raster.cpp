@@ -1,0 +1,148 @@
+// tests/qt/test_raster.cpp - lines and stretched pictures, pixel by pixel.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
+
+#include "qt/raster.h"
+
+namespace {
+
+constexpr std::uint32_t Blank = 0xFF000000U, Red = 0xFFFF0000U;
+
+struct Painted {
+    explicit Painted(Long W, Long H, double Scale = 1.0)
+        : Pixels(static_cast<std::size_t>(W) * static_cast<std::size_t>(H), Blank),
+          R{.Pixels = Pixels.data(), .Stride = W, .Width = W, .Height = H, .Scale = Scale} {}
+
+    std::uint32_t At(Long X, Long Y) const {
+        return Pixels[static_cast<std::size_t>(Y * R.Width + X)];
+    }
+    void Lines(std::vector<Line_Px> Drawn, Int Width = 1, Line_Style Style = Line_Style::Solid) {
+        Raster_Lines(R, Drawn, {.Colour = 0xFF0000, .Width = Width, .Style = Style});
+    }
+    // "#" for a painted pixel, "." for another, a row of the image.
+    std::string Row(Long Y) const {
+        std::string Made;
+        for (Long X = 0; X < R.Width; ++X) Made += At(X, Y) == Blank ? '.' : '#';
+        return Made;
+    }
+
+    std::vector<std::uint32_t> Pixels;
+    Raster R;
+};
+
+// Each pixel differs from all others.
+Picture Numbered(Long W, Long H, Int Bits) {
+    Picture P = Picture_Make(W, H, Bits);
+    for (Long Y = 0; Y < H; ++Y)
+        for (Long X = 0; X < W; ++X) {
+            std::uint8_t* To = P.Bytes.data() + static_cast<std::size_t>(Y) * P.Stride;
+            if (Bits == 8) {
+                To[X] = static_cast<std::uint8_t>(Y * W + X);
+            } else {
+                To[3 * X] = static_cast<std::uint8_t>(X);
+                To[3 * X + 1] = static_cast<std::uint8_t>(Y);
+                To[3 * X + 2] = 7;
+            }
+        }
+    for (std::size_t I = 0; I < P.Palette.size(); ++I)
+        P.Palette[I] = {
+            .Blue = static_cast<Byte>(I), .Green = static_cast<Byte>(255 - I), .Red = 9};
+    return P;
+}
+
+std::uint32_t Colour_24(Long X, Long Y) {
+    return 0xFF070000U | static_cast<std::uint32_t>(Y) << 8 | static_cast<std::uint32_t>(X);
+}
+
+}  // namespace
+
+TEST(Raster_Test, ACopyTakesEachPixelInItsPlace) {
+    const Picture P = Numbered(5, 4, 24), Q = Numbered(5, 4, 8);
+    Painted Deep(8, 8), Flat(8, 8);
+    Raster_Copy(Deep.R, P, {1, 1, 3, 2}, {2, 3, 3, 2});
+    Raster_Copy(Flat.R, Q, {1, 1, 3, 2}, {2, 3, 3, 2});
+    for (Long Y = 0; Y < 8; ++Y)
+        for (Long X = 0; X < 8; ++X) {
+            const bool In = X >= 2 && X < 5 && Y >= 3 && Y < 5;
+            const auto I = static_cast<std::uint32_t>((Y - 2) * 5 + X - 1);
+            EXPECT_EQ(Deep.At(X, Y), In ? Colour_24(X - 1, Y - 2) : Blank) << X << " " << Y;
+            EXPECT_EQ(Flat.At(X, Y), In ? (0xFF090000U | (255 - I) << 8 | I) : Blank);
+        }
+}
+
+// The plain rule: the source pixel under the middle of each pixel.
+TEST(Raster_Test, ACopyOfAnySizeTakesTheNearestPixel) {
+    const Picture P = Numbered(40, 30, 24);
+    for (const Long W : {1, 7, 40, 53, 400})
+        for (const double Scale : {1.0, 1.5, 2.0}) {
+            const Box_Px Source{3, 2, 30, 20}, Dest{-5, 4, W, W};
+            Painted Shown(97, 61, Scale);
+            Raster_Copy(Shown.R, P, Source, Dest);
+            const double X0 = std::round(-5 * Scale), X1 = std::round((-5 + W) * Scale);
+            const double Y0 = std::round(4 * Scale), Y1 = std::round((4 + W) * Scale);
+            for (Long Y = 0; Y < 61; ++Y)
+                for (Long X = 0; X < 97; ++X) {
+                    const bool In = X >= X0 && X < X1 && Y >= Y0 && Y < Y1;
+                    const auto SX = static_cast<Long>(3 + (X - X0 + 0.5) * 30 / (X1 - X0));
+                    const auto SY = static_cast<Long>(2 + (Y - Y0 + 0.5) * 20 / (Y1 - Y0));
+                    ASSERT_EQ(Shown.At(X, Y), In ? Colour_24(SX, SY) : Blank)
+                        << W << " " << Scale << " " << X << " " << Y;
+                }
+        }
+}
+
+TEST(Raster_Test, ASourceBeyondThePictureLeavesTheRestAsItWas) {
+    const Picture P = Numbered(4, 4, 24);
+    Painted Shown(12, 12);
+    Raster_Copy(Shown.R, P, {-2, -2, 8, 8}, {1, 1, 8, 8});
+    EXPECT_EQ(Shown.At(2, 2), Blank);
+    EXPECT_EQ(Shown.At(3, 3), Colour_24(0, 0));
+    EXPECT_EQ(Shown.At(6, 6), Colour_24(3, 3));
+    EXPECT_EQ(Shown.At(7, 7), Blank);
+    Raster_Copy(Shown.R, Picture{}, {0, 0, 4, 4}, {0, 0, 4, 4});
+    Raster_Copy(Shown.R, P, {0, 0, 4, 4}, {0, 0, 0, 4});
+    EXPECT_EQ(Shown.At(0, 0), Blank);
+}
+
+TEST(Raster_Test, BothEndsOfALineArePainted) {
+    for (const Line_Px L : {Line_Px{1, 1, 8, 1}, Line_Px{8, 6, 1, 2}, Line_Px{3, 8, 5, 1},
+                            Line_Px{4, 4, 4, 4}, Line_Px{2, 2, 7, 7}}) {
+        Painted Shown(10, 10);
+        Shown.Lines({L});
+        EXPECT_EQ(Shown.At(L.X1, L.Y1), Red);
+        EXPECT_EQ(Shown.At(L.X2, L.Y2), Red);
+        const auto Count = std::count(Shown.Pixels.begin(), Shown.Pixels.end(), Red);
+        EXPECT_EQ(Count, std::max(std::abs(L.X2 - L.X1), std::abs(L.Y2 - L.Y1)) + 1);
+    }
+}
+
+TEST(Raster_Test, ALineKeepsItsPixelsWhereverTheCanvasEnds) {
+    const Line_Px L{-70, 61, 95, -20};
+    Painted Small(40, 30), Large(140, 30);
+    Small.Lines({L});
+    Large.Lines({{L.X1 + 100, L.Y1, L.X2 + 100, L.Y2}});
+    EXPECT_NE(std::count(Large.Pixels.begin(), Large.Pixels.end(), Red), 0);
+    for (Long Y = 0; Y < 30; ++Y) EXPECT_EQ(Small.Row(Y), Large.Row(Y).substr(100)) << "row " << Y;
+    Painted Far(40, 30);
+    Far.Lines(
+        {{-2000000000, -2000000000, 2000000000, 2000000000}, {50, 0, 60, 29}, {0, -9, 39, -2}});
+    EXPECT_EQ(std::count(Far.Pixels.begin(), Far.Pixels.end(), Red), 30) << "the diagonal alone";
+}
+
+TEST(Raster_Test, WidthAndDotsGrowWithThePixelsOfTheScreen) {
+    Painted Plain(12, 6), Fine(24, 12, 2.0);
+    for (Painted* P : {&Plain, &Fine}) {
+        P->Lines({{0, 1, 11, 1}}, 1, Line_Style::Dotted);
+        P->Lines({{0, 3, 11, 3}}, 2);
+    }
+    EXPECT_EQ(Plain.Row(1), "#..#..#..#..");
+    EXPECT_EQ(Fine.Row(2), "##....##....##....##....") << "rows 2 and 3 are canvas row 1";
+    EXPECT_EQ(Plain.Row(3), std::string(12, '#'));
+    EXPECT_EQ(Plain.Row(4), std::string(12, '#'));
+    EXPECT_EQ(Plain.Row(5), std::string(12, '.'));
+    int Painted_Rows = 0;
+    for (Long Y = 4; Y < 12; ++Y) Painted_Rows += Fine.Row(Y).substr(1, 22) == std::string(22, '#');
+    EXPECT_EQ(Painted_Rows, 4);
+}

@@ -1,0 +1,43 @@
+// tests/ui/posix/test_full_disk.cpp - tiles for which the disk has no room.
+#include <sys/resource.h>
+
+#include "support/bitmap_file.h"
+#include "ui/frm.h"
+#include "ui/map_tiles.h"
+#include "ui_support/ui_test.h"
+
+namespace {
+
+// No file may grow beyond Size, for the time of its life.
+class File_Size_Limit {
+public:
+    explicit File_Size_Limit(rlim_t Size) {
+        getrlimit(RLIMIT_FSIZE, &Former_);
+        rlimit Low = Former_;
+        Low.rlim_cur = Size;
+        setrlimit(RLIMIT_FSIZE, &Low);
+    }
+    ~File_Size_Limit() { setrlimit(RLIMIT_FSIZE, &Former_); }
+    File_Size_Limit(const File_Size_Limit&) = delete;
+    File_Size_Limit& operator=(const File_Size_Limit&) = delete;
+
+private:
+    rlimit Former_{};
+};
+
+using Full_Disk = Ui_Test;
+
+TEST_F(Full_Disk, LeavesNoTile) {
+    Dir.Write("Map.bmp", Bitmap_Bytes({.Width = 2001, .Height = 2001, .Bits = 8}));
+    Int Error = 0;
+    {
+        const File_Size_Limit Limit(4'001'077);  // one byte less than a tile
+        Map_Split_Tiles(Frm(), Dir.Path("Map.bmp"), Error);
+    }
+    EXPECT_EQ(Error, 1);
+    ASSERT_EQ(Host_Of_Test.Boxes.size(), 1u);
+    EXPECT_TRUE(Host_Of_Test.Boxes[0].Text.ends_with("\\Temp\\$$$_01.bmp"));
+    EXPECT_TRUE(std::filesystem::is_empty(Dir.Native("App/Temp")));
+}
+
+}  // namespace

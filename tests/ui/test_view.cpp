@@ -1,0 +1,275 @@
+// tests/ui/test_view.cpp - zoom, pan, scroll bars, resizing, and what a redraw paints when.
+#include "ui/view.h"
+
+#include <cmath>
+#include <limits>
+
+#include "core/model_ops.h"
+#include "core/program.h"
+#include "ui/form_events.h"
+#include "ui/frm.h"
+#include "ui/modes.h"
+#include "ui_support/view_test.h"
+
+namespace {
+
+using Kind = Surface_Op::Kind;
+
+class View : public View_Test {
+protected:
+    void Expect_Same_Point(Pix A, Pix B) {
+        EXPECT_NEAR(A.X, B.X, 1e-9 * (1.0 + std::fabs(A.X))) << "zoom " << Zoom;
+        EXPECT_NEAR(A.Y, B.Y, 1e-9 * (1.0 + std::fabs(A.Y))) << "zoom " << Zoom;
+    }
+};
+
+TEST_F(View, BothTransformationsAreInverse) {
+    Pan_X = -37.25, Pan_Y = 1234.5;
+    for (Zoom = 0.01; Zoom < 25.0; Zoom *= 1.15)
+        for (const Pic_Px P : {Pic_Px{0.0, 0.0}, {300.0, 250.0}, {-17.5, 1e5}}) {
+            const Pic_Px Back = Map_To_Pic(Pic_To_Map(P));
+            EXPECT_NEAR(Back.X, P.X, 1e-6);
+            EXPECT_NEAR(Back.Y, P.Y, 1e-6);
+        }
+}
+
+TEST_F(View, PansCountFromTheCanvasMiddle) {
+    Zoom = 7.5;
+    Pan_X = 10.0, Pan_Y = -4.0;
+    Expect_Same_Point(Pic_To_Map({150.5, 125.5}), {100.0 - 10.0, 80.0 + 4.0});
+    Expect_Same_Point(Pic_To_Map({150.5 + 15.0, 125.5 - 7.5}), {90.0 + 2.0, 84.0 - 1.0});
+}
+
+TEST_F(View, TheMapIsCentredAtTheTopLeftAndTheBarsFollow) {
+    EXPECT_EQ(Pic_To_Map({0.0, 0.0}), (Pix{0.0, 0.0}));
+    EXPECT_EQ(Pan_X, -50.5) << "the map is smaller than the canvas";
+    EXPECT_EQ(Frm()["HScroll"].Value, 19367) << "16000 + 50.5 * 32000 / 480";
+    EXPECT_EQ(Frm()["VScroll"].Value, 19640) << "16000 + 45.5 * 32000 / 400";
+
+    View_Center_On_Point({.X = 40.0, .Y = 70.0});
+    Expect_Same_Point(Pic_To_Map({150.5, 125.5}), {40.0, 70.0});
+    EXPECT_EQ(Frm()["HScroll"].Value, 12000);
+    EXPECT_EQ(Frm()["VScroll"].Value, 15200);
+
+    View_Center_On_Point({.X = 1e6, .Y = -1e6});
+    EXPECT_EQ(Pan_X, -999900.0) << "only the bars are held";
+    EXPECT_EQ(Frm()["HScroll"].Value, 32000);
+    EXPECT_EQ(Frm()["VScroll"].Value, 0);
+
+    View_Reset();
+    EXPECT_EQ(Pan_X, 0.0);
+    EXPECT_EQ(Frm()["HScroll"].Value, 0);
+}
+
+TEST_F(View, ScrollBarsPan) {
+    Frm().Set_Enabled("HScroll", true);
+    ASSERT_TRUE(Form_Scroll(Frm(), "HScroll", 14000));
+    EXPECT_EQ(Pan_X, 30.0);
+    EXPECT_EQ(Pan_Y, -45.5);
+    EXPECT_EQ(Canvas.Of_Kind(Kind::Clear).size(), 1U);
+    EXPECT_EQ(Frm().Focus(), "Pic");
+    VScroll_Change(32000);
+    EXPECT_EQ(Pan_Y, -200.0);
+    Scroll_Guard = true;
+    VScroll_Change(0);
+    EXPECT_EQ(Pan_Y, -200.0);
+    EXPECT_EQ(Canvas.Of_Kind(Kind::Clear).size(), 2U);
+}
+
+TEST_F(View, ZoomStepsAndLimits) {
+    const Pix Middle = Pic_To_Map({150.5, 125.5});
+    Cmd_ZPlus();
+    EXPECT_DOUBLE_EQ(Zoom, 1.15);
+    Expect_Same_Point(Pic_To_Map({150.5, 125.5}), Middle);
+    Zoom = 20.0;
+    Cmd_ZPlus();
+    EXPECT_DOUBLE_EQ(Zoom, 23.0);
+    EXPECT_EQ(Canvas.Of_Kind(Kind::Clear).size(), 2U);
+    Zoom = 20.01;
+    Cmd_ZPlus();
+    EXPECT_EQ(Zoom, 20.01);
+    EXPECT_EQ(Canvas.Of_Kind(Kind::Clear).size(), 2U) << "nothing to paint";
+    Zoom = 1.0049;
+    Cmd_ZMoins();
+    EXPECT_EQ(Zoom, 1.0 / 1.15) << "snapped to 1 first";
+    Zoom = 1.011;
+    Cmd_ZPlus();
+    EXPECT_EQ(Zoom, 1.011 * 1.15);
+}
+
+TEST_F(View, AnyNumberOfStepsOutIsHarmless) {
+    Mode_Area = 1;
+    Cell_Store(Tab_Area, Record_At<Area>(3, 3));
+    for (int I = 0; I < 6000; ++I) Cmd_ZMoins();
+    EXPECT_GT(Zoom, 0.0);
+    Mouse_Read_Out({150.0, 125.0});
+    View_Drag(5.0, 5.0);
+    const Double Before = Zoom;
+    Cmd_ZPlus();
+    EXPECT_GT(Zoom, Before);
+}
+
+TEST_F(View, TheWheelKeepsThePointUnderIt) {
+    const Pic_Px At{37.0, 201.0};
+    const Pix Point = Pic_To_Map(At);
+    for (const Int Steps : {1, 1, 3, -7, -2, 4, 30}) {
+        View_Wheel(Steps, At);
+        Expect_Same_Point(Pic_To_Map(At), Point);
+        EXPECT_EQ(Frm()["HScroll"].Value,
+                  std::clamp(Round_Lng(16000 - Pan_X * 32000 / 480), Long{0}, Long{32000}));
+    }
+    EXPECT_GT(Zoom, 20.0);
+    const View_State Before = The_View_State;
+    Canvas.Ops.clear();
+    View_Wheel(1, {0.0, 0.0});
+    EXPECT_EQ(Zoom, Before.Zoom);
+    EXPECT_EQ(Pan_X, Before.Pan_X);
+    EXPECT_TRUE(Canvas.Ops.empty());
+}
+
+TEST_F(View, AWheelStepIsAButtonStep) {
+    Zoom = 1.0049;
+    View_Wheel(2, {10.0, 10.0});
+    const Double By_Wheel = Zoom;
+    Zoom = 1.0049;
+    Cmd_ZPlus();
+    Cmd_ZPlus();
+    EXPECT_EQ(By_Wheel, Zoom);
+}
+
+TEST_F(View, DraggingMovesTheMapWithTheMouse) {
+    Zoom = 4.0;
+    const Pix Point = Pic_To_Map({60.0, 60.0});
+    Pic_Mouse({.What = Mouse_Event::Kind::Press, .Button = Mouse_Middle, .X = 60.0, .Y = 60.0});
+    Pic_Mouse({.What = Mouse_Event::Kind::Move, .Button = Mouse_Middle, .X = 90.0, .Y = 40.0});
+    Expect_Same_Point(Pic_To_Map({90.0, 40.0}), Point);
+    EXPECT_EQ(Frm()["HScroll"].Value, Round_Lng(16000 - Pan_X * 32000 / 480));
+    Pic_Mouse({.What = Mouse_Event::Kind::Release, .Button = Mouse_Middle, .X = 90.0, .Y = 40.0});
+    Pic_Mouse({.What = Mouse_Event::Kind::Move, .X = 10.0, .Y = 10.0});
+    Expect_Same_Point(Pic_To_Map({90.0, 40.0}), Point);
+}
+
+TEST_F(View, AResizedCanvasIsOddAndKeepsItsMiddle) {
+    Zoom = 2.0;
+    const Pix Middle = Pic_To_Map({150.5, 125.5});
+    View_Resize(800, 601);
+    EXPECT_EQ(Pic_Width, 799);
+    EXPECT_EQ(Pic_Height, 601);
+    Expect_Same_Point(Pic_To_Map({399.5, 300.5}), Middle);
+    EXPECT_EQ(Canvas.Of_Kind(Kind::Clear).size(), 1U);
+    View_Resize(0, -5);
+    EXPECT_EQ(Pic_Width, 1);
+    EXPECT_EQ(Pic_Height, 1);
+    Canvas.Ops.clear();
+    Edit_On = 0;
+    View_Resize(100, 100);
+    EXPECT_TRUE(Canvas.Ops.empty()) << "no project to show";
+}
+
+TEST_F(View, ButtonsToggleAndRepaint) {
+    Cmd_AffBmp();
+    Cmd_AffTexture();
+    Cmd_Grid();
+    EXPECT_FALSE(Show_Bitmap);
+    EXPECT_TRUE(Show_Texture);
+    EXPECT_FALSE(Show_Grid);
+    EXPECT_EQ(Canvas.Of_Kind(Kind::Clear).size(), 3U);
+    EXPECT_EQ(Frm().Focus(), "Pic");
+    View_Reset();
+    EXPECT_TRUE(Show_Bitmap);
+    EXPECT_TRUE(Show_Grid);
+    EXPECT_TRUE(Show_Texture) << "not the view's affair";
+}
+
+TEST_F(View, TheGridsNewColourIsPainted) {
+    Mode_Area = 1;
+    Host_Of_Test.Forms["Frm_ColourGrid"] = [] {
+        Grid_Colour = 0x123456;
+        return Form_End::Ok;
+    };
+    Cmd_ColourGrid();
+    const Pen Grid{.Colour = 0x123456, .Style = Line_Style::Dotted};
+    EXPECT_FALSE(Canvas.Lines_With(Grid).empty());
+    EXPECT_EQ(Frm().Focus(), "Pic");
+}
+
+// What each mode paints, as one letter each: grid, backdrop, and the slots.
+std::string Painted(Recorded_Surface& Canvas) {
+    std::string Order;
+    const auto Add = [&Order](char C) {
+        if (!Order.ends_with(C)) Order += C;
+    };
+    Canvas.Ops.clear();
+    View_Redraw();
+    for (const Surface_Op& Op : Canvas.Ops)
+        if (Op.What == Kind::Line)
+            Add(Op.With.Width == 2 ? 'b' : Op.With.Width == 1 ? 'g' : static_cast<char>(Op.At.X1));
+    return Order;
+}
+
+std::function<void()> Slot(char C) {
+    return [C] { The_Surface().Line({C, 0, 0, 0}, {.Width = 3}); };
+}
+
+TEST_F(View, EachModePaintsItsOwnThingsInOrder) {
+    const Long I = Obj_Add({}, 10.0, 10.0);
+    Pt_Append(I, 50.0, 60.0);
+    EXPECT_EQ(Painted(Canvas), "") << "no mode: the map alone";
+    const auto In_Mode = [this](Int& Mode) {
+        Mode_Clear();
+        Mode = 1;
+        return Painted(Canvas);
+    };
+    EXPECT_EQ(In_Mode(Mode_Route), "gb") << "stand-ins";
+    EXPECT_EQ(In_Mode(Mode_LC), "gb");
+    EXPECT_EQ(In_Mode(Mode_Ima), "b");
+    EXPECT_EQ(In_Mode(Mode_PtGrid), "gb");
+    The_Redraw_Calls = {Slot('R'), Slot('C'), Slot('I'), Slot('A'), Slot('P')};
+    EXPECT_EQ(In_Mode(Mode_Route), "gR");
+    EXPECT_EQ(In_Mode(Mode_Excl), "gb");
+    EXPECT_EQ(In_Mode(Mode_Area), "gb");
+    EXPECT_EQ(In_Mode(Mode_Cell), "gb");
+    EXPECT_EQ(In_Mode(Mode_LC), "Cb");
+    EXPECT_EQ(In_Mode(Mode_WC), "Cb");
+    EXPECT_EQ(In_Mode(Mode_Ima), "I");
+    EXPECT_EQ(In_Mode(Mode_PtGrid), "AbP");
+}
+
+TEST_F(View, ARedrawWaitsClearsAndShows) {
+    Mode_Area = 1;
+    View_Redraw();
+    const auto& Ops = Canvas.Ops;
+    ASSERT_GE(Ops.size(), 4U);
+    EXPECT_EQ(Ops[0].Shape, Pointer_Shape::Hourglass);
+    EXPECT_EQ(Ops[1].What, Kind::Clear);
+    EXPECT_EQ(Ops[Ops.size() - 2].What, Kind::Refresh);
+    EXPECT_EQ(Ops.back().What, Kind::Cursor);
+    EXPECT_EQ(Ops.back().Shape, Pointer_Shape::Cross) << "the canvas's own in a mode";
+}
+
+TEST_F(View, ACalibrationWithoutSenseIsHarmless) {
+    Mode_Area = 1;
+    Cell_Store(Tab_Area, Record_At<Area>(3, 3));
+    const auto Use = [] {
+        View_Center_Map();
+        View_Redraw();
+        Mouse_Read_Out({10.0, 10.0});
+        Mouse_Click_At({10.0, 10.0});
+        View_Wheel(-1, {3.0, 3.0});
+    };
+    The_Calibration = {};
+    Use();
+    EXPECT_EQ(The_Grid_In_View.First_Col, 0);
+    Lay_Grid(128, 3);
+    LonGridSE = 1e9, XGridSE = 1e12;
+    Use();
+    Lay_Grid(128, 3);
+    XGridNW = std::numeric_limits<Double>::quiet_NaN();
+    Use();
+    Lay_Grid(128, 3);
+    std::swap(XGridNW, XGridSE);
+    Use();
+    EXPECT_LT(Canvas.Of_Kind(Kind::Line).size(), 1000U);
+}
+
+}  // namespace
