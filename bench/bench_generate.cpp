@@ -18,6 +18,7 @@
 #include "dry_host.h"
 #include "gen/driver.h"
 #include "measure.h"
+#include "platform/memory.h"
 #include "projects.h"
 
 namespace {
@@ -108,6 +109,7 @@ int main(int Count, char** Words) {
         std::fprintf(stderr, "bench_generate make FILE [SHARE] | run FILE\n");
         return 1;
     }
+    Keep_Freed_Memory();  // as terrafold-cli does
     Program_Reset();
     const std::string Path = Program_Path(Words[2]).value();
     if (Command == "make")

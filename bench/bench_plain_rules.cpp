@@ -4,23 +4,19 @@
 //
 // The plain rules grow with the square of a drawing: keep it small, "coast-3000" for one.
 #include <cstdio>
-#include <ctime>
 
 #include "drawings.h"
 #include "grid/poly_prepare.h"
+#include "measure.h"
 #include "reference/polygons.h"
 
 namespace {
 
-double Cpu_Seconds() {
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
-}
-
 template <typename F>
 double Time_Of(F Run) {
-    const double Start = Cpu_Seconds();
+    const double Start = measure::Cpu_Seconds();
     Run();
-    return Cpu_Seconds() - Start;
+    return measure::Cpu_Seconds() - Start;
 }
 
 }  // namespace

@@ -7,38 +7,20 @@
 // lengthen, the peak memory of the program, and the processor's time for each step.
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
-#include <fstream>
-#include <string>
 #include <vector>
 
 #include "core/host.h"
 #include "drawings.h"
 #include "grid/poly_prepare.h"
+#include "measure.h"
 
 namespace {
 
-constexpr double Mebibyte = 1024.0;  // in the units of the system's own file
+using measure::Cpu_Seconds, measure::Median, measure::Peak_Memory, measure::Wall_Seconds;
 
-double Wall_Seconds() {
-    const auto Now = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration<double>(Now).count();
-}
-
-double Cpu_Seconds() {
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
-}
-
-// In MiB, or 0 where the system does not tell it in this way.
-double Peak_Memory() {
-    std::ifstream Status("/proc/self/status");
-    for (std::string Line; std::getline(Status, Line);)
-        if (Line.starts_with("VmHWM:")) return std::atof(Line.c_str() + 6) / Mebibyte;
-    return 0.0;
-}
+constexpr double Mebibyte = 1024.0 * 1024.0;
 
 // The same steps as Poly_Prepare(0) and Poly_To_Cells(0), with the time after each.
 constexpr std::array Steps{"collect", "self cross", "nesting", "tree", "split", "cut", "cells"};
@@ -72,11 +54,6 @@ Step_Times Run_Steps() {
     return Took;
 }
 
-double Median(std::vector<double> Of) {
-    std::sort(Of.begin(), Of.end());
-    return Of[Of.size() / 2];
-}
-
 void Run(int Runs) {
     std::vector<double> Wall, Cpu;
     Long Pieces = 0, Points = 0;
@@ -91,7 +68,7 @@ void Run(int Runs) {
         Work_Lists_Reset();
     }
     std::printf("%.4f s  cpu %.4f s  %.0f MiB  %d pieces  %d points\n", Median(Wall), Median(Cpu),
-                Peak_Memory(), Pieces, Points);
+                Peak_Memory() / Mebibyte, Pieces, Points);
     const Step_Times Of = Run_Steps();
     for (std::size_t S = 0; S < Steps.size(); ++S) std::printf("  %-10s %.4f\n", Steps[S], Of[S]);
 }
@@ -105,6 +82,6 @@ int main(int Count, char** Words) {
         return 1;
     }
     drawings::Into_Model(*Drawing);
-    std::printf("%s  model %.0f MiB\n", Words[1], Peak_Memory());
+    std::printf("%s  model %.0f MiB\n", Words[1], Peak_Memory() / Mebibyte);
     Run(Count >= 3 ? std::max(1, std::atoi(Words[2])) : 5);
 }
