@@ -5,6 +5,7 @@ add_library(terrafold_flags INTERFACE)
 target_include_directories(terrafold_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(MSVC)
     target_compile_options(terrafold_flags INTERFACE /W4 /WX /fp:precise /utf-8)
+    target_compile_definitions(terrafold_flags INTERFACE NOMINMAX _CRT_SECURE_NO_WARNINGS)
 else()
     # Geometry compares doubles exactly, so no multiply and add may be fused.
     target_compile_options(terrafold_flags INTERFACE
