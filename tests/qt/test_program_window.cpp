@@ -1,5 +1,4 @@
 // tests/qt/test_program_window.cpp - the whole program, worked as a user does.
-#include <sys/stat.h>
 #include <QAction>
 #include <QDropEvent>
 #include <QMenu>
@@ -10,20 +9,11 @@
 #include <QToolButton>
 #include <QUrl>
 
-#include <filesystem>
-#include <set>
-
 #include "core/model.h"
 #include "platform/instance_lock.h"
 #include "qt/busy.h"
 #include "qt/canvas_widget.h"
-#include "qt/form_widget.h"
-#include "qt/form_window.h"
-#include "qt/program_window.h"
-#include "qt/window_host.h"
-#include "qt_test.h"
-#include "support/environment.h"
-#include "support/program_test.h"
+#include "qt/program_window_test.h"
 #include "ui/frm.h"
 #include "ui/modes.h"
 #include "ui/view.h"
@@ -41,55 +31,6 @@ protected:
         Nb += E->type() == QEvent::Paint;
         return false;
     }
-};
-
-class Program_Window_Test : public Program_Test {
-protected:
-    Program_Window_Test() {
-        for (const auto& File : std::filesystem::directory_iterator(TEST_SOURCE_DIR "/resource"))
-            if (File.is_regular_file())
-                std::filesystem::copy_file(File,
-                                           Dir.Native("App/Resource") / File.path().filename());
-        for (const char* Name : {"Island.LWM", "Island.bmp"})
-            std::filesystem::copy_file(std::filesystem::path(EXAMPLE_DIR) / Name, Dir.Native(Name));
-        Settings("1");
-    }
-    ~Program_Window_Test() override { P.reset(); }
-
-    void Settings(const std::string& Confirmed) {
-        Dir.Write("App/Resource/Terrafold.Ini",
-                  "[Terrafold]\r\nLanguage=US\r\nFl1Fois=" + Confirmed + "\r\n");
-    }
-    bool Start(const std::string& Command_Line = {}) {
-        P = std::make_unique<Program_Window>(Host);
-        const bool Runs = P->Start(Command_Line, Dir.Path("App"));
-        W = &P->Window();
-        Turn();
-        return Runs;
-    }
-    void Open_Example() { ASSERT_TRUE(Start('"' + Dir.Path("Island.LWM") + '"')); }
-    bool Enabled(const std::string& Name) { return Find<QWidget>(*W, Name).isEnabled(); }
-    std::size_t Colours_Shown() {
-        const QImage& Image = W->Shown().Canvas()->Image();
-        std::set<QRgb> Seen;
-        for (int Y = 0; Y < Image.height(); Y += 7)
-            for (int X = 0; X < Image.width(); X += 7) Seen.insert(Image.pixel(X, Y));
-        return Seen.size();
-    }
-    bool Close(const char* Button) {
-        Dialog_Script Script({Answer(Button)});
-        return W->close();
-    }
-
-    Window_Host Host;
-    Host_Scope Above{Host};
-    std::unique_ptr<Program_Window> P;
-    Form_Window* W = nullptr;
-
-private:
-    Environment_Scope Run_Dir_{"XDG_RUNTIME_DIR", Dir.Native().string()};
-    Environment_Scope Named_{"TERRAFOLD_FSDIR"};
-    Environment_Scope Wine_{"WINEPREFIX", Dir.Native("no wine").string()};
 };
 
 }  // namespace
@@ -229,25 +170,4 @@ TEST_F(Program_Window_Test, AProjectDroppedOnTheWindowOpens) {
     Turn();
     EXPECT_EQ(Projet_Open, 1);
     EXPECT_EQ(Nom_Projet, Dir.Path("Island.LWM"));
-}
-
-TEST_F(Program_Window_Test, AToolRunsWhileTheWindowPaintsAndTakesNoInput) {
-    Open_Example();
-    ASSERT_EQ(mkfifo(Dir.Native("gate").c_str(), 0600), 0);
-    bool Alive = false;
-    QMetaObject::invokeMethod(
-        W,
-        [&] {
-            Alive = Busy::Is_On();
-            EXPECT_FALSE(W->close());
-            QTest::mouseClick(&Find<QWidget>(*W, "Cmd_ZPlus"), Qt::LeftButton);
-            Dir.Write("gate", "go");  // the tool reads it and ends
-        },
-        Qt::QueuedConnection);
-    EXPECT_TRUE(Host.Run_Tool("/usr/bin/cmp -s \"" + Dir.Path("gate") + "\" /dev/null", 0));
-    EXPECT_TRUE(Alive);
-    EXPECT_EQ(Zoom, 1.0);
-    EXPECT_FALSE(Busy::Is_On());
-    EXPECT_FALSE(Host.Run_Tool("/no/such/tool", 0));
-    EXPECT_EQ(Projet_Open, 1);
 }

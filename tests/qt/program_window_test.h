@@ -1,0 +1,67 @@
+// tests/qt/program_window_test.h - the fixture of tests of the whole program.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <set>
+#include <string>
+
+#include "qt/canvas_widget.h"
+#include "qt/form_widget.h"
+#include "qt/form_window.h"
+#include "qt/program_window.h"
+#include "qt/qt_test.h"
+#include "qt/window_host.h"
+#include "support/environment.h"
+#include "support/program_test.h"
+
+/// Begins with a home in which the program has been before, and the example in the test's
+/// directory; Start makes the window.
+class Program_Window_Test : public Program_Test {
+protected:
+    Program_Window_Test() {
+        for (const auto& File : std::filesystem::directory_iterator(TEST_SOURCE_DIR "/resource"))
+            if (File.is_regular_file())
+                std::filesystem::copy_file(File,
+                                           Dir.Native("App/Resource") / File.path().filename());
+        for (const char* Name : {"Island.LWM", "Island.bmp"})
+            std::filesystem::copy_file(std::filesystem::path(EXAMPLE_DIR) / Name, Dir.Native(Name));
+        Settings("1");
+    }
+    ~Program_Window_Test() override { P.reset(); }
+
+    void Settings(const std::string& Confirmed) {
+        Dir.Write("App/Resource/Terrafold.Ini",
+                  "[Terrafold]\r\nLanguage=US\r\nFl1Fois=" + Confirmed + "\r\n");
+    }
+    bool Start(const std::string& Command_Line = {}) {
+        P = std::make_unique<Program_Window>(Host);
+        const bool Runs = P->Start(Command_Line, Dir.Path("App"));
+        W = &P->Window();
+        Turn();
+        return Runs;
+    }
+    void Open_Example() { ASSERT_TRUE(Start('"' + Dir.Path("Island.LWM") + '"')); }
+    bool Enabled(const std::string& Name) { return Find<QWidget>(*W, Name).isEnabled(); }
+    std::size_t Colours_Shown() {
+        const QImage& Image = W->Shown().Canvas()->Image();
+        std::set<QRgb> Seen;
+        for (int Y = 0; Y < Image.height(); Y += 7)
+            for (int X = 0; X < Image.width(); X += 7) Seen.insert(Image.pixel(X, Y));
+        return Seen.size();
+    }
+    bool Close(const char* Button) {
+        Dialog_Script Script({Answer(Button)});
+        return W->close();
+    }
+
+    Window_Host Host;
+    Host_Scope Above{Host};
+    std::unique_ptr<Program_Window> P;
+    Form_Window* W = nullptr;
+
+private:
+    Environment_Scope Run_Dir_{"XDG_RUNTIME_DIR", Dir.Native().string()};
+    Environment_Scope Named_{"TERRAFOLD_FSDIR"};
+    Environment_Scope Wine_{"WINEPREFIX", Dir.Native("no wine").string()};
+};
