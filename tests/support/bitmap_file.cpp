@@ -17,7 +17,7 @@ std::string Palette_Bytes(int I) {
 
 std::string Number_Bytes(std::uint32_t Value, int Size) {
     std::string Out;
-    for (int I = 0; I < Size; ++I) Out += static_cast<char>(Value >> (8 * I));
+    for (int I = 0; I < Size; ++I, Value >>= 8) Out += static_cast<char>(Value);
     return Out;
 }
 
