@@ -124,3 +124,12 @@ public:
 
 /// A plain message box with an Ok button and the program's name as title.
 void Plain_Box(std::string_view Text);
+
+/// Shows the hourglass for the life of this object, then the normal pointer.
+class Hourglass {
+public:
+    Hourglass() { The_Host().Set_Pointer(Pointer_Shape::Hourglass); }
+    ~Hourglass() { The_Host().Set_Pointer(Pointer_Shape::Normal); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+};

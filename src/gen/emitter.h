@@ -8,15 +8,6 @@
 #include "core/numbers.h"
 #include "grid/work_lists.h"
 
-/// Shows the hourglass for the life of this object, then the normal pointer.
-class Hourglass {
-public:
-    Hourglass() { The_Host().Set_Pointer(Pointer_Shape::Hourglass); }
-    ~Hourglass() { The_Host().Set_Pointer(Pointer_Shape::Normal); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-};
-
 /// Empties the work lists at the end of its life.
 class Work_Lists_Scope {
 public:

@@ -63,12 +63,21 @@ Int Rounded_Loc(Double Units, Int First, Int Last) {
     return std::clamp(Round_Int(Units), First, Last);
 }
 
-// Units from the edge at distance D in a cell of width C, Last units wide. Within one unit of
-// either edge a point is on it: a cut point misses the edge it was cut at by its rounding.
-Int Snapped_Loc(Double D, Double C, Int Last) {
-    if (D < C / Last) return 0;
-    if (std::fabs(D - C) < C / Last) return Last;
-    return static_cast<Int>(Held_Index(Last * D / C + 0.5, Last + 1));
+// A cell along one axis: its width in degrees and in units, and the width of a unit.
+struct Scale {
+    Double Width;
+    Int Last;
+    Double Unit = Width / Last;
+};
+constexpr Scale Cell_Lon{Cell_StepLon, Loc_Cell_Span}, Cell_Lat{Cell_StepLat, Loc_Cell_Span};
+constexpr Scale Area_Lon{Area_StepLon, Loc_Area_Span}, Area_Lat{Area_StepLat, Loc_Area_Span};
+
+// Units from the edge at distance D. Within one unit of either edge a point is on it: a cut
+// point misses the edge it was cut at by its rounding.
+Int Snapped_Loc(Double D, const Scale& S) {
+    if (D < S.Unit) return 0;
+    if (std::fabs(D - S.Width) < S.Unit) return S.Last;
+    return static_cast<Int>(Held_Index(S.Last * D / S.Width + 0.5, S.Last + 1));
 }
 
 // Whole before the origin is added: a Long holds the sum too, or its nearest value.
@@ -170,15 +179,15 @@ Loc_Area Pixel_To_Area_Loc(Pix P, Cell_Pos& C) {
 Loc_Cell Pixel_Loc_In_Cell(Pix P, const Cell_Pos& C) {
     const Geo G = Pixel_To_LatLon(P);
     const Geo Corner = Cell_Corner(C);
-    return {Snapped_Loc(std::fabs(G.Lon - Corner.Lon), Cell_StepLon, Loc_Cell_Span),
-            Snapped_Loc(std::fabs(G.Lat - Corner.Lat), Cell_StepLat, Loc_Cell_Span)};
+    return {Snapped_Loc(std::fabs(G.Lon - Corner.Lon), Cell_Lon),
+            Snapped_Loc(std::fabs(G.Lat - Corner.Lat), Cell_Lat)};
 }
 
 Loc_Area Pixel_Loc_In_Area(Pix P, Int AreaLon, Int AreaLat) {
     const Geo G = Pixel_To_LatLon(P);
     const Geo Corner = Area_Corner(AreaLon, AreaLat);
-    const Int X = Snapped_Loc(std::fabs(G.Lon - Corner.Lon), Area_StepLon, Loc_Area_Span);
-    const Int Y = Snapped_Loc(std::fabs(G.Lat - Corner.Lat), Area_StepLat, Loc_Area_Span);
+    const Int X = Snapped_Loc(std::fabs(G.Lon - Corner.Lon), Area_Lon);
+    const Int Y = Snapped_Loc(std::fabs(G.Lat - Corner.Lat), Area_Lat);
     return {static_cast<Int>(X + Loc_Area_Origin), static_cast<Int>(Y + Loc_Area_Origin)};
 }
 

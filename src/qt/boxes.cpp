@@ -65,9 +65,8 @@ Filter Read_Filter(const std::string& Text) {
     const QString Pattern = Whole.section(QLatin1Char('|'), 1);
     if (Pattern.isEmpty()) return {};
     const QString Title = Whole.section(QLatin1Char('|'), 0, 0).section(QLatin1String(" ("), 0, 0);
-    return {Title + QLatin1String(" (") +
-                Pattern.toUpper().replace(QLatin1String("*."), QLatin1String("*.")) +
-                QLatin1Char(' ') + Pattern.toLower() + QLatin1Char(')'),
+    return {Title + QLatin1String(" (") + Pattern.toUpper() + QLatin1Char(' ') + Pattern.toLower() +
+                QLatin1Char(')'),
             QFileInfo(Pattern).suffix()};
 }
 

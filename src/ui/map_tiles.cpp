@@ -50,15 +50,6 @@ void Show_Frame(Form& F, bool On) {
     The_Host().Refresh();
 }
 
-// Waiting lasts until the end of its life.
-class Hourglass {
-public:
-    Hourglass() { The_Host().Set_Pointer(Pointer_Shape::Hourglass); }
-    ~Hourglass() { The_Host().Set_Pointer(Pointer_Shape::Normal); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-};
-
 void Delete_Tiles(Long Cols, Long Rows) {
     for (Long Row = 0; Row < Rows; ++Row)
         for (Long Col = 0; Col < Cols; ++Col)
