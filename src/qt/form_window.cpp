@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "qt/busy.h"
 #include "qt/form_widget.h"
@@ -27,6 +28,16 @@ std::optional<std::string> Dropped_File(const QMimeData& Data) {
     if (Urls.size() != 1 || !Urls.front().isLocalFile()) return std::nullopt;
     const QString Path = Urls.front().toLocalFile();
     return QFileInfo(Path).isFile() ? Path_Of_System(Path) : std::nullopt;
+}
+
+// Below the control, as far as the screen has room there.
+void Put_Beside(QWidget& Window, const QWidget& Control) {
+    Window.adjustSize();
+    const QRect Screen = Control.screen()->availableGeometry();
+    const QPoint Below = Control.mapToGlobal(QPoint(0, Control.height()));
+    const QPoint Last = Screen.bottomRight() - QPoint(Window.width(), Window.height());
+    Window.move(std::clamp(Below.x(), Screen.left(), std::max(Screen.left(), Last.x())),
+                std::clamp(Below.y(), Screen.top(), std::max(Screen.top(), Last.y())));
 }
 
 }  // namespace
@@ -90,6 +101,10 @@ void Run_Dialog(Form& F, QWidget* Parent) {
     QEventLoop Loop;
     Window.Shown().On_Closed = [&Loop] { Loop.quit(); };
     Window.Shown().Take_Focus();
+    const QString Beside = Qt_Text(F.Beside);
+    if (const auto* Control = Parent ? Parent->findChild<QWidget*>(Beside) : nullptr;
+        Control != nullptr && !Beside.isEmpty())
+        Put_Beside(Window, *Control);
     Window.show();
     if (!F.Is_Closed()) Loop.exec();
 }

@@ -167,6 +167,8 @@ public:
     Int Tick_Ms = 0;
     /// Sees every key before the controls do; true when it was used.
     std::function<bool(Key_Event)> On_Key = {};
+    /// A control of the window in front beside which a dialog opens; otherwise it is centred.
+    std::string Beside = {};
     /// Letters that the form itself takes with Alt: no menu may have them as its own.
     std::string Reserved_Keys = {};
     /// A file was dropped on the form; its path in the program's form.

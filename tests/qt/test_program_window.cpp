@@ -10,6 +10,7 @@
 #include <QUrl>
 
 #include "core/model.h"
+#include "core/program.h"
 #include "platform/instance_lock.h"
 #include "qt/busy.h"
 #include "qt/canvas_widget.h"
@@ -80,6 +81,21 @@ TEST_F(Program_Window_Test, EachModeIsEnteredByItsButton) {
     }
     Press(*W, Qt::Key_E, Qt::AltModifier);
     EXPECT_EQ(Mode_Excl, 1) << "by its key";
+}
+
+TEST_F(Program_Window_Test, TheGridColourIsChosenBesideItsButton) {
+    Open_Example();
+    const auto& Button = Find<QWidget>(*W, "Cmd_ColourGrid");
+    const QPoint Below = Button.mapToGlobal(QPoint(0, Button.height()));
+    Dialog_Script Script({[&](QDialog& Box) {
+        EXPECT_EQ(Box.pos().y(), Below.y());
+        EXPECT_LE(Box.pos().x(), Below.x());
+        Click(Box, "Opt_ColourGrid(6)");
+    }});
+    const QImage Before = W->Shown().Canvas()->Image();
+    Click(*W, "Cmd_ColourGrid");
+    EXPECT_EQ(Grid_Colour, 0);
+    EXPECT_NE(W->Shown().Canvas()->Image(), Before) << "the grid is painted in it at once";
 }
 
 TEST_F(Program_Window_Test, GeneratingShowsItsProgressAndLeavesTheWindowInOrder) {
