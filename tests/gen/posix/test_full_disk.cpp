@@ -1,26 +1,9 @@
 // tests/gen/posix/test_full_disk.cpp - sources that the disk has no room for.
-#include <sys/resource.h>
-
 #include "gen/emit_excl.h"
 #include "gen/gen_test.h"
+#include "support/file_size_limit.h"
 
 namespace {
-
-/// No file of this process grows beyond so many bytes while this lives.
-class File_Size_Limit {
-public:
-    explicit File_Size_Limit(rlim_t Bytes) {
-        getrlimit(RLIMIT_FSIZE, &Former_);
-        const rlimit Low{Bytes, Former_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &Low);
-    }
-    ~File_Size_Limit() { setrlimit(RLIMIT_FSIZE, &Former_); }
-    File_Size_Limit(const File_Size_Limit&) = delete;
-    File_Size_Limit& operator=(const File_Size_Limit&) = delete;
-
-private:
-    rlimit Former_{};
-};
 
 using Full_Disk_Test = Gen_Test;
 

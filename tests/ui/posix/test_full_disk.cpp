@@ -1,29 +1,11 @@
 // tests/ui/posix/test_full_disk.cpp - tiles for which the disk has no room.
-#include <sys/resource.h>
-
 #include "support/bitmap_file.h"
+#include "support/file_size_limit.h"
 #include "ui/frm.h"
 #include "ui/map_tiles.h"
 #include "ui_support/ui_test.h"
 
 namespace {
-
-// No file may grow beyond Size, for the time of its life.
-class File_Size_Limit {
-public:
-    explicit File_Size_Limit(rlim_t Size) {
-        getrlimit(RLIMIT_FSIZE, &Former_);
-        rlimit Low = Former_;
-        Low.rlim_cur = Size;
-        setrlimit(RLIMIT_FSIZE, &Low);
-    }
-    ~File_Size_Limit() { setrlimit(RLIMIT_FSIZE, &Former_); }
-    File_Size_Limit(const File_Size_Limit&) = delete;
-    File_Size_Limit& operator=(const File_Size_Limit&) = delete;
-
-private:
-    rlimit Former_{};
-};
 
 using Full_Disk = Ui_Test;
 
