@@ -6,9 +6,9 @@
 #include <cstdio>
 
 #include "drawings.h"
-#include "grid/poly_prepare.h"
 #include "measure.h"
 #include "reference/polygons.h"
+#include "shapes/poly/poly_prepare.h"
 
 namespace {
 

@@ -13,8 +13,8 @@
 
 #include "core/host.h"
 #include "drawings.h"
-#include "grid/poly_prepare.h"
 #include "measure.h"
+#include "shapes/poly/poly_prepare.h"
 
 namespace {
 

@@ -15,8 +15,8 @@
 #include "core/program.h"
 #include "measure.h"
 #include "platform/paths.h"
-#include "ui/frm.h"
-#include "ui/map_tiles.h"
+#include "ui/canvas/map_tiles.h"
+#include "ui/frm/frm.h"
 
 namespace fs = std::filesystem;
 

@@ -18,9 +18,9 @@
 #include "measure.h"
 #include "qt/canvas_widget.h"
 #include "qt/raster.h"
-#include "ui/map_tiles.h"
-#include "ui/modes.h"
-#include "ui/view.h"
+#include "ui/canvas/map_tiles.h"
+#include "ui/canvas/view.h"
+#include "ui/edit/modes.h"
 
 namespace {
 

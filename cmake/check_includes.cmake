@@ -1,11 +1,13 @@
-# Fails when a file below FOLDER includes "other/..." with other not in ALLOWED.
+# Fails when a file below FOLDER includes "other/..." with other not in ALLOWED. Folders of one
+# system (posix/, win32/) and of a program (main/) belong to the folder that they lie in.
 cmake_minimum_required(VERSION 3.25)
 string(REPLACE "," ";" allowed "${ALLOWED}")
 file(GLOB_RECURSE files ${FOLDER}/*.h ${FOLDER}/*.cpp)
 foreach(file IN LISTS files)
-    file(STRINGS ${file} lines REGEX "^#include \"[^\"/]+/")
+    file(STRINGS ${file} lines REGEX "^#include \"[^\"]+/")
     foreach(line IN LISTS lines)
-        string(REGEX REPLACE "^#include \"([^/]+)/.*" "\\1" other "${line}")
+        string(REGEX REPLACE "^#include \"(.*)/[^/]*\"" "\\1" other "${line}")
+        string(REGEX REPLACE "/(posix|win32)$" "" other "${other}")
         if(NOT other IN_LIST allowed)
             message(FATAL_ERROR "${file}: ${line}\nThis folder may include only: ${allowed}")
         endif()

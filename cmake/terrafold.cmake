@@ -27,28 +27,32 @@ function(terrafold_sources out dir)
     set(${out} ${found} ${variant} PARENT_SCOPE)
 endfunction()
 
-# terrafold_library(NAME [folders it may include ...])
-# The folder src/NAME as a static library. An #include of any other folder stops the build.
-function(terrafold_library name)
-    terrafold_sources(sources ${CMAKE_CURRENT_SOURCE_DIR}/${name})
+# terrafold_library(FOLDER [folders it may include ...])
+# The folder src/FOLDER as a static library of that name, "_" for "/". An #include of any other
+# folder stops the build.
+function(terrafold_library folder)
+    string(REPLACE "/" "_" name ${folder})
+    terrafold_sources(sources ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
     add_library(${name} STATIC ${sources})
-    target_link_libraries(${name} PUBLIC terrafold_flags ${ARGN})
-    terrafold_check_includes(${name} ${ARGN})
+    list(TRANSFORM ARGN REPLACE "/" "_" OUTPUT_VARIABLE dependencies)
+    target_link_libraries(${name} PUBLIC terrafold_flags ${dependencies})
+    terrafold_check_includes(${folder} ${ARGN})
 endfunction()
 
-# Stops the build of NAME when a file of src/NAME includes a folder that it may not.
-# What a folder may include passes on to those above it.
-function(terrafold_check_includes name)
-    set(allowed ${name})
+# Stops the build of a folder's library when a file of src/FOLDER includes a folder that it may
+# not. What a folder may include passes on to those above it.
+function(terrafold_check_includes folder)
+    string(REPLACE "/" "_" name ${folder})
+    set(allowed ${folder})
     foreach(dependency IN LISTS ARGN)
         get_property(reach GLOBAL PROPERTY terrafold_reach_${dependency})
         list(APPEND allowed ${reach})
     endforeach()
     list(REMOVE_DUPLICATES allowed)
-    set_property(GLOBAL PROPERTY terrafold_reach_${name} ${allowed})
+    set_property(GLOBAL PROPERTY terrafold_reach_${folder} ${allowed})
     string(REPLACE ";" "," allowed "${allowed}")
     add_custom_target(${name}_includes
-        COMMAND ${CMAKE_COMMAND} -DFOLDER=${PROJECT_SOURCE_DIR}/src/${name} -DALLOWED=${allowed}
+        COMMAND ${CMAKE_COMMAND} -DFOLDER=${PROJECT_SOURCE_DIR}/src/${folder} -DALLOWED=${allowed}
                 -P ${PROJECT_SOURCE_DIR}/cmake/check_includes.cmake
         VERBATIM)
     add_dependencies(${name} ${name}_includes)

@@ -50,6 +50,10 @@ void Silent_Host::Set_Caption(std::string_view, std::string_view) {}
 void Silent_Host::Set_Enabled(std::string_view, bool) {}
 void Silent_Host::Set_Visible(std::string_view, bool) {}
 void Silent_Host::Set_Focus(std::string_view) {}
+void Silent_Host::Open_Form(std::string_view, Int) {}
+
+void Silent_Host::Set_Value(std::string_view, Long) {}
+
 void Silent_Host::Set_Pointer(Pointer_Shape) {}
 void Silent_Host::Refresh() {}
 void Silent_Host::Turn() {}

@@ -46,7 +46,16 @@ struct File_Question {
 };
 
 enum class Form_End { Absent, Ok, Closed };
-enum class Pointer_Shape { Normal, Hourglass, Cross };
+enum class Pointer_Shape {
+    Normal,
+    Hourglass,
+    Cross,
+    Move,      // four arrows
+    Vertical,  // two arrows, as are those below
+    Horizontal,
+    NE_SW,
+    NW_SE
+};
 
 struct Display_Info {
     Int Bits_Per_Pixel = 32;
@@ -66,12 +75,17 @@ public:
     virtual std::optional<std::string> Ask_File(const File_Question& Q) = 0;
     /// Runs a dialog modally by its name ("Frm_PGen"). Absent when this host has no such form.
     virtual Form_End Run_Form(std::string_view Form) = 0;
+    /// Opens a form that is not modal by its name, once Delay_Ms milliseconds have gone by, and
+    /// returns at once. The main form goes on working. Nothing when this host has no such form.
+    virtual void Open_Form(std::string_view Form, Int Delay_Ms) = 0;
 
     /// The main form. "Frm" itself is the window: its caption is the title. Element I of a
     /// control array goes by "Name(I)", as in "Mnu_File_Prec(0)".
     virtual void Set_Caption(std::string_view Control, std::string_view Text) = 0;
     virtual void Set_Enabled(std::string_view Control, bool On) = 0;
     virtual void Set_Visible(std::string_view Control, bool On) = 0;
+    /// A scroll bar stands there; a tool button is pressed (1) or not (0).
+    virtual void Set_Value(std::string_view Control, Long Value) = 0;
     virtual void Set_Focus(std::string_view Control) = 0;
     virtual void Set_Pointer(Pointer_Shape Shape) = 0;
     /// Repaints what changed. May be called for every record: a host does so as seldom as it
@@ -110,9 +124,11 @@ public:
     Int Show_Box(const Box& B) override;
     std::optional<std::string> Ask_File(const File_Question& Q) override;
     Form_End Run_Form(std::string_view Form) override;
+    void Open_Form(std::string_view Form, Int Delay_Ms) override;
     void Set_Caption(std::string_view Control, std::string_view Text) override;
     void Set_Enabled(std::string_view Control, bool On) override;
     void Set_Visible(std::string_view Control, bool On) override;
+    void Set_Value(std::string_view Control, Long Value) override;
     void Set_Focus(std::string_view Control) override;
     void Set_Pointer(Pointer_Shape Shape) override;
     void Refresh() override;

@@ -59,7 +59,7 @@ void Set_Up_Main_Form() {
     The_Host().Set_Caption("Frm", Program_Title);
     Nom_Projet.clear();
     Call(The_View.Apply_Language);
-    Call(The_View.Tool_Bar_Layout);
+    Call(The_View.Window_Show);
     Call(The_View.Route_Reset);
     Disable_Project_Cmds();
     Init_Tables();

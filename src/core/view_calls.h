@@ -8,14 +8,14 @@
 #include <functional>
 
 struct View_Calls {
-    std::function<void()> View_Redraw;   // repaints the canvas
-    std::function<void()> View_Clear;    // clears the canvas and the pictures behind it
-    std::function<void()> View_Reset;    // zoom 1.0 at offset 0
-    std::function<void()> Route_Reset;   // editing state: no tool, nothing selected
-    std::function<void()> Route_Leave;   // ends a drawing in progress
-    std::function<void()> Mode_Leave;    // leaves the editing mode; may show message 130
-    std::function<void()> Mode_Area_On;  // enters Mode_Area
-    std::function<void()> Tool_Bar_Layout;
+    std::function<void()> View_Redraw;     // repaints the canvas
+    std::function<void()> View_Clear;      // clears the canvas and the pictures behind it
+    std::function<void()> View_Reset;      // zoom 1.0 at offset 0
+    std::function<void()> Route_Reset;     // editing state: no tool, nothing selected
+    std::function<void()> Route_Leave;     // ends a drawing in progress
+    std::function<void()> Mode_Leave;      // leaves the editing mode; may show message 130
+    std::function<void()> Mode_Area_On;    // enters Mode_Area
+    std::function<void()> Window_Show;     // the main form is laid out and may come up
     std::function<void()> Apply_Language;  // rewords the main form
     std::function<bool()> Tiles_Build;     // cuts the map Carte; false when its format is refused
     std::function<void()> Tiles_Show;      // prepares the view from tiles that were cut before

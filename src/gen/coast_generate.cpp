@@ -2,12 +2,12 @@
 #include "gen/coast_generate.h"
 
 #include "core/host.h"
-#include "grid/coast_close.h"
-#include "grid/coast_cut.h"
-#include "grid/coast_polys.h"
-#include "grid/coast_to_cells.h"
-#include "grid/line_collect.h"
-#include "grid/poly_collect.h"
+#include "shapes/coast/coast_close.h"
+#include "shapes/coast/coast_cut.h"
+#include "shapes/coast/coast_polys.h"
+#include "shapes/coast/coast_to_cells.h"
+#include "shapes/line/line_collect.h"
+#include "shapes/poly/poly_collect.h"
 
 namespace {
 

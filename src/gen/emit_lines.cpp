@@ -9,8 +9,8 @@
 #include "gen/own_lines.h"
 #include "gen/source_frame.h"
 #include "gen/vlines.h"
-#include "grid/line_collect.h"
-#include "grid/line_cut.h"
+#include "shapes/line/line_collect.h"
+#include "shapes/line/line_cut.h"
 
 namespace {
 

@@ -10,8 +10,8 @@
 #include "gen/lwm_blocks.h"
 #include "gen/lwm_text.h"
 #include "gen/source_frame.h"
-#include "grid/poly_prepare.h"
 #include "grid/terrain_grid.h"
+#include "shapes/poly/poly_prepare.h"
 
 namespace {
 

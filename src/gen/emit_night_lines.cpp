@@ -10,11 +10,11 @@
 #include "gen/emitter.h"
 #include "gen/night_offset.h"
 #include "gen/source_frame.h"
-#include "grid/box.h"
-#include "grid/exchange_order.h"
-#include "grid/line_collect.h"
-#include "grid/line_cut.h"
+#include "geometry/box.h"
+#include "geometry/exchange_order.h"
 #include "grid/terrain_grid.h"
+#include "shapes/line/line_collect.h"
+#include "shapes/line/line_cut.h"
 
 namespace {
 

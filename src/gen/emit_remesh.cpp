@@ -9,7 +9,7 @@
 #include "gen/emitter.h"
 #include "gen/lwm_text.h"
 #include "gen/source_frame.h"
-#include "grid/exchange_order.h"
+#include "geometry/exchange_order.h"
 #include "grid/terrain_grid.h"
 
 namespace {

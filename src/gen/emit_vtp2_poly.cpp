@@ -8,7 +8,7 @@
 #include "gen/emitter.h"
 #include "gen/source_frame.h"
 #include "gen/vtp2_lists.h"
-#include "grid/poly_prepare.h"
+#include "shapes/poly/poly_prepare.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "core/host.h"
 #include "core/numbers.h"
-#include "grid/work_lists.h"
+#include "shapes/poly/work_lists.h"
 
 /// Empties the work lists at the end of its life.
 class Work_Lists_Scope {

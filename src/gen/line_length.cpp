@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "grid/line_cut.h"
+#include "shapes/line/line_cut.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <span>
 #include <utility>
 
-#include "grid/coarse_sort.h"
+#include "geometry/coarse_sort.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "core/model.h"
 #include "core/table.h"
 #include "gen/lwm_text.h"
-#include "grid/work_lists.h"
+#include "shapes/poly/work_lists.h"
 
 /// A Cell that the file deals with: the fill of its record, if there is one, and its pieces.
 struct LCell : Cell_Pos {

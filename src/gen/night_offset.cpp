@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "geo/metres.h"
-#include "grid/segments.h"
+#include "geometry/segments.h"
 
 namespace {
 

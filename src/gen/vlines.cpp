@@ -9,11 +9,11 @@
 #include <tuple>
 #include <vector>
 
-#include "grid/box.h"
-#include "grid/exchange_order.h"
-#include "grid/line_collect.h"
-#include "grid/segments.h"
+#include "geometry/box.h"
+#include "geometry/exchange_order.h"
+#include "geometry/segments.h"
 #include "grid/terrain_grid.h"
+#include "shapes/line/line_collect.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "core/model.h"
 #include "core/table.h"
-#include "grid/work_lists.h"
+#include "shapes/poly/work_lists.h"
 
 /// Lines of these kinds have no widths and no end geometry. They are not limited to their Area:
 /// no row cuts them, and their points run on beyond it.

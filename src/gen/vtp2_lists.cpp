@@ -3,7 +3,7 @@
 
 #include <tuple>
 
-#include "grid/exchange_order.h"
+#include "geometry/exchange_order.h"
 
 namespace {
 

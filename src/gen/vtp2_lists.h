@@ -6,7 +6,7 @@
 #include "core/model.h"
 #include "core/table.h"
 #include "gen/tex_table.h"
-#include "grid/work_lists.h"
+#include "shapes/poly/work_lists.h"
 
 /// A group holds at most this many pieces, a file at most this many textures and further groups.
 inline constexpr Long Max_Group = 127;

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "ui/surface.h"
+#include "ui/canvas/surface.h"
 
 class Canvas_Widget final : public QWidget, public Surface {
 public:

@@ -4,7 +4,7 @@
 #include <QString>
 #include <memory>
 
-#include "ui/form.h"
+#include "ui/form/form.h"
 
 class Form_Widget;
 class QAction;

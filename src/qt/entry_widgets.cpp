@@ -14,7 +14,7 @@
 #include "qt/control_widgets.h"
 #include "qt/form_widget.h"
 #include "qt/text.h"
-#include "ui/form_events.h"
+#include "ui/form/form_events.h"
 
 namespace {
 

@@ -17,7 +17,7 @@
 
 #include "qt/canvas_widget.h"
 #include "qt/text.h"
-#include "ui/mnemonics.h"
+#include "ui/form/mnemonics.h"
 
 namespace {
 

@@ -16,7 +16,7 @@
 #include "qt/form_builder.h"
 #include "qt/input.h"
 #include "qt/text.h"
-#include "ui/form_events.h"
+#include "ui/form/form_events.h"
 
 namespace {
 

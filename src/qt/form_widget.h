@@ -1,5 +1,5 @@
 // qt/form_widget.h - any form as widgets: its layout drawn, its changes followed, and what the
-// user does handed to ui/form_events.h.
+// user does handed to ui/form/form_events.h.
 //
 // A widget's object name is the control's name. The form decides who has the focus: Qt's focus
 // follows it, and a field that is left by mouse or Tab is left in the form on the next turn of
@@ -15,7 +15,7 @@
 #include <string>
 #include <string_view>
 
-#include "ui/form.h"
+#include "ui/form/form.h"
 
 class Canvas_Widget;
 class Control_Widget;

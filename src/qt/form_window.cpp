@@ -17,7 +17,7 @@
 #include "qt/form_widget.h"
 #include "qt/icons.h"
 #include "qt/text.h"
-#include "ui/form_events.h"
+#include "ui/form/form_events.h"
 
 namespace {
 

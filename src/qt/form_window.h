@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "ui/form.h"
+#include "ui/form/form.h"
 
 class Form_Widget;
 

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "ui/events.h"
+#include "ui/form/events.h"
 
 class QEvent;
 class QKeyEvent;

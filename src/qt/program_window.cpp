@@ -13,8 +13,8 @@
 #include "qt/form_widget.h"
 #include "qt/form_window.h"
 #include "qt/window_host.h"
-#include "ui/form_list.h"
-#include "ui/frm.h"
+#include "ui/dialogs/dialogs.h"
+#include "ui/frm/frm.h"
 
 struct Program_Window::Parts {
     explicit Parts(Form& F) : Window(F) {}
@@ -28,8 +28,7 @@ namespace {
 // The window comes up when its tool bar is laid out: a second instance has ended by then, and
 // the first dialog or project is still to come.
 void Show_When_Laid_Out(Form_Window& Window) {
-    The_View.Tool_Bar_Layout = [&Window, Before = The_View.Tool_Bar_Layout] {
-        Call(Before);
+    The_View.Window_Show = [&Window] {
         Window.show();
         Window.Shown().Take_Focus();
         Process_Events_Busy();

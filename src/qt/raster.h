@@ -9,7 +9,7 @@
 #include <span>
 
 #include "tex/picture.h"
-#include "ui/surface.h"
+#include "ui/canvas/surface.h"
 
 struct Raster {
     std::uint32_t* Pixels = nullptr;  // 0xffRRGGBB

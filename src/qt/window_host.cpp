@@ -13,7 +13,7 @@
 #include "qt/canvas_widget.h"
 #include "qt/form_widget.h"
 #include "qt/form_window.h"
-#include "ui/frm.h"
+#include "ui/frm/frm.h"
 
 namespace {
 
@@ -85,6 +85,10 @@ void Window_Host::Set_Enabled(std::string_view Control, bool On) {
 
 void Window_Host::Set_Visible(std::string_view Control, bool On) {
     Frm_Set_Visible(Control, On);
+}
+
+void Window_Host::Set_Value(std::string_view Control, Long Value) {
+    Frm_Set_Value(Control, Value);
 }
 
 void Window_Host::Set_Focus(std::string_view Control) {

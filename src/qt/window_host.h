@@ -5,7 +5,7 @@
 #include <QPointer>
 
 #include "core/host.h"
-#include "ui/form_list.h"
+#include "ui/form/form_list.h"
 
 class Form_Window;
 
@@ -22,6 +22,7 @@ public:
     void Set_Caption(std::string_view Control, std::string_view Text) override;
     void Set_Enabled(std::string_view Control, bool On) override;
     void Set_Visible(std::string_view Control, bool On) override;
+    void Set_Value(std::string_view Control, Long Value) override;
     void Set_Focus(std::string_view Control) override;
     void Set_Pointer(Pointer_Shape Shape) override;
     void Refresh() override;

@@ -3,8 +3,8 @@
 #include <cstdint>
 
 #include "core/check.h"
-#include "grid/ear_clip.h"
-#include "grid/exact_turn.h"
+#include "geometry/ear_clip.h"
+#include "geometry/exact_turn.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
     std::vector<Pix> Outline;

@@ -9,7 +9,7 @@
 #include "gen_test.h"
 #include "grid/map_limits.h"
 #include "grid/terrain_grid.h"
-#include "grid/work_lists.h"
+#include "shapes/poly/work_lists.h"
 
 /// Pixels of a Cell and of an Area on the map of the test: a pixel is a unit of the Cell scale.
 inline constexpr Double Cell_Px = 255;

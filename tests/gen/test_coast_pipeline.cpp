@@ -10,9 +10,9 @@
 #include "core/model_ops.h"
 #include "gen/coast_generate.h"
 #include "grid/terrain_grid.h"
-#include "grid/work_lists.h"
 #include "reference/coasts.h"
 #include "reference/shapes.h"
+#include "shapes/poly/work_lists.h"
 #include "support/program_test.h"
 
 namespace {

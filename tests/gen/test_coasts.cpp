@@ -8,16 +8,16 @@
 #include "emit_test.h"
 #include "gen/coast_generate.h"
 #include "gen/emit_lwm_poly.h"
-#include "grid/box.h"
-#include "grid/coast_close.h"
-#include "grid/coast_cut.h"
-#include "grid/coast_fill.h"
-#include "grid/coast_polys.h"
-#include "grid/coast_to_cells.h"
+#include "geometry/box.h"
+#include "geometry/segments.h"
 #include "grid/grid_lines.h"
-#include "grid/segments.h"
 #include "reference/coasts.h"
 #include "reference/shapes.h"
+#include "shapes/coast/coast_close.h"
+#include "shapes/coast/coast_cut.h"
+#include "shapes/coast/coast_fill.h"
+#include "shapes/coast/coast_polys.h"
+#include "shapes/coast/coast_to_cells.h"
 
 namespace {
 

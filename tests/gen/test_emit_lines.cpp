@@ -10,9 +10,9 @@
 #include "gen/line_length.h"
 #include "gen/own_lines.h"
 #include "gen/vlines.h"
-#include "grid/line_collect.h"
 #include "platform/settings_file.h"
 #include "reference/shapes.h"
+#include "shapes/line/line_collect.h"
 #include "support/golden.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/form.h"
+#include "ui/form/form.h"
 
 /// Handlers write what happened into Log, a word each.
 struct Sample {

@@ -15,9 +15,9 @@
 #include "qt/busy.h"
 #include "qt/canvas_widget.h"
 #include "qt/program_window_test.h"
-#include "ui/frm.h"
-#include "ui/modes.h"
-#include "ui/view.h"
+#include "ui/canvas/view.h"
+#include "ui/edit/modes.h"
+#include "ui/frm/frm.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include <tuple>
 #include <vector>
 
-#include "grid/coast_loc.h"
-#include "grid/segments.h"
+#include "geometry/segments.h"
 #include "reference/coasts.h"
+#include "shapes/coast/coast_loc.h"
 
 namespace reference {
 

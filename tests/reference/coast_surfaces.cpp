@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "grid/segments.h"
+#include "geometry/segments.h"
 #include "reference/coasts.h"
 #include "reference/polygons.h"
 

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "core/number_text.h"
-#include "grid/poly_cut.h"
 #include "grid/terrain_grid.h"
 #include "reference/lines.h"
+#include "shapes/poly/poly_cut.h"
 
 namespace reference {
 

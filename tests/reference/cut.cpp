@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "grid/segments.h"
+#include "geometry/segments.h"
 #include "grid/terrain_grid.h"
 #include "reference/polygons.h"
 

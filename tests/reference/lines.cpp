@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "grid/segments.h"
+#include "geometry/segments.h"
 
 namespace reference {
 

@@ -2,9 +2,9 @@
 // at the end, and every grid line a pass over all lines.
 #pragma once
 
-#include "grid/line_collect.h"
-#include "grid/line_cut.h"
 #include "reference/lists.h"
+#include "shapes/line/line_collect.h"
+#include "shapes/line/line_cut.h"
 
 namespace reference {
 

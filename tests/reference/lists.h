@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "geo/calibration.h"
-#include "grid/work_lists.h"
+#include "shapes/poly/work_lists.h"
 
 namespace reference {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "grid/segments.h"
+#include "geometry/segments.h"
 #include "reference/polygons.h"
 
 namespace reference {

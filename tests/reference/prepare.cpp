@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/number_text.h"
-#include "grid/segments.h"
+#include "geometry/segments.h"
 #include "reference/polygons.h"
 
 namespace reference {

@@ -6,8 +6,8 @@
 #include <cmath>
 #include <numbers>
 
-#include "grid/exact_turn.h"
-#include "grid/segments.h"
+#include "geometry/exact_turn.h"
+#include "geometry/segments.h"
 #include "grid/terrain_grid.h"
 
 namespace shapes {

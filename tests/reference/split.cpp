@@ -10,8 +10,8 @@
 #include <span>
 #include <utility>
 
-#include "grid/ear_clip.h"
-#include "grid/segments.h"
+#include "geometry/ear_clip.h"
+#include "geometry/segments.h"
 #include "reference/polygons.h"
 
 namespace reference {

@@ -7,10 +7,10 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/settings_file.h"
-#include "ui/form_list.h"
-#include "ui/frm.h"
-#include "ui/frm_dir.h"
-#include "ui/mnemonics.h"
+#include "ui/dialogs/frm_dir.h"
+#include "ui/form/form_list.h"
+#include "ui/form/mnemonics.h"
+#include "ui/frm/frm.h"
 #include "ui_support/ui_test.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // tests/ui/test_form_events.cpp - the rules that all fields and buttons share.
-#include "ui/form_events.h"
+#include "ui/form/form_events.h"
 
 #include "platform/text1252.h"
 #include "ui_support/ui_test.h"

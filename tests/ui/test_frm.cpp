@@ -1,15 +1,15 @@
 // tests/ui/test_frm.cpp - the main form's commands, from New to Quit.
-#include "ui/frm.h"
+#include "ui/frm/frm.h"
 
 #include "core/lifecycle.h"
 #include "core/model_ops.h"
 #include "core/program.h"
 #include "core/settings.h"
 #include "platform/files.h"
-#include "ui/form_events.h"
-#include "ui/map_tiles.h"
-#include "ui/modes.h"
-#include "ui/view.h"
+#include "ui/canvas/map_tiles.h"
+#include "ui/canvas/view.h"
+#include "ui/edit/modes.h"
+#include "ui/form/form_events.h"
 #include "ui_support/small_project.h"
 #include "ui_support/ui_test.h"
 

@@ -1,16 +1,16 @@
 // tests/ui/test_keyboard.cpp - the keys of the main form.
-#include "ui/keyboard.h"
+#include "ui/edit/keyboard.h"
 
 #include <map>
 
 #include "core/lifecycle.h"
 #include "core/model_ops.h"
 #include "core/program.h"
-#include "ui/form_events.h"
-#include "ui/frm.h"
-#include "ui/modes.h"
-#include "ui/route_state.h"
-#include "ui/view.h"
+#include "ui/canvas/view.h"
+#include "ui/edit/modes.h"
+#include "ui/edit/route_state.h"
+#include "ui/form/form_events.h"
+#include "ui/frm/frm.h"
 #include "ui_support/small_project.h"
 #include "ui_support/ui_test.h"
 

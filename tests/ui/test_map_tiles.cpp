@@ -1,6 +1,6 @@
 // tests/ui/test_map_tiles.cpp - tile files against the map they were cut from, and every way in
 // which cutting and loading can fail.
-#include "ui/map_tiles.h"
+#include "ui/canvas/map_tiles.h"
 
 #include <set>
 
@@ -8,8 +8,8 @@
 #include "core/model.h"
 #include "core/view_calls.h"
 #include "support/bitmap_file.h"
-#include "ui/frm.h"
-#include "ui/map_cut.h"
+#include "ui/canvas/map_cut.h"
+#include "ui/frm/frm.h"
 #include "ui_support/ui_test.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // tests/ui/test_modes.cpp - which buttons are in reach in which state, and what a mode change
 // does.
-#include "ui/modes.h"
+#include "ui/edit/modes.h"
 
 #include <map>
 #include <set>
@@ -10,11 +10,11 @@
 #include "core/model_ops.h"
 #include "core/program.h"
 #include "gen/driver.h"
-#include "ui/form_events.h"
-#include "ui/frm.h"
-#include "ui/route_state.h"
-#include "ui/surface.h"
-#include "ui/view.h"
+#include "ui/canvas/surface.h"
+#include "ui/canvas/view.h"
+#include "ui/edit/route_state.h"
+#include "ui/form/form_events.h"
+#include "ui/frm/frm.h"
 #include "ui_support/small_project.h"
 #include "ui_support/ui_test.h"
 

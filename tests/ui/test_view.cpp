@@ -1,14 +1,14 @@
 // tests/ui/test_view.cpp - zoom, pan, scroll bars, resizing, and what a redraw paints when.
-#include "ui/view.h"
+#include "ui/canvas/view.h"
 
 #include <cmath>
 #include <limits>
 
 #include "core/model_ops.h"
 #include "core/program.h"
-#include "ui/form_events.h"
-#include "ui/frm.h"
-#include "ui/modes.h"
+#include "ui/edit/modes.h"
+#include "ui/form/form_events.h"
+#include "ui/frm/frm.h"
 #include "ui_support/view_test.h"
 
 namespace {

@@ -4,8 +4,8 @@
 
 #include "core/program.h"
 #include "grid/terrain_grid.h"
-#include "ui/modes.h"
-#include "ui/view.h"
+#include "ui/canvas/view.h"
+#include "ui/edit/modes.h"
 #include "ui_support/view_test.h"
 
 namespace {

@@ -5,8 +5,8 @@
 #include <random>
 
 #include "core/program.h"
-#include "ui/map_tiles.h"
-#include "ui/view.h"
+#include "ui/canvas/map_tiles.h"
+#include "ui/canvas/view.h"
 #include "ui_support/view_test.h"
 
 namespace {

@@ -6,8 +6,8 @@
 #include "core/model_ops.h"
 #include "core/program.h"
 #include "core/project_file.h"
-#include "ui/objects_draw.h"
-#include "ui/view.h"
+#include "ui/canvas/objects_draw.h"
+#include "ui/canvas/view.h"
 #include "ui_support/small_project.h"
 #include "ui_support/view_test.h"
 

@@ -2,9 +2,9 @@
 #include <algorithm>
 
 #include "core/program.h"
-#include "ui/frm.h"
-#include "ui/modes.h"
-#include "ui/view.h"
+#include "ui/canvas/view.h"
+#include "ui/edit/modes.h"
+#include "ui/frm/frm.h"
 #include "ui_support/view_test.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <deque>
 
 #include "support/test_host.h"
-#include "ui/form_events.h"
+#include "ui/form/form_events.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 #include <string>
 #include <string_view>
 
-#include "ui/form.h"
+#include "ui/form/form.h"
 
 /// Works a form by its control names. A control that is absent, disabled or hidden fails the
 /// test; a field that refuses to be left does not: the call then returns false.

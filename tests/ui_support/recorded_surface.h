@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "ui/surface.h"
+#include "ui/canvas/surface.h"
 
 /// One operation; what does not belong to its kind is as it begins. Lines handed over together
 /// are one operation each.

@@ -4,8 +4,9 @@
 #include <utility>
 
 #include "core/lifecycle.h"
-#include "ui/frm.h"
-#include "ui/view.h"
+#include "ui/canvas/view.h"
+#include "ui/dialogs/dialogs.h"
+#include "ui/frm/frm.h"
 
 Form_End Ui_Test_Host::Run_Form(std::string_view Form) {
     if (Forms.find(Form) != Forms.end()) return Test_Host::Run_Form(Form);
@@ -32,6 +33,10 @@ void Ui_Test_Host::Set_Enabled(std::string_view Control, bool On) {
 void Ui_Test_Host::Set_Visible(std::string_view Control, bool On) {
     Test_Host::Set_Visible(Control, On);
     Frm_Set_Visible(Control, On);
+}
+
+void Ui_Test_Host::Set_Value(std::string_view Control, Long Value) {
+    Frm_Set_Value(Control, Value);
 }
 
 void Ui_Test_Host::Set_Focus(std::string_view Control) {

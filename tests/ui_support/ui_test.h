@@ -2,7 +2,7 @@
 #pragma once
 
 #include "support/program_test.h"
-#include "ui/form_list.h"
+#include "ui/form/form_list.h"
 #include "ui_support/form_driver.h"
 
 /// Records as Test_Host does. What concerns the main form reaches it, and dialogs run by their
@@ -13,6 +13,7 @@ public:
     void Set_Caption(std::string_view Control, std::string_view Text) override;
     void Set_Enabled(std::string_view Control, bool On) override;
     void Set_Visible(std::string_view Control, bool On) override;
+    void Set_Value(std::string_view Control, Long Value) override;
     void Set_Focus(std::string_view Control) override;
     void Run_Modal(Form& F) override;
 

@@ -3,7 +3,7 @@
 
 #include "core/program.h"
 #include "grid/terrain_grid.h"
-#include "ui/view.h"
+#include "ui/canvas/view.h"
 
 View_Test::View_Test() {
     View_Resize(301, 251);

@@ -5,7 +5,7 @@
 #include "core/program.h"
 #include "qt/busy.h"
 #include "qt/program_window_test.h"
-#include "ui/view.h"
+#include "ui/canvas/view.h"
 
 TEST_F(Program_Window_Test, AToolRunsWhileTheWindowPaintsAndTakesNoInput) {
     Open_Example();

@@ -1,8 +1,8 @@
 // tests/ui/posix/test_full_disk.cpp - tiles for which the disk has no room.
 #include "support/bitmap_file.h"
 #include "support/file_size_limit.h"
-#include "ui/frm.h"
-#include "ui/map_tiles.h"
+#include "ui/canvas/map_tiles.h"
+#include "ui/frm/frm.h"
 #include "ui_support/ui_test.h"
 
 namespace {

@@ -6,8 +6,8 @@
 #include "core/settings.h"
 #include "platform/files.h"
 #include "support/environment.h"
-#include "ui/frm.h"
-#include "ui/frm_dir.h"
+#include "ui/dialogs/frm_dir.h"
+#include "ui/frm/frm.h"
 #include "ui_support/ui_test.h"
 
 using System_Dialogs = Ui_Test;

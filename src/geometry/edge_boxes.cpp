@@ -1,0 +1,122 @@
+// geometry/edge_boxes.cpp - keeping the nodes right.
+#include "geometry/edge_boxes.h"
+
+#include "geometry/coarse_sort.h"
+
+namespace {
+
+// The bits of V with a gap behind each.
+std::uint32_t Spread(std::uint32_t V) {
+    V = (V | V << 8) & 0x00FF00FFU;
+    V = (V | V << 4) & 0x0F0F0F0FU;
+    V = (V | V << 2) & 0x33333333U;
+    return (V | V << 1) & 0x55555555U;
+}
+
+// Where V lies between Low and High, in 16 bits.
+std::uint32_t Part_Of_Span(Single V, Single Low, Single High) {
+    constexpr Single Most = 65535.0F;
+    const Single Part = High > Low ? (V - Low) / (High - Low) : 0.0F;
+    return Part > 0.0F ? static_cast<std::uint32_t>(std::min(Part, 1.0F) * Most) : 0U;
+}
+
+}  // namespace
+
+void Edge_Boxes::Reset(Long N) {
+    Nb_ = N;
+    Slot_.clear();
+    Edge_.clear();
+    Node Empty;
+    for (std::size_t C = 0; C < Fan; ++C) Empty.Set(C, None);
+    std::size_t Count = static_cast<std::size_t>(N), Lv = 0;
+    do {
+        Count = (Count + Fan - 1) / Fan;
+        if (Level_.size() <= Lv) Level_.emplace_back();
+        Level_[Lv++].assign(Count, Empty);
+    } while (Count > 1);
+    Level_.resize(Lv);
+}
+
+void Edge_Boxes::Put(Long E, Pix P1, Pix P2) {
+    const Double ex = std::abs(P2.X - P1.X), ey = std::abs(P2.Y - P1.Y);
+    const Single Steep = ex > 0.0 && !(ey < Steepest * ex) ? 1.0F : 0.0F;
+    Set(Slot(E), {Rounded(std::min(P1.X, P2.X)), Rounded(std::min(P1.Y, P2.Y)),
+                  Rounded(std::max(P1.X, P2.X)), Rounded(std::max(P1.Y, P2.Y)), Steep});
+}
+
+Edge_Boxes::Box_Single Edge_Boxes::Union(const Node& N) {
+    Box_Single B = None;
+    for (std::size_t C = 0; C < Fan; ++C) {
+        B.LX = std::min(B.LX, N.LX[C]);
+        B.LY = std::min(B.LY, N.LY[C]);
+        B.HX = std::max(B.HX, N.HX[C]);
+        B.HY = std::max(B.HY, N.HY[C]);
+        B.Steep = std::max(B.Steep, N.Steep[C]);
+    }
+    return B;
+}
+
+void Edge_Boxes::Refresh_All() {
+    for (std::size_t Lv = 1; Lv < Level_.size(); ++Lv)
+        for (std::size_t K = 0; K < Level_[Lv - 1].size(); ++K)
+            Level_[Lv][K / Fan].Set(K % Fan, Union(Level_[Lv - 1][K]));
+}
+
+void Edge_Boxes::Refresh(Long E) {
+    std::size_t K = Slot(E) / Fan;
+    for (std::size_t Lv = 1; Lv < Level_.size(); ++Lv, K /= Fan) {
+        const Box_Single B = Union(Level_[Lv - 1][K]);
+        Node& Up = Level_[Lv][K / Fan];
+        if (B == Up.Get(K % Fan)) return;
+        Up.Set(K % Fan, B);
+    }
+}
+
+void Edge_Boxes::Settle() {
+    Refresh_All();
+    if (!Is_Overlaid()) return;
+    Sort_By_Place();
+    Refresh_All();
+}
+
+// How many boxes of a level lie over a place is what a query there meets. In order that is one or
+// two at each level.
+bool Edge_Boxes::Is_Overlaid() const {
+    constexpr Double Most_Over_Each_Other = 3.0;
+    const Box_Single All = Union(Level_.back()[0]);
+    const Double Whole = (Double{All.HX} - All.LX) * (Double{All.HY} - All.LY);
+    for (std::size_t Lv = 1; Lv + 1 < Level_.size(); ++Lv) {
+        Double Sum = 0.0;
+        for (const Node& N : Level_[Lv])
+            for (std::size_t C = 0; C < Fan; ++C)
+                if (N.LX[C] <= N.HX[C])
+                    Sum += (Double{N.HX[C]} - N.LX[C]) * (Double{N.HY[C]} - N.LY[C]);
+        if (Sum > Most_Over_Each_Other * Whole) return true;
+    }
+    return false;
+}
+
+// Along a curve that fills the outline's box, its quarters one after the other.
+void Edge_Boxes::Sort_By_Place() {
+    const Box_Single All = Union(Level_.back()[0]);
+    std::vector<Coarse_Entry> List;
+    std::vector<Box_Single> Old;
+    List.reserve(static_cast<std::size_t>(Nb_));
+    Old.reserve(static_cast<std::size_t>(Nb_));
+    for (Long E = 0; E < Nb_; ++E) {
+        const Box_Single B = Get(static_cast<std::size_t>(E));
+        Old.push_back(B);
+        List.push_back({Spread(Part_Of_Span(B.LX, All.LX, All.HX)) |
+                            Spread(Part_Of_Span(B.LY, All.LY, All.HY)) << 1,
+                        E});
+    }
+    Sort_By_Key(List);
+    Slot_.resize(List.size());
+    Edge_.resize(Level_[0].size() * Fan, -1);
+    for (std::size_t S = 0; S < List.size(); ++S) {
+        const auto E = static_cast<std::size_t>(List[S].Place);
+        Edge_[S] = List[S].Place;
+        Slot_[E] = static_cast<Long>(S);
+        Set(S, Old[E]);
+    }
+}

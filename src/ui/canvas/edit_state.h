@@ -1,0 +1,77 @@
+// ui/canvas/edit_state.h - what is being edited: the mode that is on, and what is selected.
+//
+// It stands below modes and dialogs, since both read it and painting follows it.
+#pragma once
+
+#include "core/numbers.h"
+#include "core/resets.h"
+
+/// What the canvas shows and what the mouse means. One is on at a time, or none.
+struct Mode_Flags {
+    Int Mode_Route = 0;   // objects
+    Int Mode_Area = 0;    // data of Cells
+    Int Mode_Cell = 0;    // data of Areas
+    Int Mode_Excl = 0;    // exclusions
+    Int Mode_LC = 0;      // land classes
+    Int Mode_WC = 0;      // water classes
+    Int Mode_Ima = 0;     // textures
+    Int Mode_PtGrid = 0;  // altitude points
+    bool operator==(const Mode_Flags&) const = default;
+};
+
+/// Objects and points: what is being drawn, and what of it is selected. Rows are those of
+/// Tab_Obj and Tab_Pt. At most one of the first five flags is set.
+struct Route_State {
+    Int Pending_New = 0;     // the next press creates an object
+    Int Pending_Select = 0;  // the next double click selects one
+    Int Tool_Insert = 0;
+    Int Tool_Extend = 0;
+    Int Tool_Sel_Point = 0;
+    Int Tool_Armed = 0;  // the tool has not been pointed at its target yet
+    Int Obj_Selected = 0;
+    Long Sel_Obj = 0;
+    Int Pt_Selected = 0;
+    Long Sel_Pt = 0;
+    Long Sel_Pt2 = 0;        // the other end of the segment chosen for an insertion
+    Int Insert_Closing = 0;  // that segment is the one from the last point back to the first
+    Int Pt_Fresh = 0;        // the selected point is not being moved
+    Long Pt_Next = 0;        // while it is: the neighbours that it is tied to
+    Long Pt_Prev = 0;
+    Int Last_Obj_Set = 0;
+    Long Last_Obj = 0;  // to be painted plain when another tool is chosen
+};
+
+inline Mode_Flags The_Modes;
+inline Route_State The_Route;
+
+inline Int& Mode_Route = The_Modes.Mode_Route;
+inline Int& Mode_Area = The_Modes.Mode_Area;
+inline Int& Mode_Cell = The_Modes.Mode_Cell;
+inline Int& Mode_Excl = The_Modes.Mode_Excl;
+inline Int& Mode_LC = The_Modes.Mode_LC;
+inline Int& Mode_WC = The_Modes.Mode_WC;
+inline Int& Mode_Ima = The_Modes.Mode_Ima;
+inline Int& Mode_PtGrid = The_Modes.Mode_PtGrid;
+
+inline Int& Pending_New = The_Route.Pending_New;
+inline Int& Pending_Select = The_Route.Pending_Select;
+inline Int& Tool_Insert = The_Route.Tool_Insert;
+inline Int& Tool_Extend = The_Route.Tool_Extend;
+inline Int& Tool_Sel_Point = The_Route.Tool_Sel_Point;
+inline Int& Tool_Armed = The_Route.Tool_Armed;
+inline Int& Obj_Selected = The_Route.Obj_Selected;
+inline Long& Sel_Obj = The_Route.Sel_Obj;
+inline Int& Pt_Selected = The_Route.Pt_Selected;
+inline Long& Sel_Pt = The_Route.Sel_Pt;
+inline Long& Sel_Pt2 = The_Route.Sel_Pt2;
+inline Int& Insert_Closing = The_Route.Insert_Closing;
+inline Int& Pt_Fresh = The_Route.Pt_Fresh;
+inline Long& Pt_Next = The_Route.Pt_Next;
+inline Long& Pt_Prev = The_Route.Pt_Prev;
+inline Int& Last_Obj_Set = The_Route.Last_Obj_Set;
+inline Long& Last_Obj = The_Route.Last_Obj;
+
+inline const bool Edit_State_Is_Reset = At_Reset([] {
+    The_Modes = {};
+    The_Route = {};
+});

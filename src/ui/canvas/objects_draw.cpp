@@ -1,0 +1,173 @@
+// ui/canvas/objects_draw.cpp - painting of objects, with the extent of each kept between redraws.
+#include "ui/canvas/objects_draw.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <vector>
+
+#include "core/model.h"
+#include "core/model_changes.h"
+#include "ui/canvas/view.h"
+
+namespace {
+
+constexpr Pen Backdrop{.Colour = 0xFF0000, .Width = 2};
+
+struct Extent {
+    Double West = std::numeric_limits<Double>::infinity(), North = West;
+    Double East = -West, South = -West;
+
+    void Take(Double X, Double Y) {
+        West = std::min(West, X), East = std::max(East, X);
+        North = std::min(North, Y), South = std::max(South, Y);
+    }
+};
+
+// The extent of each object in map pixels, as the model was when it was made.
+struct Kept_Extents {
+    std::uint64_t Changes = std::numeric_limits<std::uint64_t>::max();
+    Long Objects = -1, Points = -1;
+    std::vector<Extent> Of;  // by row of Tab_Obj
+};
+
+Extent Extent_Of(const Obj& O) {
+    Extent B;
+    Long P = O.First_Pt;
+    for (Long N = 1; N <= O.Nb_Pts; ++N, P = Tab_Pt[P].Next) {
+        B.Take(Tab_Pt[P].X, Tab_Pt[P].Y);
+        if (P == O.Last_Pt) break;
+    }
+    return B;
+}
+
+const std::vector<Extent>& Extents_Now() {
+    static Kept_Extents Kept;
+    if (Kept.Changes == Model_Changes && Kept.Objects == Nb_Obj && Kept.Points == Nb_Pt)
+        return Kept.Of;
+    Kept = {Model_Changes, Nb_Obj, Nb_Pt,
+            std::vector<Extent>(static_cast<std::size_t>(Nb_Obj) + 1)};
+    for (Long I = First_Obj; I <= Nb_Obj; ++I)
+        Kept.Of[static_cast<std::size_t>(I)] = Extent_Of(Tab_Obj[I]);
+    return Kept.Of;
+}
+
+// Canvas pixels beyond which a position is brought back along its line, so that it fits a Long
+// and its distances from others as well.
+constexpr Double Far = 1e8;
+
+bool Is_Far(Pic_Px P) {
+    return !(std::fabs(P.X) <= Far && std::fabs(P.Y) <= Far);
+}
+
+// Cuts the line from A to B along one axis, each end by itself so that its place stays exact.
+// False when nothing is left.
+bool Cut(Pic_Px& A, Pic_Px& B, Double Pic_Px::*Along, Double Pic_Px::*Across) {
+    if (std::max(A.*Along, B.*Along) < -Far || std::min(A.*Along, B.*Along) > Far) return false;
+    const Double Slope = (B.*Across - A.*Across) / (B.*Along - A.*Along);
+    for (Pic_Px* P : {&A, &B}) {
+        const Double Edge = std::clamp(P->*Along, -Far, Far);
+        if (Edge == P->*Along) continue;
+        P->*Across += (Edge - P->*Along) * Slope;
+        P->*Along = Edge;
+    }
+    return true;
+}
+
+// False when nothing of the line is near, or it has no place at all.
+bool Bring_Near(Pic_Px& A, Pic_Px& B) {
+    return Cut(A, B, &Pic_Px::X, &Pic_Px::Y) && Cut(A, B, &Pic_Px::Y, &Pic_Px::X) && !Is_Far(A) &&
+           !Is_Far(B);
+}
+
+// What of the canvas a line of some width can paint: the canvas and a margin.
+struct Reach {
+    Long Left, Right, Top, Bottom;
+
+    explicit Reach(Int Width)
+        : Left(-((Width + 1) / 2)),
+          Right(Pic_Width - 1 - Left),
+          Top(Left),
+          Bottom(Pic_Height - 1 - Top) {}
+
+    bool Meets(const Line_Px& L) const {
+        const auto [X_Low, X_High] = std::minmax(L.X1, L.X2);
+        const auto [Y_Low, Y_High] = std::minmax(L.Y1, L.Y2);
+        if (X_High < Left || X_Low > Right || Y_High < Top || Y_Low > Bottom) return false;
+        if (Left <= X_Low && X_High <= Right && Top <= Y_Low && Y_High <= Bottom) return true;
+        return !All_On_One_Side(L);
+    }
+
+    // Whether the four corners lie on one side of the line.
+    bool All_On_One_Side(const Line_Px& L) const {
+        const std::int64_t DX = std::int64_t{L.X2} - L.X1, DY = std::int64_t{L.Y2} - L.Y1;
+        int Right_Of = 0, Left_Of = 0;
+        for (const Long X : {Left, Right})
+            for (const Long Y : {Top, Bottom}) {
+                const std::int64_t Turn =
+                    DX * (std::int64_t{Y} - L.Y1) - DY * (std::int64_t{X} - L.X1);
+                if (Turn >= 0) ++Right_Of;
+                if (Turn <= 0) ++Left_Of;
+            }
+        return Right_Of == 0 || Left_Of == 0;
+    }
+};
+
+class Object_Painter {
+public:
+    void Paint(const Obj& O, const Pen& With) {
+        const Reach Seen(With.Width);
+        Long P = O.First_Pt;
+        Pic_Px A = On_Canvas(Tab_Pt[P]);
+        for (Long N = 2; N <= O.Nb_Pts && P != O.Last_Pt; ++N) {
+            P = Tab_Pt[P].Next;
+            const Pic_Px B = On_Canvas(Tab_Pt[P]);
+            Paint_Segment(A, B, Seen, With);
+            A = B;
+        }
+    }
+
+    bool May_Be_Seen(const Extent& B) const {
+        return !(B.East < North_West_.X || B.West > South_East_.X || B.South < North_West_.Y ||
+                 B.North > South_East_.Y);
+    }
+
+private:
+    // As Map_To_Pic does it, with the canvas's origin worked out once.
+    Pic_Px On_Canvas(const Pt& P) const {
+        return {(P.X - Origin_.X) * Zoom, (P.Y - Origin_.Y) * Zoom};
+    }
+
+    void Paint_Segment(Pic_Px A, Pic_Px B, const Reach& Seen, const Pen& With) {
+        if ((Is_Far(A) || Is_Far(B)) && !Bring_Near(A, B)) return;
+        const Line_Px L{Round_Lng(A.X), Round_Lng(A.Y), Round_Lng(B.X), Round_Lng(B.Y)};
+        if (Seen.Meets(L)) Out_.Add(L, With);
+    }
+
+    static constexpr Double Margin = 8.0;  // more than the width of any pen
+    const Pix Origin_ = Pic_To_Map({0.0, 0.0});
+    const Pix North_West_ = Pic_To_Map({-Margin, -Margin});
+    const Pix South_East_ = Pic_To_Map({Pic_Width + Margin, Pic_Height + Margin});
+    Line_Batch Out_;
+};
+
+}  // namespace
+
+void Objects_Draw(const std::function<std::optional<Pen>(Long Row)>& Pen_Of) {
+    const std::vector<Extent>& Extents = Extents_Now();
+    Object_Painter Painter;
+    for (Long I = First_Obj; I <= Nb_Obj; ++I) {
+        if (!Painter.May_Be_Seen(Extents[static_cast<std::size_t>(I)]) || Tab_Obj[I].Nb_Pts < 2)
+            continue;
+        if (const std::optional<Pen> With = Pen_Of(I)) Painter.Paint(Tab_Obj[I], *With);
+    }
+}
+
+void Objects_Draw_Backdrop() {
+    Objects_Draw([](Long) { return Backdrop; });
+}
+
+void Objects_Changed() {
+    ++Model_Changes;
+}

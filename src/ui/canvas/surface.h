@@ -1,0 +1,129 @@
+// ui/canvas/surface.h - what the canvas is painted on, and the items that lie above it.
+//
+// Coordinates are canvas pixels, X right, Y down; a canvas pixel is a logical pixel of the
+// screen. Colours are 0xRRGGBB.
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/host.h"
+#include "core/numbers.h"
+
+struct Picture;
+
+struct Box_Px {
+    Long X = 0, Y = 0, W = 0, H = 0;
+    bool operator==(const Box_Px&) const = default;
+};
+
+struct Line_Px {
+    Long X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;
+    bool operator==(const Line_Px&) const = default;
+};
+
+enum class Line_Style { Solid, Dotted };
+
+struct Pen {
+    Long Colour = 0;
+    Int Width = 1;
+    Line_Style Style = Line_Style::Solid;
+    bool operator==(const Pen&) const = default;
+};
+
+class Surface {
+public:
+    virtual ~Surface() = default;
+    virtual void Clear() = 0;
+    /// Copies Source of P onto Dest, pixels repeated or left out, without blending.
+    virtual void Stretch_Copy(const Picture& P, Box_Px Source, Box_Px Dest) = 0;
+    /// Both ends are painted. Lines may lie partly or wholly outside the canvas.
+    virtual void Lines(std::span<const Line_Px> Segments, const Pen& With) = 0;
+    void Line(Line_Px Segment, const Pen& With) { Lines({&Segment, 1}, With); }
+    /// Shows what was painted.
+    virtual void Refresh() = 0;
+    virtual void Set_Cursor(Pointer_Shape Shape) = 0;
+    /// An overlay item has moved, appeared or gone; nothing is painted anew but these.
+    virtual void Overlay_Changed() = 0;
+};
+
+/// Takes everything and shows nothing.
+class Null_Surface final : public Surface {
+public:
+    void Clear() override {}
+    void Stretch_Copy(const Picture&, Box_Px, Box_Px) override {}
+    void Lines(std::span<const Line_Px>, const Pen&) override {}
+    void Refresh() override {}
+    void Set_Cursor(Pointer_Shape) override {}
+    void Overlay_Changed() override {}
+};
+
+/// The surface in use. There always is one: at first a Null_Surface.
+Surface& The_Surface();
+
+/// Makes S the surface for the life of this object, then puts the former one back.
+class Surface_Scope {
+public:
+    explicit Surface_Scope(Surface& S);
+    ~Surface_Scope();
+    Surface_Scope(const Surface_Scope&) = delete;
+    Surface_Scope& operator=(const Surface_Scope&) = delete;
+
+private:
+    Surface* Former_;
+};
+
+/// Takes lines one at a time and hands them to the surface in use many at once, in their order.
+/// What it holds is handed over at the end of its life.
+class Line_Batch {
+public:
+    Line_Batch() = default;
+    ~Line_Batch() { Flush(); }
+    Line_Batch(const Line_Batch&) = delete;
+    Line_Batch& operator=(const Line_Batch&) = delete;
+
+    void Add(Line_Px Segment, const Pen& With) {
+        if (With != With_ || Held_.size() == Most) Flush();
+        With_ = With;
+        Held_.push_back(Segment);
+    }
+
+private:
+    static constexpr std::size_t Most = 4096;
+    void Flush();
+
+    Pen With_;
+    std::vector<Line_Px> Held_;
+};
+
+struct Overlay_Line {
+    Line_Px At = {};
+    Long Colour = 0xFF0000;
+    bool Visible = false;
+};
+
+/// A circle round (X, Y), Diameter pixels across, outlined in Colour.
+struct Overlay_Circle {
+    Long X = 0, Y = 0;
+    Long Diameter = 11;
+    Long Colour = 0xFF0000;
+    bool Visible = false;
+};
+
+struct Overlay_Label {
+    Long X = 0, Y = 0;  // its top left
+    std::string Text = {};
+    bool Visible = false;
+};
+
+/// Drawn above the surface in this order, and moved without a redraw: rubber bands of drawing,
+/// edges of the texture being dragged, marker of the selected point, altitude under the mouse.
+struct Overlay_Items {
+    Overlay_Line Ln1, Ln2;
+    Overlay_Line LnHIma1, LnHIma2, LnVIma1, LnVIma2;
+    Overlay_Circle Cercle;
+    Overlay_Label LPtGrid;
+};
+
+inline Overlay_Items The_Overlay;

@@ -1,0 +1,32 @@
+// ui/dialogs/dialogs.cpp - the register of this folder's dialogs, and the buttons that end them.
+#include "ui/dialogs/dialogs.h"
+
+#include <utility>
+
+#include "ui/form/form_list.h"
+
+void Forms_Install() {
+    Form_Register("Frm_PGen", Make_Frm_PGen);
+    Form_Register("Frm_Dir", Make_Frm_Dir);
+    Form_Register("Frm_ColourGrid", Make_Frm_ColourGrid);
+}
+
+void Add_Ok_Cancel(Form& F, std::function<void()> Ok, std::function<void()> Cancel) {
+    F.Add({.Kind = Control_Kind::Button,
+           .Name = "Cmd_Ok",
+           .Words = {"Ok", "Ok"},
+           .Role = Button_Role::Ok,
+           .On_Click = std::move(Ok)});
+    F.Add({.Kind = Control_Kind::Button,
+           .Name = "Cmd_Cancel",
+           .Words = {"Cancel", "Annuler"},
+           .Role = Button_Role::Cancel,
+           .On_Click = std::move(Cancel)});
+}
+
+void Add_Help(Form& F) {
+    F.Add({.Kind = Control_Kind::Button,
+           .Name = "Cmd_Help",
+           .Words = {"Help", "Aide"},
+           .Role = Button_Role::Help});
+}

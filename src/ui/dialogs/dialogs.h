@@ -1,0 +1,20 @@
+// ui/dialogs/dialogs.h - the makers of all dialogs, and what dialogs have in common.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "ui/form/form.h"
+
+std::unique_ptr<Form> Make_Frm_PGen();
+std::unique_ptr<Form> Make_Frm_Dir();
+std::unique_ptr<Form> Make_Frm_ColourGrid();
+
+/// Registers every dialog of this folder. Called once at the start of the program.
+void Forms_Install();
+
+/// Adds the buttons Cmd_Ok and Cmd_Cancel.
+void Add_Ok_Cancel(Form& F, std::function<void()> Ok, std::function<void()> Cancel);
+
+/// Adds Cmd_Help, which does nothing: there are no help pages.
+void Add_Help(Form& F);

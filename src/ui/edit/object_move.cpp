@@ -1,0 +1,66 @@
+// ui/edit/object_move.cpp - the arrow keys that move the selected object.
+#include "ui/edit/object_move.h"
+
+#include <algorithm>
+
+#include "core/model.h"
+#include "ui/canvas/edit_state.h"
+#include "ui/canvas/view.h"
+
+namespace {
+
+// A polygon painted with a texture may not be moved out of it.
+bool Leaves_Its_Texture(const Obj& O, Double DX, Double DY) {
+    const Attr& A = O.Attr;
+    if (A.SurfShore >= 2 || A.LWM_VTP2 != 2 || A.VTP1_SpecNor != 0 || A.Link_Ima == 0) return false;
+    const auto Textures = Tab_Ima.Rows();
+    const auto M = std::ranges::find(Textures, A.Link_Ima, &Ima::Num);
+    if (M == Textures.end()) return false;
+    for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
+        const Double X = Tab_Pt[P].X + DX, Y = Tab_Pt[P].Y + DY;
+        if (X < M->X1 || X > M->X2 || Y < M->Y1 || Y > M->Y2) return true;
+        if (P == O.Last_Pt) return false;
+    }
+}
+
+void Move_Object(Double DX, Double DY) {
+    const Obj& O = Tab_Obj[Sel_Obj];
+    if (O.Nb_Pts == 0 || Leaves_Its_Texture(O, DX, DY)) return;
+    for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
+        Tab_Pt[P].X += DX;
+        Tab_Pt[P].Y += DY;
+        if (P == O.Last_Pt) break;
+    }
+    Objects_Changed();
+    View_Redraw();
+}
+
+}  // namespace
+
+bool Object_Arrow_Key(Key_Event K) {
+    if (Obj_Selected == 0 || Pending_Select != 0) return false;
+    Double Pixels = 0.0;
+    if ((K.Shift & Shift_Key) != 0)
+        Pixels = 1.0;
+    else if ((K.Shift & Ctrl_Key) != 0)
+        Pixels = 5.0;
+    else
+        return false;
+    const Double Step = Pixels / Zoom;
+    switch (K.Code) {
+        case Key_Up:
+            Move_Object(0.0, -Step);
+            return true;
+        case Key_Down:
+            Move_Object(0.0, Step);
+            return true;
+        case Key_Left:
+            Move_Object(-Step, 0.0);
+            return true;
+        case Key_Right:
+            Move_Object(Step, 0.0);
+            return true;
+        default:
+            return false;
+    }
+}

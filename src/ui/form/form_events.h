@@ -1,0 +1,46 @@
+// ui/form/form_events.h - what a user does to a form, whether in a window or in a test.
+//
+// Each routine does what the toolkit reported: it changes the control, runs its handler, and
+// applies the rules that all fields share. A control that is disabled, hidden or absent from
+// the layout takes nothing: the routine returns false. So does one that could not be reached,
+// because the field left for it refused its text.
+#pragma once
+
+#include <string_view>
+
+#include "ui/form/form.h"
+
+/// The form is about to be shown: runs On_Load.
+void Form_Load(Form& F);
+
+/// A click: a button or menu item is pressed, a check box turned, a read-only field clicked.
+bool Form_Click(Form& F, std::string_view Name);
+bool Form_Double_Click(Form& F, std::string_view Name);
+
+/// Item I of Options, a List or a Combo, page I of Tabs.
+bool Form_Choose(Form& F, std::string_view Name, Long I);
+bool Form_Scroll(Form& F, std::string_view Name, Long Value);
+
+/// The text of a field is now Text; Enter, Escape or leaving the field follow.
+bool Form_Type(Form& F, std::string_view Name, std::string_view Text);
+
+/// The focus goes to a control: the field that had it is left first, but for a button of role
+/// Cancel or Help. A field's whole text is selected. False when the old one refused its text and
+/// keeps the focus.
+bool Form_Enter_Control(Form& F, std::string_view Name);
+
+/// Accepts what was typed into a field, if anything was. False after message 1.
+bool Form_Leave(Form& F);
+
+/// A key, with the focus where it is. The form sees it first, then the control with the focus.
+/// Enter after them: accepts what was typed into a field; else presses the button, clicks the
+/// read-only field or double-clicks the chosen item of the list that has the focus; else presses
+/// Ok. Escape puts back the value held if something was typed; else presses Cancel. True when
+/// the key was used.
+bool Form_Key(Form& F, Key_Event K);
+
+bool Form_Mouse(Form& F, std::string_view Name, const Mouse_Event& E);
+void Form_Tick(Form& F);
+
+/// The user closes the window. True when the form is closed now.
+bool Form_User_Close(Form& F);

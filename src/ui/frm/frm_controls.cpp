@@ -1,0 +1,212 @@
+// ui/frm/frm_controls.cpp - one row for each control of the main form: its texts in both languages.
+#include "ui/frm/frm_controls.h"
+
+#include <string>
+
+#include "platform/text1252.h"
+#include "ui/canvas/view.h"
+
+namespace {
+
+struct Menu_Row {
+    const char* Name;
+    Wording Caption;
+    const char* Shortcut = "";
+};
+
+constexpr Menu_Row Menus[] = {
+    {"Mnu_File", {"Files", "Fichiers"}},
+    {"Mnu_Param", {"Parameters", "Param\xE8tres"}},
+    {"Mnu_Tools", {"Tools", "Outils"}},
+};
+
+constexpr Menu_Row Menu_Items[] = {
+    {"Mnu_File_New", {"New", "Nouveau"}, "Ctrl+N"},
+    {"Mnu_File_Open", {"Open", "Ouvrir"}, "Ctrl+O"},
+    {"Mnu_File_Enreg", {"Save", "Enregistrer"}, "Ctrl+S"},
+    {"Mnu_File_Enreg_Sous", {"Save as ...", "Enregistrer sous"}, "Ctrl+Shift+S"},
+    {"Mnu_File_Close", {"Close", "Fermer"}, "Ctrl+W"},
+    {"Mnu_File_Quit", {"Quit", "Quitter"}, "Ctrl+Q"},
+    {"Mnu_Param_File", {"File parameters", "Param\xE8tres du projet"}},
+    {"Mnu_par_Remesh", {"Re-Mesh", "Re-Mesh"}},
+    {"Mnu_ModCad",
+     {"Coordinates of the map",
+      "Coordonn\xE9"
+      "es de la carte"}},
+    {"Mnu_Param_Gene", {"General parameters", "Param\xE8tres g\xE9n\xE9raux"}},
+    {"Mnu_Reinit", {"Initialize project", "Initialiser le project"}},
+    {"Mnu_Tool_CvLL", {"Lat/Lon conversion", "Conversion Lat/Lon"}},
+};
+
+struct Button_Row {
+    const char* Name;
+    Wording Tip;
+    Wording Caption = {};  // beside or instead of the icon
+};
+
+constexpr Button_Row Buttons_Of_Bar[] = {
+    {"Cmd_New", {"New project", "Nouveau"}},
+    {"Cmd_Save", {"Save", "Enregistrer"}},
+    {"Cmd_ZPlus", {"Zoom +", "Zoom +"}},
+    {"Cmd_ZMoins", {"Zoom -", "Zoom -"}},
+    {"Cmd_AffBmp", {"Show/hide image", "Montrer/cacher image"}},
+    {"Cmd_AffTexture", {"Show/hide textures", "Montrer/cacher textures"}},
+    {"Cmd_Grid", {"Show/hide grid", "Montrer/cacher grille"}},
+    {"Cmd_ColourGrid", {"Grid colour", "Couleur de la grille"}},
+    {"Cmd_TrtArea", {"Area attributes", "Attributs d'Area"}},
+    {"Cmd_TrtCell", {"Cell attributes", "Attributs de Cell"}},
+    {"Cmd_Excl_Areas", {"Exclude in Areas", "Exclusion dans Area"}},
+    {"Cmd_LandClass", {"LandClass", "LandClass"}, {"LC", "LC"}},
+    {"Cmd_WaterClass", {"WaterClass", "WaterClass"}, {"WC", "WC"}},
+    {"Cmd_TrtMesh", {"Re-Mesh", "Re-Mesh"}},
+    {"Cmd_Saisie_Routes", {"Road/river/lake", "Aller \xE0 saisie route/lac/riv\xE8re"}},
+    {"Cmd_New_Route", {"New object", "Nouvel objet"}},
+    {"Cmd_Sel_Route", {"Object selection", "S\xE9lectionner un objet"}},
+    {"Cmd_Sel_Pt_Route", {"Point selection", "S\xE9lectionner un point"}},
+    {"Cmd_Ins_Pt_Route", {"Point insertion", "Ins\xE9rer un point"}},
+    {"Cmd_Extr_Pt_Route", {"Go on with end of line", "Continuer sur extr\xE9mit\xE9"}},
+    {"Cmd_Sup_Route_Ou_Pt", {"Delete selected object", "Supprimer l'objet s\xE9lectionner"}},
+    {"Cmd_Tabul", {"Find objects", "Rechercher objet"}},
+    {"Cmd_TrtIma", {"Textures and linked polys (VTP1)", "Textures et polys li\xE9s (VTP1)"}},
+    {"Cmd_New_Ima", {"New texture (VTP1)", "Nouvelle texture (VTP1)"}},
+    {"Cmd_Sel_Ima", {"Select a texture (VTP1)", "Selectionner une texture (VTP1)"}},
+    {"Cmd_Sel_Crb_Ima",
+     {"Link a poly to the selected texture (VTP1)",
+      "Lier un poly \xE0 le texture s\xE9lectionn\xE9"
+      "e (VTP1)"}},
+    {"Cmd_FSUIPC", {"Flight recording", "Enregistrement de vol"}},
+    {"Cmd_API", {"BGL generation", "Generation BGL"}},
+    {"Cmd_Help", {"Help", "Aide"}},
+};
+
+struct Label_Row {
+    const char* Name;
+    Int Columns;
+};
+
+// What is known of the place under the mouse.
+constexpr Label_Row Read_Outs[] = {{"L_MouseBmp", 18}, {"LLat", 14},    {"LLon", 14},
+                                   {"LLatDec", 12},    {"LLonDec", 12}, {"L_NumCell_Area", 34},
+                                   {"L_CustomBmp", 22}};
+
+// What is being made, and how far it is.
+constexpr Label_Row Progress_Labels[] = {
+    {"LCompileNom", 60}, {"LCompile", 60}, {"LTex2500", 40}, {"LNbTex", 8}, {"LPourCent", 6}};
+
+std::string Icon_Name(const char* Button) {
+    std::string Name = std::string(Button).substr(sizeof "Cmd_" - 1);
+    for (char& C : Name)
+        if ('A' <= C && C <= 'Z') C = static_cast<char>(C - 'A' + 'a');
+    return Name;
+}
+
+void Add_Menus(Form& F) {
+    for (const Menu_Row& M : Menus)
+        F.Add({.Kind = Control_Kind::Menu, .Name = M.Name, .Words = M.Caption});
+    for (const Menu_Row& M : Menu_Items)
+        F.Add({.Kind = Control_Kind::Menu_Item,
+               .Name = M.Name,
+               .Words = M.Caption,
+               .Shortcut = M.Shortcut});
+    for (int I = 0; I < 4; ++I)
+        F.Add({.Kind = Control_Kind::Menu_Item,
+               .Name = "Mnu_File_Prec(" + std::to_string(I) + ")",
+               .Visible = false});
+}
+
+void Add_Tool_Bar(Form& F) {
+    for (const Button_Row& B : Buttons_Of_Bar)
+        F.Add({.Kind = Control_Kind::Button,
+               .Name = B.Name,
+               .Words = B.Caption,
+               .Tip_Words = B.Tip,
+               .Icon = Icon_Name(B.Name)});
+}
+
+void Add_Canvas(Form& F) {
+    F.Add({.Kind = Control_Kind::Canvas, .Name = "Pic"});
+    for (const char* Bar : {"HScroll", "VScroll"})
+        F.Add({.Kind = Control_Kind::Scroll_Bar,
+               .Name = Bar,
+               .Max = Scroll_Max,
+               .Small_Step = Scroll_Small,
+               .Large_Step = Scroll_Large});
+}
+
+void Add_Labels(Form& F) {
+    for (const Label_Row& L : Read_Outs) F.Add({.Name = L.Name, .Columns = L.Columns});
+    for (const Label_Row& L : Progress_Labels) F.Add({.Name = L.Name, .Columns = L.Columns});
+    F.Add({.Kind = Control_Kind::Frame,
+           .Name = "Fram_Compile",
+           .Words = {"BGL generation", "Generation BGL"},
+           .Visible = false});
+    F.Add({.Kind = Control_Kind::Frame,
+           .Name = "Fram_Creat_2500",
+           .Words = {"Map", "Carte"},
+           .Visible = false});
+}
+
+Layout Menu_Layout() {
+    return Menu_Bar(
+        {Menu("Mnu_File", {"Mnu_File_New", "Mnu_File_Open", "Mnu_File_Enreg", "Mnu_File_Enreg_Sous",
+                           "Mnu_File_Close", Gap(), "Mnu_File_Prec(0)", "Mnu_File_Prec(1)",
+                           "Mnu_File_Prec(2)", "Mnu_File_Prec(3)", Gap(), "Mnu_File_Quit"}),
+         Menu("Mnu_Param", {"Mnu_Param_File", "Mnu_par_Remesh", "Mnu_ModCad", Gap(),
+                            "Mnu_Param_Gene", Gap(), "Mnu_Reinit"}),
+         Menu("Mnu_Tools", {"Mnu_Tool_CvLL"})});
+}
+
+// In the order of a designer's work: the project, what is seen, squares of the grid, drawn
+// objects, textures, and what comes out of it.
+Layout Tool_Bar_Layout() {
+    return Tool_Bar({"Cmd_New",
+                     "Cmd_Save",
+                     Gap(),
+                     "Cmd_ZPlus",
+                     "Cmd_ZMoins",
+                     "Cmd_AffBmp",
+                     "Cmd_AffTexture",
+                     "Cmd_Grid",
+                     "Cmd_ColourGrid",
+                     Gap(),
+                     "Cmd_TrtArea",
+                     "Cmd_TrtCell",
+                     "Cmd_Excl_Areas",
+                     "Cmd_LandClass",
+                     "Cmd_WaterClass",
+                     "Cmd_TrtMesh",
+                     Gap(),
+                     "Cmd_Saisie_Routes",
+                     "Cmd_New_Route",
+                     "Cmd_Sel_Route",
+                     "Cmd_Sel_Pt_Route",
+                     "Cmd_Ins_Pt_Route",
+                     "Cmd_Extr_Pt_Route",
+                     "Cmd_Sup_Route_Ou_Pt",
+                     "Cmd_Tabul",
+                     Gap(),
+                     "Cmd_TrtIma",
+                     "Cmd_New_Ima",
+                     "Cmd_Sel_Ima",
+                     "Cmd_Sel_Crb_Ima",
+                     Gap(),
+                     "Cmd_FSUIPC",
+                     "Cmd_API",
+                     Gap(),
+                     "Cmd_Help"});
+}
+
+}  // namespace
+
+void Frm_Add_Controls(Form& F) {
+    Add_Menus(F);
+    Add_Tool_Bar(F);
+    Add_Canvas(F);
+    Add_Labels(F);
+    F.Set_Layout(
+        Column({Menu_Layout(), Tool_Bar_Layout(), Canvas("Pic", {"VScroll", "HScroll"}),
+                Over_Canvas({Frame("Fram_Compile", {"LCompileNom", "LCompile"}),
+                             Frame("Fram_Creat_2500", {"LTex2500", Row({"LNbTex", "LPourCent"})})}),
+                Read_Out({"L_MouseBmp", "LLat", "LLon", "LLatDec", "LLonDec", "L_NumCell_Area",
+                          "L_CustomBmp"})}));
+}

@@ -1,0 +1,13 @@
+// ui/frm/frm_keys.h - the keys of the main form.
+#pragma once
+
+#include <string_view>
+
+#include "ui/form/events.h"
+
+/// The letters that go with Alt, for whoever gives out others.
+extern const std::string_view Alt_Letters;
+
+/// A key of the main form, which sees each first: Alt with a key presses a button if that is
+/// enabled; other keys go to the mode that is on. True when the key was used.
+bool Frm_Key(Key_Event K);
