@@ -63,7 +63,8 @@ struct Scene {
     }
     void Cut() const {
         Int Error = 0;
-        Map_Split_Tiles(Frm(), Carte, Error);
+        Main_Form_Progress Progress;
+        Map_Split_Tiles(Progress, Carte, Error);
         Stop_Unless(Error == 0, "the map was not cut");
     }
     void Open() const { Stop_Unless(Tiles_Build(), "the map was not opened"); }

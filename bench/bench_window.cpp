@@ -98,7 +98,7 @@ void Measure(Canvas_Widget& Canvas, double At_Zoom) {
     Pan_X = Pan_Y = 0.0;
     View_Redraw();
     const double Map = Milliseconds(Map_Blit_View);
-    const double Grid = Milliseconds(Grid_Draw);
+    const double Grid = Milliseconds([] { Grid_Draw(); });
     const double Objects = Milliseconds(Objects_Draw_Backdrop);
     const double Screen = Milliseconds([&] { Canvas.repaint(); });
     const double Whole = Milliseconds([&] {

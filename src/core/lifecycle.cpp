@@ -108,7 +108,8 @@ void Close_View() {
     Call(The_View.Tiles_Remove);
     Call(The_View.Mode_Leave);
     Call(The_View.View_Clear);
-    for (const char* Label : {"L_MouseBmp", "LLat", "LLon", "LLatDec", "LLonDec", "L_NumCell_Area"})
+    for (const char* Label : {"L_MouseBmp", "LLat", "LLon", "LLatDec", "LLonDec", "L_NumCell_Area",
+                              "L_CustomBmp"})
         The_Host().Set_Caption(Label, "");
     Disable_Project_Cmds();
     The_Host().Set_Caption("Frm", Program_Title);
@@ -206,6 +207,7 @@ void Mnu_Reinit() {
     Call(The_View.Mode_Leave);
     if (Nb_Ima != 0) Call(The_View.Ima_Unload);
     Call(The_View.View_Reset);
+    Call(The_View.Bars_Follow);
     Call(The_View.Route_Reset);
     Init_Tables();
     Enable_Project_Cmds();

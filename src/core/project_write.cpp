@@ -203,6 +203,7 @@ public:
     Save_Progress() {
         Host& H = The_Host();
         H.Set_Pointer(Pointer_Shape::Hourglass);
+        H.Set_Caption("Fram_Creat_2500", In_Language("Project", "Projet"));
         H.Set_Caption("LTex2500", "Save");
         H.Set_Caption("LPourCent", "0%");
         H.Set_Caption("LNbTex", "");

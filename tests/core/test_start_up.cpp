@@ -40,11 +40,11 @@ TEST_F(Start_Up, AnEmptyProgramReadyForWork) {
     Tile_Size = Grid_Colour = Grid_Colour_Index = 7;
     std::string Calls;
     The_View.Apply_Language = [&] { Calls += "Apply_Language:" + Language + " "; };
-    The_View.Tool_Bar_Layout = [&] { Calls += "Tool_Bar_Layout "; };
+    The_View.Window_Show = [&] { Calls += "Window_Show "; };
     The_View.Route_Reset = [&] { Calls += "Route_Reset "; };
     The_View.View_Reset = [&] { Calls += "View_Reset "; };
     EXPECT_TRUE(Start());
-    EXPECT_EQ(Calls, "Apply_Language:US Tool_Bar_Layout Route_Reset View_Reset ");
+    EXPECT_EQ(Calls, "Apply_Language:US Window_Show Route_Reset View_Reset ");
     EXPECT_TRUE(Host_Of_Test.Events.empty());
     EXPECT_EQ(Host_Of_Test.Caption["Frm"], "Terrafold V5.0 04/10/2003");
     EXPECT_FALSE(Host_Of_Test.Enabled.at("Cmd_Save"));

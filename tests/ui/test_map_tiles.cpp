@@ -24,7 +24,8 @@ protected:
     }
     Int Split() {
         Int Error = -1;
-        Map_Split_Tiles(Frm(), Dir.Path("Map.bmp"), Error);
+        Main_Form_Progress Progress;
+        Map_Split_Tiles(Progress, Dir.Path("Map.bmp"), Error);
         return Error;
     }
     std::size_t Nb_Temp_Files() const {

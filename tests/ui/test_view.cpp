@@ -193,50 +193,9 @@ TEST_F(View, TheGridsNewColourIsPainted) {
     EXPECT_EQ(Frm().Focus(), "Pic");
 }
 
-// What each mode paints, as one letter each: grid, backdrop, and the slots.
-std::string Painted(Recorded_Surface& Canvas) {
-    std::string Order;
-    const auto Add = [&Order](char C) {
-        if (!Order.ends_with(C)) Order += C;
-    };
-    Canvas.Ops.clear();
-    View_Redraw();
-    for (const Surface_Op& Op : Canvas.Ops)
-        if (Op.What == Kind::Line)
-            Add(Op.With.Width == 2 ? 'b' : Op.With.Width == 1 ? 'g' : static_cast<char>(Op.At.X1));
-    return Order;
-}
-
-std::function<void()> Slot(char C) {
-    return [C] { The_Surface().Line({C, 0, 0, 0}, {.Width = 3}); };
-}
-
-TEST_F(View, EachModePaintsItsOwnThingsInOrder) {
-    const Long I = Obj_Add({}, 10.0, 10.0);
-    Pt_Append(I, 50.0, 60.0);
-    EXPECT_EQ(Painted(Canvas), "") << "no mode: the map alone";
-    const auto In_Mode = [this](Int& Mode) {
-        Mode_Clear();
-        Mode = 1;
-        return Painted(Canvas);
-    };
-    EXPECT_EQ(In_Mode(Mode_Route), "gb") << "stand-ins";
-    EXPECT_EQ(In_Mode(Mode_LC), "gb");
-    EXPECT_EQ(In_Mode(Mode_Ima), "b");
-    EXPECT_EQ(In_Mode(Mode_PtGrid), "gb");
-    The_Redraw_Calls = {Slot('R'), Slot('C'), Slot('I'), Slot('A'), Slot('P')};
-    EXPECT_EQ(In_Mode(Mode_Route), "gR");
-    EXPECT_EQ(In_Mode(Mode_Excl), "gb");
-    EXPECT_EQ(In_Mode(Mode_Area), "gb");
-    EXPECT_EQ(In_Mode(Mode_Cell), "gb");
-    EXPECT_EQ(In_Mode(Mode_LC), "Cb");
-    EXPECT_EQ(In_Mode(Mode_WC), "Cb");
-    EXPECT_EQ(In_Mode(Mode_Ima), "I");
-    EXPECT_EQ(In_Mode(Mode_PtGrid), "AbP");
-}
-
 TEST_F(View, ARedrawWaitsClearsAndShows) {
-    Mode_Area = 1;
+    Canvas_Pointer(Pointer_Shape::Cross);
+    Canvas.Ops.clear();
     View_Redraw();
     const auto& Ops = Canvas.Ops;
     ASSERT_GE(Ops.size(), 4U);

@@ -19,7 +19,10 @@ class View_Grid : public View_Test {
 protected:
     std::vector<Surface_Op> Draw() {
         Canvas.Ops.clear();
-        Grid_Draw();
+        Grid_Draw(Mode_Area != 0   ? Grid_Marks::Areas
+                  : Mode_Cell != 0 ? Grid_Marks::Lod8s
+                  : Mode_Excl != 0 ? Grid_Marks::Excls
+                                   : Grid_Marks::None);
         return Canvas.Of_Kind(Kind::Line);
     }
     // The lines that are no lines of the grid.

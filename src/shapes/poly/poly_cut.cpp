@@ -11,6 +11,7 @@
 #include "core/host.h"
 #include "grid/grid_lines.h"
 #include "shapes/poly/convex_cut.h"
+#include "shapes/poly/cut_view.h"
 
 namespace {
 
@@ -138,6 +139,15 @@ std::size_t Cut_All(const Grid_Lines& Lines, std::size_t End_Pass) {
     return Cutter.Failed_Pass();
 }
 
+void Show_Pieces() {
+    std::vector<Pix> Points;
+    for (const WPoly& W : Tab_WPoly.Rows()) {
+        Points.clear();
+        for (Long I = W.First; I <= W.Last; ++I) Points.push_back(To_Pix(Tab_WPt[I]));
+        The_Cut_View.Piece_Cut(Points);
+    }
+}
+
 }  // namespace
 
 void Poly_Cut_Cells(Int Mode) {
@@ -147,6 +157,7 @@ void Poly_Cut_Cells(Int Mode) {
     std::size_t End_Pass = No_Pass;
     for (std::size_t Failed = 0; (Failed = Cut_All(Lines, End_Pass)) != No_Pass;) End_Pass = Failed;
     WPoly_Commit();
+    if (The_Cut_View.Piece_Cut != nullptr) Show_Pieces();
     if (End_Pass == No_Pass) return;
     Plain_Box(End_Pass < Lines.Y.size() ? "Anormal Lat decoupe LOD13_8"
                                         : "Anormal Lon decoupe LOD13_8");

@@ -12,6 +12,7 @@
 #include "geometry/ear_clip.h"
 #include "geometry/segments.h"
 #include "shapes/poly/split_outline.h"
+#include "shapes/poly/cut_view.h"
 
 namespace {
 
@@ -136,6 +137,8 @@ bool Splitter::Take_Run(Piece_List& Pieces) {
     Pieces.Add(Line_.At(B));
     // A run is convex as it stands; only a large one has work for the second pass.
     Pieces.End(Nb < Limit_);
+    if (The_Cut_View.Run_Taken_Off != nullptr)
+        The_Cut_View.Run_Taken_Off(Pieces.Points(Pieces.Nb() - 1));
     Line_.Cut(A, B);
     return true;
 }

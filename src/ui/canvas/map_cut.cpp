@@ -174,9 +174,9 @@ std::string Map_Cut(File_Reader& File, const Bitmap_Header& Map, std::string_vie
     for (Long Row = Tile_Count(Map.Height) - 1; Row >= 0; --Row) {
         const Long Top = Row * Tile_Size, End = std::min<Long>(Top + Tile_Size, Map.Height);
         for (Long Col = 0; Col < Cols; Col += Files_At_Once) {
-            Tile_Row Tiles(Map, Col, std::min(Files_At_Once, Cols - Col));
+            const Long Nb = std::min(Files_At_Once, Cols - Col), Lines = End - Top;
+            Tile_Row Tiles(Map, Col, Nb);
             if (std::string Path = Tiles.Open(Row, Path_Of); !Path.empty()) return Path;
-            Tile += std::min(Files_At_Once, Cols - Col);
             Tiles.Put_All(Header);
             for (Long Empty = End; Empty < Top + Tile_Size; ++Empty)
                 Tiles.Put_All(Tile_Row::Zeros(Bytes_Of(Tile_Size, Map.Bits)));
@@ -185,8 +185,10 @@ std::string Map_Cut(File_Reader& File, const Bitmap_Header& Map, std::string_vie
                 const char* Line = Source.Line(Y);
                 if (Line == nullptr) return std::string(Map_Path);
                 Tiles.Put_Line(Line);
-                Progress(Tile, End - Y);
+                const Long Done = (End - Y) * Nb - 1;  // told as if one tile followed the other
+                Progress(Tile + Done / Lines + 1, Done % Lines + 1);
             }
+            Tile += Nb;
             if (std::string Path = Tiles.Close(); !Path.empty()) return Path;
         }
     }

@@ -35,21 +35,12 @@ std::string Path_Of_Name(const std::string& Name) {
     return Temp_Dir_Path() + "\\$$$_" + Name + ".bmp";
 }
 
-class Main_Form_Progress final : public Map_Progress {
-public:
-    void Set_Caption(std::string_view Label, std::string_view Text) override {
-        The_Host().Set_Caption(Label, Text);
-    }
-    void Set_Visible(std::string_view Frame, bool On) override {
-        The_Host().Set_Visible(Frame, On);
-    }
-};
-
 std::string Percent(Double Part, Double Whole) {
     return std::to_string(Round_Lng(Part * 100.0 / Whole)) + "%";
 }
 
 void Show_Frame(Map_Progress& F, bool On) {
+    if (On) F.Set_Caption("Fram_Creat_2500", In_Language("Map", "Carte"));
     F.Set_Visible("Fram_Creat_2500", On);
     The_Host().Refresh();
 }
@@ -148,6 +139,14 @@ Bitmap_Fault Read_Tile(const std::string& Path, Picture& P) {
 }
 
 }  // namespace
+
+void Main_Form_Progress::Set_Caption(std::string_view Label, std::string_view Text) {
+    The_Host().Set_Caption(Label, Text);
+}
+
+void Main_Form_Progress::Set_Visible(std::string_view Frame, bool On) {
+    The_Host().Set_Visible(Frame, On);
+}
 
 void Map_Split_Tiles(Map_Progress& Progress, std::string_view Path, Int& Error) {
     Error = 1;

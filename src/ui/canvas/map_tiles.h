@@ -20,6 +20,13 @@ public:
     virtual void Set_Visible(std::string_view Frame, bool On) = 0;
 };
 
+/// That of the main form.
+class Main_Form_Progress final : public Map_Progress {
+public:
+    void Set_Caption(std::string_view Label, std::string_view Text) override;
+    void Set_Visible(std::string_view Frame, bool On) override;
+};
+
 /// The tiles in memory, by index from 0; element 0 always exists.
 inline std::vector<Picture> WPic = std::vector<Picture>(1);
 

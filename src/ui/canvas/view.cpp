@@ -35,15 +35,6 @@ Long Bar_Value(Double Pan, Double Range) {
     return std::clamp(Round_Lng(Scroll_Middle - Pan * Scroll_Max / Range), Long{0}, Scroll_Max);
 }
 
-// The bars stop at their ends; the pan does not.
-void Scroll_Bars_Follow() {
-    Scroll_Guard = true;
-    Find_Scroll_Ranges();
-    Set_Bar("VScroll", Bar_Value(Pan_Y, Scroll_Range_Y));
-    Set_Bar("HScroll", Bar_Value(Pan_X, Scroll_Range_X));
-    Scroll_Guard = false;
-}
-
 void Focus_To_Pic() {
     The_Host().Set_Focus("Pic");
 }
@@ -108,6 +99,15 @@ void View_Reset() {
     Scroll_Guard = true;
     Set_Bar("HScroll", 0);
     Set_Bar("VScroll", 0);
+    Scroll_Guard = false;
+}
+
+// The bars stop at their ends; the pan does not.
+void Scroll_Bars_Follow() {
+    Scroll_Guard = true;
+    Find_Scroll_Ranges();
+    Set_Bar("VScroll", Bar_Value(Pan_Y, Scroll_Range_Y));
+    Set_Bar("HScroll", Bar_Value(Pan_X, Scroll_Range_X));
     Scroll_Guard = false;
 }
 

@@ -78,6 +78,8 @@ Pic_Px Map_To_Pic(Pix P);
 
 /// Zoom 1 at pan 0, both scroll bars at 0, map and grid shown.
 void View_Reset();
+/// Puts the scroll bars where the view is, as far as they reach.
+void Scroll_Bars_Follow();
 /// The map's top left at the canvas's, at zoom 1; scroll bars follow. Run when the map is known.
 void View_Center_Map();
 /// The map point P at the canvas's centre; scroll bars follow.

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr const char* Tools[] = {"Cmd_Sel_Route",     "Cmd_New_Route",     "Cmd_Ins_Pt_Route",
-                                 "Cmd_Sel_Pt_Route",  "Cmd_Extr_Pt_Route", "Cmd_Sup_Route_Ou_Pt",
+constexpr const char* Tools[] = {"Cmd_Sel_Route",    "Cmd_New_Route",     "Cmd_Ins_Pt_Route",
+                                 "Cmd_Sel_Pt_Route", "Cmd_Extr_Pt_Route", "Cmd_Sup_Route_Ou_Pt",
                                  "Cmd_Tabul"};
 
 void Paint() {

@@ -24,6 +24,7 @@
 #include "ui/edit/route_tools.h"
 #include "ui/frm/frm_controls.h"
 #include "ui/frm/frm_keys.h"
+#include "ui/frm/generate.h"
 
 namespace {
 
@@ -65,7 +66,7 @@ constexpr Command Button_Commands[] = {
     {"Cmd_ZPlus", Cmd_ZPlus},   {"Cmd_ZMoins", Cmd_ZMoins},
     {"Cmd_AffBmp", Cmd_AffBmp}, {"Cmd_AffTexture", Cmd_AffTexture},
     {"Cmd_Grid", Cmd_Grid},     {"Cmd_ColourGrid", Cmd_ColourGrid},
-    {"Cmd_FSUIPC", Cmd_FSUIPC}, {"Cmd_API", Cmd_API},
+    {"Cmd_FSUIPC", Cmd_FSUIPC}, {"Cmd_API", Generate_In_View},
     {"Cmd_Help", Cmd_Help},     {"Cmd_Sup_Route_Ou_Pt", Cmd_Sup_Route_Ou_Pt},
     {"Cmd_Tabul", Cmd_Tabul},
 };
@@ -108,6 +109,7 @@ void View_Clear() {
 void Install_View_Calls() {
     The_View.View_Redraw = View_Redraw;
     The_View.View_Reset = View_Reset;
+    The_View.Bars_Follow = Scroll_Bars_Follow;
     The_View.View_Clear = View_Clear;
     The_View.Route_Reset = Route_Reset;
     The_View.Route_Leave = Route_Leave;

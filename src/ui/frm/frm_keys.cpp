@@ -6,10 +6,10 @@
 
 #include "core/model.h"
 #include "core/program.h"
+#include "ui/canvas/view.h"
+#include "ui/edit/modes.h"
 #include "ui/form/form_events.h"
 #include "ui/frm/frm.h"
-#include "ui/edit/modes.h"
-#include "ui/canvas/view.h"
 
 namespace {
 

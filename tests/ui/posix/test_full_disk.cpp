@@ -14,7 +14,8 @@ TEST_F(Full_Disk, LeavesNoTile) {
     Int Error = 0;
     {
         const File_Size_Limit Limit(4'001'077);  // one byte less than a tile
-        Map_Split_Tiles(Frm(), Dir.Path("Map.bmp"), Error);
+        Main_Form_Progress Progress;
+        Map_Split_Tiles(Progress, Dir.Path("Map.bmp"), Error);
     }
     EXPECT_EQ(Error, 1);
     ASSERT_EQ(Host_Of_Test.Boxes.size(), 1u);
