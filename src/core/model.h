@@ -23,7 +23,7 @@ inline constexpr Double No_Alti = -9999.0;
 struct Attr {
     Int Attrib = 0;           // LWM polygon: 0 water, 1 land
     Double Alti = No_Alti;    // metres
-    Int SurfShore = 0;        // 0 polygon, 1 polygon with shore, 2 line or shore, 3 coastline
+    Int SurfShore = 0;        // a Surf_Kind (attr_kinds.h)
     Int Largeur = 64;         // width of a line, metres
     Int LineType = 1024;      // line kind, the code of a row of OwnLines4.txt
     Int LandOnRight = 0;      // land lies right of the drawing direction
@@ -33,7 +33,7 @@ struct Attr {
     std::string Imbrication;  // nesting text of a polygon
     Double Alt_Coast = 0.0;   // altitude of a coastline, metres
     Int Link_Ima = 0;         // Num of the linked Ima, 0 none; always 0 when SurfShore is above 1
-    Int LWM_VTP2 = 0;         // polygon technique: 0 LWM, 1 VTP2, 2 VTP1
+    Int LWM_VTP2 = 0;         // technique of a polygon, a Poly_Technique
     Int LandClass = 0;        // 0 class LC, 1 the textures named below
     Int LC = 135;             // class number of LC.txt
     std::array<std::string, 6> Texture_Name;
@@ -44,7 +44,7 @@ struct Attr {
     Int Vtp1_Line = 0;         // VTP1 line (fan)
     Int Effil_Deb = 0;         // thin the line at its start
     Int Effil_Fin = 0;         // thin the line at its end
-    Int VTP1_SpecNor = 1;      // VTP1 polygon: 0 texture of the linked Ima, 1 normal
+    Int VTP1_SpecNor = 1;      // VTP1 polygon, a Vtp1_Kind
     Int Flip_VTP1Texture = 1;  // flip the VTP1 texture
 
     bool operator==(const Attr&) const = default;
@@ -207,7 +207,7 @@ struct Project_Head {
     Long Map_Height = 0;
     Int Meter_Feet = 0;       // unit of the PtGrid altitudes: 0 metres, 1 feet
     Single Delta_Alt = 0.0F;  // added to every PtGrid altitude
-    Int FS_CFS = 0;           // 0 Flight Simulator, 1 Combat Flight Simulator 2
+    Int FS_CFS = 0;           // a Simulator
     Long Last_Num_Obj = 0;    // last object number given
     Int LodMesh = 2;          // 0 Lod12, 1 Lod11, 2 Lod10, 3 Lod9, 4 Lod8
     Int Mesh_Done = 0;        // the re-mesh dialog was accepted

@@ -5,6 +5,7 @@
 #include <limits>
 #include <utility>
 
+#include "core/attr_kinds.h"
 #include "core/messages.h"
 #include "core/model_changes.h"
 
@@ -169,8 +170,8 @@ void Ima_Delete(Long I) {
         Attr& A = Tab_Obj[K].Attr;
         if (A.Link_Ima != Num) continue;
         A.Link_Ima = 0;
-        A.LWM_VTP2 = 0;
-        A.VTP1_SpecNor = 1;
+        A.LWM_VTP2 = Technique_LWM;
+        A.VTP1_SpecNor = Vtp1_Normal;
     }
     Tab_Ima[I].Active = 0;
 }

@@ -1,6 +1,7 @@
 // core/project_upgrade.cpp - what has changed since version 4.0.
 #include "core/project_upgrade.h"
 
+#include "core/attr_kinds.h"
 #include "core/project_file.h"
 
 namespace {
@@ -16,12 +17,12 @@ Byte Layer_Of_Kind(Int LineType) {
 }  // namespace
 
 void Upgrade_Obj(Attr& A) {
-    if (A.SurfShore < 2 && The_V24.Chk_Change_Layer_Poly) A.Layer_Vtp2 = 17;
+    if (!Is_Open_Line(A) && The_V24.Chk_Change_Layer_Poly) A.Layer_Vtp2 = 17;
     if (The_V24.Chk_Adapt_lines) {
         A.Effil_Deb = 0;
         A.Effil_Fin = 0;
     }
-    if (The_V24.Chk_Change_layer_Line && A.SurfShore != 0) A.Layer = Layer_Of_Kind(A.LineType);
+    if (The_V24.Chk_Change_layer_Line && Has_Line(A)) A.Layer = Layer_Of_Kind(A.LineType);
 }
 
 void Upgrade_Excl(Excl& E) {

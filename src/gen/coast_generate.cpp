@@ -1,6 +1,7 @@
 // gen/coast_generate.cpp - the steps from drawn coastlines to their surfaces.
 #include "gen/coast_generate.h"
 
+#include "core/attr_kinds.h"
 #include "core/host.h"
 #include "shapes/coast/coast_close.h"
 #include "shapes/coast/coast_cut.h"
@@ -10,10 +11,6 @@
 #include "shapes/poly/poly_collect.h"
 
 namespace {
-
-bool Is_Coast(const Attr& A) {
-    return A.SurfShore == 3;
-}
 
 void Make_Surfaces() {
     Line_Collect({.Takes = Is_Coast, .Turns = true});

@@ -6,6 +6,7 @@
 #include <limits>
 #include <unordered_map>
 
+#include "core/attr_kinds.h"
 #include "core/host.h"
 #include "core/messages.h"
 #include "core/model.h"
@@ -67,7 +68,7 @@ bool Any_Polygon_Outside() {
     for (const Ima& M : Tab_Ima.Rows()) By_Num[M.Num].Take(M);
     for (Long I = First_Obj; I <= Nb_Obj; ++I) {
         const Obj& O = Tab_Obj[I];
-        if (O.Attr.SurfShore >= 2 || O.Attr.Link_Ima == 0) continue;
+        if (Is_Open_Line(O.Attr) || O.Attr.Link_Ima == 0) continue;
         const auto Found = By_Num.find(O.Attr.Link_Ima);
         if (Found != By_Num.end() && Any_Outside(O, Found->second)) return true;
     }
@@ -75,8 +76,7 @@ bool Any_Polygon_Outside() {
 }
 
 bool Is_Unlinked_Special(const Obj& O) {
-    const Attr& A = O.Attr;
-    return A.SurfShore < 2 && A.LWM_VTP2 == 2 && A.VTP1_SpecNor == 0 && A.Link_Ima == 0;
+    return Is_Special_Vtp1(O.Attr) && O.Attr.Link_Ima == 0;
 }
 
 bool Special_Polygons_Are_Linked() {
@@ -129,7 +129,7 @@ void Cmd_API() {
     Show_Progress(true);
     Delete_Older_Outputs();
     for (const Emitter& E : The_Emitters)
-        if (!E.FS_Only || FS_CFS == 0) E.Run();
+        if (!E.FS_Only || FS_CFS == For_FS) E.Run();
     The_Host().Set_Pointer(Pointer_Shape::Normal);
     Show_Progress(false);
 }

@@ -6,6 +6,7 @@
 #include <tuple>
 #include <vector>
 
+#include "core/attr_kinds.h"
 #include "core/host.h"
 #include "gen/source_frame.h"
 
@@ -74,7 +75,7 @@ void Write_Cell(Source_File& Out, const Excl_Cell& Cell) {
 
 void Write_Texture(Source_File& Out) {
     Out.Line("        VTPTextureName \"1162\"");
-    if (FS_CFS == 0) Out.Line("        VTPTextureType 2, 0, 0, 4");
+    if (FS_CFS == For_FS) Out.Line("        VTPTextureType 2, 0, 0, 4");
 }
 
 void Write_Source(Source_File& Out, const std::vector<Excl_Area>& Areas) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "core/attr_kinds.h"
 #include "gen/emitter.h"
 #include "gen/line_length.h"
 #include "gen/own_lines.h"
@@ -28,8 +29,6 @@ constexpr Long Long_Form = 31;
 
 // The point that begins a line with widths stands there twice more.
 constexpr Long Width_Points = 2;
-
-constexpr Int Coastline = 3;
 
 void Write_Point(Source_File& Out, VLinePt P, bool Ends) {
     Out.Line("               VTPWidePoint ", P.X, Ends ? ", 1, " : ", 0, ", P.Y, ", 0");
@@ -99,7 +98,7 @@ void Write_Area(Source_File& Out, const VLine_Lists& V, const VLine_Lists::VCell
 }
 
 void Write_Texture(Source_File& Out, const Own_Lines& Own, Int LineType) {
-    if (FS_CFS == 1) {
+    if (FS_CFS == For_CFS) {
         Out.Line("        VTPTextureName \"", Own.Line_First_Texture(LineType), "\"");
         return;
     }
@@ -137,11 +136,10 @@ bool Line_Write_Asm(const std::string& Path, const VLine_Lists& V) {
 // Whether the source has been written.
 bool Convert(const std::string& Path) {
     const Work_Lists_Scope Lists;
-    Line_Collect(
-        {.Takes = [](const Attr& A) { return A.SurfShore != 0 && A.Vtp1_Line != 1; },
-         .May_Close = [](const Attr& A) { return A.SurfShore != Coastline && !Is_Bare_Line(A); },
-         .Has_Tags = true,
-         .Turns = true});
+    Line_Collect({.Takes = [](const Attr& A) { return Has_Line(A) && A.Vtp1_Line != 1; },
+                  .May_Close = [](const Attr& A) { return !Is_Coast(A) && !Is_Bare_Line(A); },
+                  .Has_Tags = true,
+                  .Turns = true});
     if (Nb_WPoly == 0 || !Can_Convert()) return false;
     Line_Cut({.Grid = Grid_Lines_Of(Lines_By_Area),
               .Tags_Cuts = true,

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "core/attr_kinds.h"
 #include "core/host.h"
 #include "gen/coast_generate.h"
 #include "gen/emit_lines.h"
@@ -14,9 +15,6 @@
 #include "shapes/poly/poly_prepare.h"
 
 namespace {
-
-constexpr Int Mode_LWM = 0;
-constexpr Int Technique_LWM = 0;
 
 // Mask value of a list that draws on whatever lies below it.
 constexpr Int Mask_Polygon = 3;
@@ -39,7 +37,7 @@ private:
 };
 
 void Write_Head(Source_File& Out, Long Nb, Int Attrib, Double Alti) {
-    if (FS_CFS == 1) {
+    if (FS_CFS == For_CFS) {
         Out.Line("          LWMPoly1 ", Nb, ",0,", Attrib);
         if (Nb > Max_Short_Poly) Plain_Box("LWM poly/CFS : more than 62 points");
         return;
@@ -66,7 +64,7 @@ void Block_Writer::Write_Fill(const LSub& B) {
     const char* Gap = B.Size > 1 ? "0," : "";
     Out.Line("      LWMDataAreaFill", B.Size, "x", B.Size, "        0,", B.Fill, ",", Gap, "1,",
              B.SubX, ",", Gap, B.SubY);
-    if (FS_CFS != 0 || B.Size != 1 || B.Cell_Ix == -1 || B.Fill == Fill_Land) return;
+    if (FS_CFS != For_FS || B.Size != 1 || B.Cell_Ix == -1 || B.Fill == Fill_Land) return;
     const Height H = Height_Pair(Cells[B.Cell_Ix].Alti);
     Out.Line("      LWMDataAreaHeight        ", H.H_Int, ",", H.H_Frac);
 }
@@ -108,7 +106,7 @@ bool Write_Data(Source_File& Out, const Lwm_Lists& Lists) {
         Lwm_Blocks(Lists.Areas[I], Lists.Cells, Blocks);
         for (const LSub& B : Blocks) Writer.Write(B);
     };
-    Lwm_Skeleton(Out, FS_CFS == 1 ? Lwm_Version_CFS : Lwm_Version_FS, Index, Write_Area);
+    Lwm_Skeleton(Out, FS_CFS == For_CFS ? Lwm_Version_CFS : Lwm_Version_FS, Index, Write_Area);
     return Writer.Wrote;
 }
 

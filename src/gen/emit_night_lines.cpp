@@ -6,6 +6,7 @@
 #include <tuple>
 #include <vector>
 
+#include "core/attr_kinds.h"
 #include "core/host.h"
 #include "gen/emitter.h"
 #include "gen/night_offset.h"
@@ -17,8 +18,6 @@
 #include "shapes/line/line_cut.h"
 
 namespace {
-
-constexpr Int Coastline = 3;
 
 // The lights stand on so much of a road's width.
 constexpr Double Lit_Width = 0.66;
@@ -173,8 +172,8 @@ void Night_Lines_Generate() {
     if (Nb_Obj < First_Obj) return;
     Show_Stage("Night Lines", "BGLC.exe");
     const Work_Lists_Scope Lists;
-    Line_Collect({.Takes = [](const Attr& A) { return A.SurfShore != 0 && A.Line_Night != 0; },
-                  .May_Close = [](const Attr& A) { return A.SurfShore != Coastline; }});
+    Line_Collect({.Takes = [](const Attr& A) { return Has_Line(A) && A.Line_Night != 0; },
+                  .May_Close = [](const Attr& A) { return !Is_Coast(A); }});
     if (Nb_WPoly == 0 || !Can_Convert()) return;
     Line_Cut({.Grid = Grid_Lines_Of(Lines_By_Half_Lod10)});
     Night_Write_All();

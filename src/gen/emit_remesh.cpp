@@ -5,6 +5,7 @@
 #include <tuple>
 #include <vector>
 
+#include "core/attr_kinds.h"
 #include "core/host.h"
 #include "gen/emitter.h"
 #include "gen/lwm_text.h"
@@ -48,7 +49,7 @@ bool Any_Live() {
 }
 
 Double Metres(const PtGrid& P) {
-    if (Meter_Feet == 1) return P.Alt / Feet_A_Metre;
+    if (Meter_Feet == In_Feet) return P.Alt / Feet_A_Metre;
     return static_cast<Double>(Delta_Alt) + P.Alt;
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "core/attr_kinds.h"
 #include "core/host.h"
 #include "gen/emitter.h"
 #include "gen/source_frame.h"
@@ -11,9 +12,6 @@
 #include "shapes/poly/poly_prepare.h"
 
 namespace {
-
-constexpr Int Mode_VTP2 = 2;
-constexpr Int Technique_VTP2 = 1;
 
 // A data area of the file holds at most this many layers; the lowest win.
 constexpr Long Max_Layers = 31;

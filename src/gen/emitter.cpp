@@ -1,6 +1,7 @@
 // gen/emitter.cpp - what emitters ask before they begin, and how they end.
 #include "gen/emitter.h"
 
+#include "core/attr_kinds.h"
 #include "core/messages.h"
 #include "core/model.h"
 #include "gen/source_frame.h"
@@ -9,8 +10,7 @@
 bool Any_Polygon(Int Technique) {
     for (Long I = First_Obj; I <= Nb_Obj; ++I) {
         const Obj& O = Tab_Obj[I];
-        const bool Polygon = O.Attr.SurfShore == 0 || O.Attr.SurfShore == 1;
-        if (Polygon && O.Attr.LWM_VTP2 == Technique && O.Nb_Pts >= 2) return true;
+        if (Is_Polygon(O.Attr) && O.Attr.LWM_VTP2 == Technique && O.Nb_Pts >= 2) return true;
     }
     return false;
 }

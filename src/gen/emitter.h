@@ -17,7 +17,7 @@ public:
     Work_Lists_Scope& operator=(const Work_Lists_Scope&) = delete;
 };
 
-/// Whether the project has a polygon of two points or more of a technique (LWM_VTP2).
+/// Whether the project has a polygon of two points or more of a Poly_Technique.
 bool Any_Polygon(Int Technique);
 
 /// Whether map pixels can be converted to cells. Message 7 when the calibration does not allow

@@ -3,14 +3,12 @@
 
 #include <algorithm>
 
+#include "core/attr_kinds.h"
 #include "shapes/line/line_cut.h"
 
 namespace {
 
 constexpr Long Longest = 279;
-
-// Shores of polygons are not divided.
-constexpr Int First_Line = 2;
 
 void Divide(Long Poly) {
     const WPoly W = Tab_WPoly[Poly];
@@ -23,8 +21,9 @@ void Divide(Long Poly) {
     }
 }
 
+// Shores of polygons are not divided.
 bool Is_Too_Long(const WPoly& W) {
-    return W.Attr->SurfShore >= First_Line && W.Nb > Longest;
+    return Is_Open_Line(*W.Attr) && W.Nb > Longest;
 }
 
 }  // namespace

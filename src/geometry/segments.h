@@ -81,10 +81,13 @@ inline bool In_Span(Double V, Double A, Double B) {
     return std::min(A, B) <= V && V <= std::max(A, B);
 }
 
-/// The same for two segments: 0 parallel, 1 they miss, 2 they cross, 3 they touch at an X that
-/// is an end of both. At is the meeting point of the lines, unless Code is 0.
+/// How two segments meet, from the least to the most.
+enum class Meet { Parallel, Miss, Cross, End };
+
+/// The same for two segments: with Meet::End they touch at an X that is an end of both. At is the
+/// meeting point of the lines, unless they are parallel.
 struct Seg_Meet {
-    Int Code = 0;
+    Meet Code = Meet::Parallel;
     Pix At;
 };
 
@@ -94,7 +97,7 @@ inline Seg_Meet Seg_Cross(Pix P1, Pix P2, Pix P3, Pix P4) {
     const auto [xi, yi] = M.At;
     if (!In_Span(xi, P1.X, P2.X) || !In_Span(xi, P3.X, P4.X) || !In_Span(yi, P1.Y, P2.Y) ||
         !In_Span(yi, P3.Y, P4.Y))
-        return {1, M.At};
+        return {Meet::Miss, M.At};
     const bool Shared_End = (xi == P1.X || xi == P2.X) && (xi == P3.X || xi == P4.X);
-    return {static_cast<Int>(Shared_End ? 3 : 2), M.At};
+    return {Shared_End ? Meet::End : Meet::Cross, M.At};
 }

@@ -34,11 +34,6 @@ inline constexpr Grid_Walk Lines_By_Half_Lod10{Lod10_StepLat, Lod10_StepLon, 408
 /// No lines without a work grid that can serve.
 Grid_Lines Grid_Lines_Of(const Grid_Walk& Walk);
 
-/// For polygons: Mode 2 is the Area grid, any other the Cell grid.
-inline Grid_Lines Grid_Lines_Of(Int Mode) {
-    return Grid_Lines_Of(Mode == 2 ? Polys_By_Area : Polys_By_Cell);
-}
-
 /// The places, from 0, of the lines from Low to High, ends included.
 struct Line_Range {
     std::size_t First = 0, End = 0;

@@ -232,7 +232,7 @@ Outline Closed_Outside(Outline Line, Double From, Double To) {
 bool Has_No_Crossing(const Outline& Line) {
     for (std::size_t I = 1; I < Line.size(); ++I)
         for (std::size_t J = I + 2; J < Line.size(); ++J)
-            if (Seg_Cross(Line[I - 1], Line[I], Line[J - 1], Line[J]).Code > 1) return false;
+            if (Seg_Cross(Line[I - 1], Line[I], Line[J - 1], Line[J]).Code >= ::Meet::Cross) return false;
     return true;
 }
 

@@ -52,7 +52,7 @@ public:
 
     bool Crosses(Long E, Pix A, Pix B) const {
         return Next_[Ix(E)] >= 0 &&
-               Seg_Cross(Line_[Ix(E)], Line_[Ix(Next_[Ix(E)])], A, B).Code == 2;
+               Seg_Cross(Line_[Ix(E)], Line_[Ix(Next_[Ix(E)])], A, B).Code == Meet::Cross;
     }
 
     // The edges found, of which none may be gone.

@@ -75,14 +75,14 @@ TEST(Segments, ParallelLinesDoNotMeet) {
 
 TEST(Segments, CodesOfSegments) {
     const auto Code = [](Pix P1, Pix P2, Pix P3, Pix P4) { return Seg_Cross(P1, P2, P3, P4).Code; };
-    EXPECT_EQ(Code({0, 0}, {4, 2}, {0, 1}, {4, 3}), 0);
-    EXPECT_EQ(Code({0, 0}, {8, 8}, {8, 0}, {5, 3}), 1) << "the second stops short in X";
-    EXPECT_EQ(Code({0, 0}, {2, 2}, {8, 0}, {0, 8}), 1) << "the first does";
-    EXPECT_EQ(Code({0, 0}, {8, 8}, {4, 5}, {4, 9}), 1) << "missed in Y alone";
-    EXPECT_EQ(Code({0, 0}, {8, 8}, {8, 0}, {0, 8}), 2);
-    EXPECT_EQ(Code({0, 0}, {8, 8}, {4, 4}, {8, 0}), 2) << "an end on the other's inside crosses";
-    EXPECT_EQ(Code({0, 0}, {4, 4}, {4, 4}, {8, 0}), 3);
-    EXPECT_EQ(Code({0, 0}, {4, 4}, {4, 0}, {4, 9}), 3) << "touch: X is an end of both";
+    EXPECT_EQ(Code({0, 0}, {4, 2}, {0, 1}, {4, 3}), Meet::Parallel);
+    EXPECT_EQ(Code({0, 0}, {8, 8}, {8, 0}, {5, 3}), Meet::Miss) << "the second stops short in X";
+    EXPECT_EQ(Code({0, 0}, {2, 2}, {8, 0}, {0, 8}), Meet::Miss) << "the first does";
+    EXPECT_EQ(Code({0, 0}, {8, 8}, {4, 5}, {4, 9}), Meet::Miss) << "missed in Y alone";
+    EXPECT_EQ(Code({0, 0}, {8, 8}, {8, 0}, {0, 8}), Meet::Cross);
+    EXPECT_EQ(Code({0, 0}, {8, 8}, {4, 4}, {8, 0}), Meet::Cross) << "an end on the other's inside crosses";
+    EXPECT_EQ(Code({0, 0}, {4, 4}, {4, 4}, {8, 0}), Meet::End);
+    EXPECT_EQ(Code({0, 0}, {4, 4}, {4, 0}, {4, 9}), Meet::End) << "touch: X is an end of both";
 }
 
 }  // namespace

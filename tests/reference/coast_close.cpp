@@ -198,7 +198,7 @@ bool Closing::Is_Rejected(Pix Q) const {
         if (Same_Place(Q, At(i))) return true;
         if (i + 1 == Last) continue;
         if (Same_Place(Q, At(i + 1))) return true;
-        if (Seg_Cross(B().At, Q, At(i), At(i + 1)).Code > 1) return true;
+        if (Seg_Cross(B().At, Q, At(i), At(i + 1)).Code >= Meet::Cross) return true;
     }
     return false;
 }
@@ -233,11 +233,11 @@ bool Closing::Is_Connector_Free() const {
     const Pix a = A().At;
     for (Long i = 2; i <= Last; ++i)
         if (Is_On_The_Way(At(i), a, Pos)) return false;
-    if (Seg_Cross(a, Pos, B().At, Cur).Code > 1) return false;
+    if (Seg_Cross(a, Pos, B().At, Cur).Code >= Meet::Cross) return false;
     for (Long i = 2; i < Last; ++i) {
         if (Same_Place(Pos, At(i))) return false;
         if (i + 1 != Last && Same_Place(Pos, At(i + 1))) return false;
-        if (Seg_Cross(a, Pos, At(i), At(i + 1)).Code > 1) return false;
+        if (Seg_Cross(a, Pos, At(i), At(i + 1)).Code >= Meet::Cross) return false;
     }
     return true;
 }

@@ -41,7 +41,7 @@ void Line_Pass(Cut Seg_Cut) {
         Copy_Line(W);
         for (Long i = W.First; i < W.Last; ++i) {
             const ::Seg_Cut C = Seg_Cut(Pix_Of(Tab_WPt[i]), Pix_Of(Tab_WPt[i + 1]));
-            if (C.Code != 2) continue;
+            if (C.Code != Meet::Cross) continue;
             Insert(i + 1 + Inserted, C.At);
             ++Inserted;
         }

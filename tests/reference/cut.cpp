@@ -14,7 +14,7 @@ namespace {
 struct CutPt {
     Long From_Ix = 0;
     Long To_Ix = 0;
-    Int Code = 0;
+    Meet Code = Meet::Parallel;
     Pix At;
 };
 
@@ -55,10 +55,10 @@ Long Next(const WPoly& W, Long I) {
 Seg_Meet Seg_Cut(Pix P1, Pix P2, const Line& L) {
     const Double v1 = L.Of(P1), v2 = L.Of(P2);
     if (v1 == v2) return {};
-    if (L.Holds(P1)) return {3, P1};
-    if (L.Holds(P2)) return {3, P2};
+    if (L.Holds(P1)) return {Meet::End, P1};
+    if (L.Holds(P2)) return {Meet::End, P2};
     const bool Between = (v1 < L.Where && L.Where < v2) || (v2 < L.Where && L.Where < v1);
-    return {static_cast<Int>(Between ? 2 : 1), L.Cross(P1, P2).At};
+    return {Between ? Meet::Cross : Meet::Miss, L.Cross(P1, P2).At};
 }
 
 bool Is_Found_Already(const std::vector<CutPt>& Cuts, const CutPt& New, const Line& L) {
@@ -78,9 +78,9 @@ std::vector<CutPt> Find_Cuts(const WPoly& W, const Line& L) {
     for (Long i = W.First; i <= Last_Edge; ++i) {
         const Long j = Next(W, i);
         const Seg_Meet M = Seg_Cut(At(i), At(j), L);
-        if (M.Code == 0 || M.Code == 1) continue;
+        if (M.Code < Meet::Cross) continue;
         const CutPt New{i, j, M.Code, M.At};
-        if (Cuts.empty() || M.Code == 2 || !Is_Found_Already(Cuts, New, L)) Cuts.push_back(New);
+        if (Cuts.empty() || M.Code == Meet::Cross || !Is_Found_Already(Cuts, New, L)) Cuts.push_back(New);
     }
     return Cuts;
 }
@@ -152,9 +152,9 @@ std::vector<CutPt> Find_Passages(const WPoly& W, const Line& L) {
         if (L.Side(At(i)) != L.Side(At(j))) {
             const Long Neighbour = Next(W, i);
             if (Neighbour == j)
-                Passages.push_back({i, j, 2, L.Cross(At(i), At(j)).At});
+                Passages.push_back({i, j, Meet::Cross, L.Cross(At(i), At(j)).At});
             else
-                Passages.push_back({i, Neighbour, 3, At(Neighbour)});
+                Passages.push_back({i, Neighbour, Meet::End, At(Neighbour)});
         }
         i = j;
     } while (i != Start);
@@ -196,7 +196,7 @@ bool Cut_One(Long K, const Line& L) {
     }
     if (Cuts.size() == 2)
         Add_Dec_2Poly(W, Cuts);
-    else if (Cuts.size() == 1 && W.Nb == 2 && Cuts[0].Code == 2)
+    else if (Cuts.size() == 1 && W.Nb == 2 && Cuts[0].Code == Meet::Cross)
         Split_Two_Points(W, Cuts[0]);
     else
         Copy_Run(K, 1, W.Nb - 1);

@@ -91,13 +91,13 @@ struct Grid_Line {
 
 Seg_Meet Cut_Segment(const WPt& P1, const WPt& P2, const Grid_Line& L) {
     const Double v1 = L.Row ? P1.Y : P1.X, v2 = L.Row ? P2.Y : P2.X;
-    if (v1 == v2) return {0, {}};
-    if (v1 - L.Tol <= L.At && L.At <= v1 + L.Tol) return {3, Pix_Of(P1)};
-    if (v2 - L.Tol <= L.At && L.At <= v2 + L.Tol) return {3, Pix_Of(P2)};
+    if (v1 == v2) return {};
+    if (v1 - L.Tol <= L.At && L.At <= v1 + L.Tol) return {Meet::End, Pix_Of(P1)};
+    if (v2 - L.Tol <= L.At && L.At <= v2 + L.Tol) return {Meet::End, Pix_Of(P2)};
     const Line_Meet M = L.Row ? Line_Cross(Pix_Of(P1), Pix_Of(P2), {-100, L.At}, {100, L.At})
                               : Line_Cross(Pix_Of(P1), Pix_Of(P2), {L.At, -100}, {L.At, 100});
-    if ((v1 < L.At && L.At < v2) || (v2 < L.At && L.At < v1)) return {2, M.At};
-    return {1, {}};
+    if ((v1 < L.At && L.At < v2) || (v2 < L.At && L.At < v1)) return {Meet::Cross, M.At};
+    return {Meet::Miss, {}};
 }
 
 void Emit_Piece(Long Poly, Long First, Long Last) {
@@ -120,13 +120,13 @@ void Walk(Long Poly, const Grid_Line& L, bool Tags_Cuts) {
     while (true) {
         const Long j = i + 1;
         const Seg_Meet M = Cut_Segment(Tab_WPt[i], Tab_WPt[j], L);
-        if (M.Code == 3 && !(M.At == Pix_Of(Tab_WPt[i]) && i == Start)) {
+        if (M.Code == Meet::End && !(M.At == Pix_Of(Tab_WPt[i]) && i == Start)) {
             Emit_Piece(Poly, Start, j);
             if (j == Last) return;
             Start = i = j;
             continue;
         }
-        if (M.Code == 2) {
+        if (M.Code == Meet::Cross) {
             Emit_Piece_Pt(Poly, Start, i, M.At);
             Start = i;
             Tab_WPt[i].X = M.At.X;

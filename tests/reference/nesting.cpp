@@ -108,11 +108,11 @@ void List_Polygons() {
 bool Polygons_Cross(const PolyRef& A, const PolyRef& B) {
     for (Long i = A.First_Vtx; i <= A.Last_Vtx; ++i)
         for (Long j = B.First_Vtx; j <= B.Last_Vtx; ++j) {
-            const Int Code =
+            const Meet Code =
                 Seg_Cross(Sorted_Pix(Tab_Sorted, i), Sorted_Pix(Tab_Sorted, Next_Vtx(A, i)),
                           Sorted_Pix(Tab_Sorted, j), Sorted_Pix(Tab_Sorted, Next_Vtx(B, j)))
                     .Code;
-            if (Code == 2 || Code == 3) return true;
+            if (Code >= Meet::Cross) return true;
         }
     return false;
 }

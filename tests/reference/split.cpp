@@ -50,7 +50,7 @@ bool Diag_Crosses(const WPoly& W, Long a, Long b) {
     for (Long I = b; I != a; I = Next(W, I)) {
         const Long J = Next(W, I);
         if (I == a || I == b || J == a || J == b) continue;
-        if (Seg_Cross(At(I), At(J), At(a), At(b)).Code == 2) return true;
+        if (Seg_Cross(At(I), At(J), At(a), At(b)).Code == Meet::Cross) return true;
     }
     return false;
 }
@@ -70,7 +70,7 @@ bool Vertex_In_Run(const WPoly& W, Long a, Long v, Long b, Long& Size) {
     bool Above = false, Below = false;
     const auto Note = [&](Long I, Long J) {
         const Seg_Meet M = Seg_Cross(Top, Bottom, At(I), At(J));
-        if (M.Code != 2 && M.Code != 3) return;
+        if (M.Code < Meet::Cross) return;
         if (M.At.Y < At(v).Y) Above = true;
         if (M.At.Y > At(v).Y) Below = true;
     };

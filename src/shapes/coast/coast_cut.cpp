@@ -36,7 +36,7 @@ void Add_Crossings(std::span<const Double> Lines, Double Tol, Pix A, Pix B, std:
     const Line_Range Range = Lines_Between(Lines, std::min(From, To), std::max(From, To));
     for (std::size_t K = Range.First; K < Range.End; ++K) {
         const Seg_Cut C = Axis::Cut(A, B, Lines[K], Tol);
-        if (C.Code != 2) continue;
+        if (C.Code != Meet::Cross) continue;
         Out.push_back(C.At);
         (From < To ? A : B) = C.At;
     }

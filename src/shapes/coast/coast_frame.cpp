@@ -73,7 +73,7 @@ bool Is_Free(const Frame_Side& Side, Pix From, Pix To, std::span<const CoastLoc>
         Box_Pix Segment;
         Segment.Add(P);
         Segment.Add(Next);
-        if (Box.Meets(Segment) && Seg_Cross(From, To, P, Next).Code > 1) return false;
+        if (Box.Meets(Segment) && Seg_Cross(From, To, P, Next).Code >= Meet::Cross) return false;
     }
     return true;
 }
@@ -165,7 +165,7 @@ bool Frame_Walk::Comes_To_Start(bool& On_Side) {
 bool Frame_Walk::Leaves() {
     if (!Side_.Is_Joined(Start_)) return false;
     const Pix Foot = Side_.Foot(Pos_, Start_.At);
-    if (Seg_Cross(Start_.At, Foot, End_.At, Cur_).Code > 1) return false;
+    if (Seg_Cross(Start_.At, Foot, End_.At, Cur_).Code >= Meet::Cross) return false;
     if (!Is_Free(Side_, Start_.At, Foot, Line_.subspan(1))) return false;
     if (Side_.Cmp_Across(Cur_, Pos_) == 0 && Side_.Cmp_Along(Cur_, Foot) != -Ahead()) return false;
     Way_.push_back(Foot);

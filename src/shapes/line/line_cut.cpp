@@ -120,12 +120,12 @@ void Line_Cutter::Cut_Segment(const Axis& A, std::span<const Double> Lines, cons
     WPt P1 = From.P, P2 = To.P;
     for (const Double Line : Lines) {
         const Seg_Cut C = A.Cut(P1, P2, Line);
-        if (C.Code == 2) {
+        if (C.Code == Meet::Cross) {
             const Byte Tag = Rule_.Tags_Cuts ? Tag_Cut : P1.Tag;
             const WPt At{.X = C.At.X, .Y = C.At.Y, .Tag = Tag};
             With_Cuts_.push_back({At, Tag_Cut, true});
             (Ascends ? P1 : P2) = At;
-        } else if (C.Code == 3) {
+        } else if (C.Code == Meet::End) {
             // Where a cut stands before To, a piece has begun already.
             const bool Is_Whole = To_Pix(P2) == To_Pix(To.P);
             const bool Just_Begun = From.Begins && C.At == To_Pix(From.P);

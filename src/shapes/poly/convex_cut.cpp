@@ -21,18 +21,18 @@ int Side_Of(Double V, Double Line, Double Tol) {
 // points of it. The meeting point is worked out only where it has a use.
 Seg_Cut Cut_Segment(Pix P1, Pix P2, Double V1, Double V2, Double Line, Double Tol, Pix L1, Pix L2) {
     if (V1 == V2) return {};
-    if (Is_On(V1, Line, Tol)) return {3, P1};
-    if (Is_On(V2, Line, Tol)) return {3, P2};
+    if (Is_On(V1, Line, Tol)) return {Meet::End, P1};
+    if (Is_On(V2, Line, Tol)) return {Meet::End, P2};
     const bool Between = (V1 < Line && Line < V2) || (V2 < Line && Line < V1);
-    if (!Between) return {1, {}};
-    return {2, Line_Cross(P1, P2, L1, L2).At};
+    if (!Between) return {Meet::Miss, {}};
+    return {Meet::Cross, Line_Cross(P1, P2, L1, L2).At};
 }
 
 // A place where the polygon meets the line, on the edge between two of its points.
 struct CutPt {
     std::size_t From_Ix = 0;
     std::size_t To_Ix = 0;
-    Int Code = 0;
+    Meet Code = Meet::Parallel;
     Pix At;
 };
 
@@ -57,7 +57,7 @@ public:
             Dec_2Poly(Two);
             return Cut_Result::Two;
         }
-        if (Nb_Cut_ == 0 || P_.size() != 2 || Cut_[0].Code != 2) return Cut_Result::Whole;
+        if (Nb_Cut_ == 0 || P_.size() != 2 || Cut_[0].Code != Meet::Cross) return Cut_Result::Whole;
         Two.Stack.insert(Two.Stack.end(), {Cut_[0].At, P_[1], P_[0], Cut_[0].At});
         Two.Nb_Second = Two.Nb_First = 2;
         return Cut_Result::Two;
@@ -84,7 +84,7 @@ private:
         }
         for (std::size_t K = 0; K < Nb; ++K) {
             const std::size_t I = Edge[K], J = Next(I);
-            Cut_[K] = {I, J, 2, A_.Cross(P_[I], P_[J], Line_)};
+            Cut_[K] = {I, J, Meet::Cross, A_.Cross(P_[I], P_[J], Line_)};
         }
         Nb_Cut_ = Nb;
         return true;
@@ -108,9 +108,9 @@ private:
         for (std::size_t I = 0; I < Nb_Edge && Nb_Cut_ < Cut_.size(); ++I) {
             const std::size_t J = Next(I);
             const Seg_Cut S = A_.Cut(P_[I], P_[J], Line_);
-            if (S.Code < 2) continue;
+            if (S.Code < Meet::Cross) continue;
             const CutPt C{I, J, S.Code, S.At};
-            if (S.Code == 2 || !Is_Found(C)) Cut_[Nb_Cut_++] = C;
+            if (S.Code == Meet::Cross || !Is_Found(C)) Cut_[Nb_Cut_++] = C;
         }
     }
 
@@ -156,9 +156,9 @@ private:
                 if (Nb == Passage.size()) return;
                 const std::size_t N = Next(I);
                 if (N == J)
-                    Passage[Nb++] = {I, J, 2, A_.Cross(P_[I], P_[J], Line_)};
+                    Passage[Nb++] = {I, J, Meet::Cross, A_.Cross(P_[I], P_[J], Line_)};
                 else
-                    Passage[Nb++] = {I, N, 3, P_[N]};
+                    Passage[Nb++] = {I, N, Meet::End, P_[N]};
             }
             I = J;
         } while (I != Start);

@@ -149,7 +149,8 @@ public:
     Any_Pair(const Edge_Tree& A, const Edge_Tree& B) : A_(A), B_(B) {}
     bool Skips(Long) const { return Found; }
     void operator()(Long I, Long J) {
-        if (!Found) Found = Seg_Cross(A_.From(I), A_.To(I), B_.From(J), B_.To(J)).Code >= 2;
+        if (!Found)
+            Found = Seg_Cross(A_.From(I), A_.To(I), B_.From(J), B_.To(J)).Code >= Meet::Cross;
     }
     bool Found = false;
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/attr_kinds.h"
 #include "core/messages.h"
 #include "core/model.h"
 #include "core/number_text.h"
@@ -16,9 +17,10 @@
 namespace {
 
 bool Is_Taken(const Obj& O, Int Mode) {
-    const int Technique = Mode == 0 ? 0 : Mode == 1 ? 2 : 1;
-    return (O.Attr.SurfShore == 0 || O.Attr.SurfShore == 1) && O.Nb_Pts >= 2 &&
-           O.Attr.LWM_VTP2 == Technique;
+    const Int Technique = Mode == Mode_LWM    ? Technique_LWM
+                          : Mode == Mode_VTP1 ? Technique_VTP1
+                                              : Technique_VTP2;
+    return Is_Polygon(O.Attr) && O.Nb_Pts >= 2 && O.Attr.LWM_VTP2 == Technique;
 }
 
 // An outline goes on at its first point, which may be in line with its neighbours as well.

@@ -6,9 +6,12 @@
 #include "geo/calibration.h"
 #include "shapes/poly/work_lists.h"
 
-/// Fills Tab_WPoly and Tab_WPt with the model's polygons of a technique (Mode as in
-/// Poly_Prepare). Repeated points and points in line are dropped, and outlines of 3 points or
-/// more run clockwise; what keeps fewer than 2 points is left out.
+/// What is made of the drawn polygons. The third technique has shorter pieces and no output.
+enum Poly_Mode : Int { Mode_LWM = 0, Mode_VTP1 = 1, Mode_VTP2 = 2 };
+
+/// Fills Tab_WPoly and Tab_WPt with the model's polygons of a technique. Repeated points and points
+/// in line are dropped, and outlines of 3 points or more run clockwise; what keeps fewer than 2
+/// points is left out.
 void Poly_Collect(Int Mode);
 
 /// 1 when the outline already runs clockwise on the map. Needs a point or more.

@@ -12,6 +12,7 @@
 #include "grid/grid_lines.h"
 #include "shapes/poly/convex_cut.h"
 #include "shapes/poly/cut_view.h"
+#include "shapes/poly/poly_collect.h"
 
 namespace {
 
@@ -153,7 +154,7 @@ void Show_Pieces() {
 void Poly_Cut_Cells(Int Mode) {
     The_Host().Set_Caption("LCompileNom", "Lod8/13 cut");
     The_Host().Refresh();
-    const Grid_Lines Lines = Grid_Lines_Of(Mode);
+    const Grid_Lines Lines = Grid_Lines_Of(Mode == Mode_VTP2 ? Polys_By_Area : Polys_By_Cell);
     std::size_t End_Pass = No_Pass;
     for (std::size_t Failed = 0; (Failed = Cut_All(Lines, End_Pass)) != No_Pass;) End_Pass = Failed;
     WPoly_Commit();

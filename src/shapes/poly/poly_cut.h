@@ -7,14 +7,14 @@
 #include "geometry/segments.h"
 #include "shapes/poly/work_lists.h"
 
-/// Where a segment meets a grid line. Code 0: it is parallel to it; 1: no meeting, At has no use;
-/// 2: it crosses the line at At; 3: the line runs through an end, which is At.
+/// Where a segment meets a grid line. With Meet::Miss At has no use; with Meet::End the line
+/// runs through an end, which is At.
 using Seg_Cut = Seg_Meet;
 Seg_Cut Seg_Cut_Horiz(Pix P1, Pix P2, Double Line_Y, Double Tol);
 Seg_Cut Seg_Cut_Vert(Pix P1, Pix P2, Double Line_X, Double Tol);
 
 /// Replaces the polygons of Tab_WPoly by pieces that lie in one cell each, first along all
-/// parallels, then along all meridians; Mode 2 is the Area grid, any other the Cell grid. Pieces
+/// parallels, then along all meridians; Mode_VTP2 is the Area grid, any other the Cell grid. Pieces
 /// keep their polygon's place in the list and its values. A polygon that a line would cut more
 /// than twice ends the cutting with a message box: the lists are then as after the line before.
 void Poly_Cut_Cells(Int Mode);

@@ -10,14 +10,14 @@
 #include "shapes/poly/poly_split.h"
 #include "shapes/poly/work_lists.h"
 
-/// Fills Tab_WPoly and Tab_WPt with the final pieces of the polygons of a technique: 0 mask
-/// polygons on the Cell grid, 2 textured polygons on the Area grid, 1 the third technique. When
+/// Fills Tab_WPoly and Tab_WPt with the final pieces of the polygons of a Poly_Mode: mask
+/// polygons on the Cell grid, textured polygons on the Area grid. When
 /// an outline crosses itself (message 121) or two cross each other (message 122), or when there
 /// are none, Has_Imbric and Has_Auto are both 0.
 void Poly_Prepare(Int Mode);
 
-/// Gives each piece of Tab_WPoly its cell, its points their local coordinates (Mode 2 those of
-/// the Area), drops pieces that have shrunk to nothing, and sorts: cells from north to south and
+/// Gives each piece of Tab_WPoly its cell, its points their local coordinates (Mode_VTP2: those
+/// of the Area), drops pieces that have shrunk to nothing, and sorts: cells from north to south and
 /// from west to east, nesting groups inside a cell, outermost polygons first. Fills Tab_CPoly and
 /// Tab_CPt and empties Tab_WPoly and Tab_WPt.
 void Poly_To_Cells(Int Mode);

@@ -87,7 +87,7 @@ void Sort_By_Cell(Table<CPoly>& Polys) {
 
 void Poly_To_Cells_Into(Int Mode, Table<CPoly>& Polys, Table<CPt>& Places,
                         bool (*Drops)(std::span<const CPt>)) {
-    const bool By_Area = Mode == 2;
+    const bool By_Area = Mode == Mode_VTP2;
     Polys.Reserve(Nb_WPoly);
     Places.Reserve(Nb_WPt);
     const std::span<const WPt> All = Tab_WPt.Rows();

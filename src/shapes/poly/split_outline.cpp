@@ -52,7 +52,7 @@ Long Split_Outline::Crossed_Edge(Long A, Long B) const {
     const Pix From = At(A), To = At(B);
     Long Found = None;
     Boxes_.Any_Near(From, To, Size_, {Before, B + 1}, [&](Long E) {
-        if (Seg_Cross(At(E), At(Next(E)), From, To).Code == 2) Found = E;
+        if (Seg_Cross(At(E), At(Next(E)), From, To).Code == Meet::Cross) Found = E;
         return Found >= 0;
     });
     return Found;
