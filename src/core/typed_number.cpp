@@ -1,0 +1,61 @@
+// core/typed_number.cpp - typed text into numbers, all of it or nothing.
+#include "core/typed_number.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/number_text.h"
+#include "platform/text1252.h"
+
+namespace {
+
+// Takes the digits at the head of Text off it, and says how many there were.
+std::size_t Cut_Digits(std::string_view& Text) {
+    const auto Behind =
+        std::find_if(Text.begin(), Text.end(), [](char C) { return C < '0' || C > '9'; });
+    const auto Nb = static_cast<std::size_t>(Behind - Text.begin());
+    Text.remove_prefix(Nb);
+    return Nb;
+}
+
+// Takes one of Chars off the head of Text, if one is there.
+bool Cut_One_Of(std::string_view& Text, std::string_view Chars) {
+    if (Text.empty() || Chars.find(Text.front()) == std::string_view::npos) return false;
+    Text.remove_prefix(1);
+    return true;
+}
+
+bool Is_Number(std::string_view Text) {
+    Cut_One_Of(Text, "+-");
+    std::size_t Digits = Cut_Digits(Text);
+    if (Cut_One_Of(Text, ".")) Digits += Cut_Digits(Text);
+    if (Digits == 0) return false;
+    if (Cut_One_Of(Text, "eE")) {
+        Cut_One_Of(Text, "+-");
+        if (Cut_Digits(Text) == 0) return false;
+    }
+    return Text.empty();
+}
+
+}  // namespace
+
+bool Within(Double X, const Number_Limits& Limits) {
+    return std::isfinite(X) && Limits.Min <= X && Limits.Above < X && X <= Limits.Max &&
+           X < Limits.Below && (!Limits.Whole || X == std::trunc(X));
+}
+
+std::optional<Double> Typed_Number(std::string_view Text, const Number_Limits& Limits) {
+    std::string Pointed(Trim(Text));
+    std::replace(Pointed.begin(), Pointed.end(), ',', '.');
+    if (!Is_Number(Pointed)) return {};
+    const Double X = Val(Pointed) + 0.0;  // -0 becomes 0
+    if (!Within(X, Limits)) return {};
+    return X;
+}
+
+std::string Shown_Number(Double X) {
+    std::string Text(Num_Text(X));
+    const std::size_t First = Text.starts_with('-') ? 1 : 0;
+    if (Text[First] == '.') Text.insert(First, 1, '0');
+    return Text;
+}
