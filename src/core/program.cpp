@@ -8,6 +8,7 @@
 #include "core/messages.h"
 #include "core/model_ops.h"
 #include "core/project_file.h"
+#include "core/reference_file.h"
 #include "core/resets.h"
 #include "core/view_calls.h"
 #include "platform/files.h"
@@ -37,6 +38,7 @@ void Program_Reset() {
     Load_Failed = 0;
     The_V24 = {};
     V24_Upgrade = 0;
+    The_References = {};
     Cur_Line = Cur_Token = {};
     Cur_Len = Cur_Pos = 0;
     Reader_Open({});

@@ -1,4 +1,4 @@
-// core/project_fields.h - the numbers of each line of the project file, in the order they stand.
+// core/project_fields.h - the numbers of each line of project and reference files, in order.
 //
 // Each routine hands every field of one line to Field, a routine that takes a reference to any
 // number type. Reader and writer share them, so a field has one place.
@@ -35,16 +35,25 @@ void Line_0060(Head& C, F&& Field) {
     Field(C.XGridNW), Field(C.YGridNW), Field(C.XGridSE), Field(C.YGridSE);
 }
 
-template <typename O, typename F>
-void Obj_Line(O& Object, F&& Field) {
-    auto& A = Object.Attr;
-    Field(Object.Num), Field(Object.Nb_Pts);
+/// The attributes of an object but its strings, as far as files of Version have them.
+template <typename R, typename F>
+void Attr_Line(R& A, F&& Field, Double Version = 5.0) {
     Field(A.Alti), Field(A.Attrib), Field(A.LandOnRight), Field(A.LineType), Field(A.Largeur);
     Field(A.SurfShore), Field(A.FermerLine), Field(A.Layer), Field(A.Link_Ima);
     Field(A.LWM_VTP2), Field(A.LandClass), Field(A.LC), Field(A.Layer_Vtp2);
-    Field(A.Alt_Coast), Field(A.Line_Night), Field(A.Drive_Right), Field(A.LayerScasm);
+    if (Version < 2.2) return;
+    Field(A.Alt_Coast);
+    if (Version < 3.0) return;
+    Field(A.Line_Night), Field(A.Drive_Right), Field(A.LayerScasm);
+    if (Version < 4.0) return;
     Field(A.Vtp1_Line), Field(A.Effil_Deb), Field(A.Effil_Fin);
     Field(A.VTP1_SpecNor), Field(A.Flip_VTP1Texture);
+}
+
+template <typename O, typename F>
+void Obj_Line(O& Object, F&& Field) {
+    Field(Object.Num), Field(Object.Nb_Pts);
+    Attr_Line(Object.Attr, Field);
 }
 
 template <typename R, typename F>

@@ -1,12 +1,12 @@
 // core/project_read.cpp - a project file as the model.
 #include <algorithm>
-#include <cmath>
 #include <concepts>
 #include <limits>
+#include <optional>
 #include <string>
 
+#include "core/field_reader.h"
 #include "core/host.h"
-#include "core/line_reader.h"
 #include "core/messages.h"
 #include "core/model_changes.h"
 #include "core/model_ops.h"
@@ -33,23 +33,17 @@ constexpr Long Most_Margin = 50;
 constexpr std::size_t Bytes_Of_Obj = 100;
 constexpr std::size_t Bytes_Of_Pt = 10;
 
-// Reads the lines behind the first. Once a line is not as it must be the file counts as damaged,
-// and nothing more is taken from it.
-class Project_Reader {
+// Reads the lines behind the first; once the file counts as damaged nothing more is taken from it.
+class Project_Reader : private Field_Reader {
 public:
     /// False when the file is damaged.
     bool Read_All();
 
 private:
-    // Lines and values. Each keeps to what is there: a missing value is 0 or an empty string.
-    void Line();
     void Tagged_Line(std::string_view Tag);
-    template <typename T>
-    void Take(T& Field);
     template <typename T>
     void Take_Below(T& Field, Long Limit);
     void Take_Count(Long& Count, Long Lines_A_Record);
-    void Quoted_Line(std::string& Field);
     auto Taker() {
         return [this](auto& Field) { Take(Field); };
     }
@@ -69,49 +63,17 @@ private:
     void Read_Ima(Ima& M);
     void Read_PtGrid_Section();
     void Read_PtGrid_Records(Long Count);
-
-    bool Damaged_ = false;
 };
-
-// The line behind the last record holds nothing: where it is met, lines are missing.
-void Project_Reader::Line() {
-    if (!Next_Line() || Cur_Line == "End") Damaged_ = true;
-}
 
 void Project_Reader::Tagged_Line(std::string_view Tag) {
     Line();
-    if (Cur_Line.substr(0, 4) != Tag) Damaged_ = true;
-}
-
-// X as a T; a value that T can't hold damages the file.
-template <typename T>
-bool Fits(Double X, T& Field) {
-    if constexpr (std::numeric_limits<T>::is_integer) {
-        const Double Whole = std::nearbyint(X);
-        if (!(Whole >= std::numeric_limits<T>::min() && Whole <= std::numeric_limits<T>::max()))
-            return false;
-        Field = static_cast<T>(Whole);
-        return true;
-    } else {
-        Field = static_cast<T>(X);
-        return std::isfinite(Field);
-    }
-}
-
-template <typename T>
-void Project_Reader::Take(T& Field) {
-    Double X = 0.0;
-    if (!Line_Is_Used_Up()) {
-        Next_Token();
-        X = Val(Cur_Token);
-    }
-    if (!Fits(X, Field)) Damaged_ = true;
+    if (Cur_Line.substr(0, 4) != Tag) Damage();
 }
 
 template <typename T>
 void Project_Reader::Take_Below(T& Field, Long Limit) {
     Take(Field);
-    if (Field < 0 || Field >= Limit) Damaged_ = true;
+    if (Field < 0 || Field >= Limit) Damage();
 }
 
 // A count of records that follow, each of as many lines that are not empty.
@@ -120,22 +82,16 @@ void Project_Reader::Take_Count(Long& Count, Long Lines_A_Record) {
     const std::size_t Most_Lines = (Reader_Bytes_Left() + 1) / 2;
     if (Count < 0 || Count > std::numeric_limits<Long>::max() - Most_Margin ||
         static_cast<std::size_t>(Count) > Most_Lines / static_cast<std::size_t>(Lines_A_Record))
-        Damaged_ = true;
-}
-
-void Project_Reader::Quoted_Line(std::string& Field) {
-    Line();
-    Next_Quoted();
-    Field.assign(Cur_Token);
+        Damage();
 }
 
 template <typename R>
 void Project_Reader::Check_Cell(const R& Cell) {
     const auto Inside = [](Int X, Int Limit) { return X >= 0 && X < Limit; };
-    if (!Inside(Cell.AreaLon, Nb_AreaLon) || !Inside(Cell.AreaLat, Nb_AreaLat)) Damaged_ = true;
+    if (!Inside(Cell.AreaLon, Nb_AreaLon) || !Inside(Cell.AreaLat, Nb_AreaLat)) Damage();
     if constexpr (std::derived_from<R, Cell_Pos>)
         if (!Inside(Cell.CellLon, Nb_Cell_In_Area) || !Inside(Cell.CellLat, Nb_Cell_In_Area))
-            Damaged_ = true;
+            Damage();
 }
 
 void Project_Reader::Read_Head() {
@@ -163,10 +119,10 @@ void Project_Reader::Read_Head() {
 
 void Project_Reader::Read_Chain(Obj& O) {
     const Long Nb = O.Nb_Pts;
-    if (Nb < 0 || Nb > std::numeric_limits<Long>::max() - Nb_Pt) Damaged_ = true;
-    if (Damaged_ || Nb == 0) return;
+    if (Nb < 0 || Nb > std::numeric_limits<Long>::max() - Nb_Pt) Damage();
+    if (Is_Damaged() || Nb == 0) return;
     O.First_Pt = Nb_Pt + 1;
-    for (Long N = 1; N <= Nb && !Damaged_; ++N) {
+    for (Long N = 1; N <= Nb && !Is_Damaged(); ++N) {
         Pt P{.Prev = N == 1 ? 0 : Nb_Pt, .Next = N == Nb ? 0 : Nb_Pt + 2};
         Line();
         Take(P.X);
@@ -185,7 +141,7 @@ void Project_Reader::Read_Obj() {
     for (std::string& Name : O.Attr.Texture_Name) Quoted_Line(Name);
     Read_Chain(O);
     if (V24_Upgrade != 0) Upgrade_Obj(O.Attr);
-    if (!Damaged_) Tab_Obj.Append(std::move(O));
+    if (!Is_Damaged()) Tab_Obj.Append(std::move(O));
 }
 
 void Project_Reader::Read_Objects() {
@@ -196,8 +152,8 @@ void Project_Reader::Read_Objects() {
     Take_Count(Count, Lines_Of_Obj);
     Take(Last_Num_Obj);
     Take(Pool);
-    if (Count < 1 || Pool < 0) Damaged_ = true;
-    if (Damaged_) return;
+    if (Count < 1 || Pool < 0) Damage();
+    if (Is_Damaged()) return;
     const std::size_t Left = Reader_Bytes_Left();
     Tab_Obj.Dimension(Count);
     Tab_Obj.Reserve(static_cast<Long>(
@@ -205,24 +161,24 @@ void Project_Reader::Read_Objects() {
     Tab_Pt.Dimension(Pool == 0 ? 10 : Pool);
     Tab_Pt.Reserve(static_cast<Long>(
         std::min<std::size_t>(static_cast<std::size_t>(Pool), Left / Bytes_Of_Pt)));
-    for (Long I = 1; I <= Count && !Damaged_; ++I) Read_Obj();
+    for (Long I = 1; I <= Count && !Is_Damaged(); ++I) Read_Obj();
 }
 
 // A table that keeps its capacity has a Least of 0.
 template <typename R, typename F>
 void Project_Reader::Read_Section(std::string_view Tag, Table<R>& Tab, Long Least, Long Margin,
                                   Long Lines_A_Record, F&& Read_Record) {
-    if (Damaged_) return;
+    if (Is_Damaged()) return;
     Tab.Dimension(Least == 0 ? Tab.Max() : Least);
     Tagged_Line(Tag);
     Long Count = 0;
     Take_Count(Count, Lines_A_Record);
-    if (Damaged_ || Count == 0) return;
+    if (Is_Damaged() || Count == 0) return;
     Tab.Dimension(Count + Margin);
-    for (Long I = 1; I <= Count && !Damaged_; ++I) {
+    for (Long I = 1; I <= Count && !Is_Damaged(); ++I) {
         R Record;
         Read_Record(Record);
-        if (!Damaged_) Tab.Append(std::move(Record));
+        if (!Is_Damaged()) Tab.Append(std::move(Record));
     }
 }
 
@@ -272,20 +228,20 @@ void Project_Reader::Read_Cell_Sections() {
 }
 
 void Project_Reader::Read_PtGrid_Section() {
-    if (Damaged_) return;
+    if (Is_Damaged()) return;
     Tab_PtGrid.Dimension(Most_Margin);
     Tagged_Line("0200");
     Take(LodMesh);
     Take(Mesh_Done);
     Long Count = 0;
     Take_Count(Count, 1);
-    if (Damaged_ || Count == 0) return;
+    if (Is_Damaged() || Count == 0) return;
     Tab_PtGrid.Dimension(Count + Most_Margin);
     Read_PtGrid_Records(Count);
 }
 
 void Project_Reader::Read_PtGrid_Records(Long Count) {
-    for (Long I = 1; I <= Count && !Damaged_; ++I) {
+    for (Long I = 1; I <= Count && !Is_Damaged(); ++I) {
         PtGrid P{.Active = 1};
         Line();
         PtGrid_Line(P, Taker());
@@ -295,10 +251,10 @@ void Project_Reader::Read_PtGrid_Records(Long Count) {
 
 bool Project_Reader::Read_All() {
     Read_Head();
-    if (!Damaged_) Read_Objects();
+    if (!Is_Damaged()) Read_Objects();
     Read_Cell_Sections();
     Read_PtGrid_Section();
-    return !Damaged_;
+    return !Is_Damaged();
 }
 
 // Asks how a file of version 4.0 is to be brought up to date.
@@ -318,18 +274,16 @@ void Ask_Upgrade() {
 
 // Reads the version out of the first line, and shows why a file is refused.
 bool Version_Is_Accepted() {
-    Next_Line();
-    Next_Token();
-    const Double Version = Val(Cur_Token.substr(std::min<std::size_t>(1, Cur_Token.size()), 3));
-    if (!Cur_Token.starts_with('V') || Version > Newest_Version) {
+    const std::optional<Double> Version = Stated_Version();
+    if (!Version || *Version > Newest_Version) {
         Msg_Result = Msg_Show(30);
         return false;
     }
-    if (Version < Oldest_Version) {
-        Plain_Box("Old Terrafold version" + std::string(Str(Version)) + "not allowed");
+    if (*Version < Oldest_Version) {
+        Plain_Box("Old Terrafold version" + std::string(Str(*Version)) + "not allowed");
         return false;
     }
-    if (Version == Oldest_Version) Ask_Upgrade();
+    if (*Version == Oldest_Version) Ask_Upgrade();
     return true;
 }
 

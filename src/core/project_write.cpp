@@ -1,49 +1,24 @@
 // core/project_write.cpp - the model as a project file.
 #include <algorithm>
-#include <cmath>
 #include <string>
 
+#include "core/field_writer.h"
 #include "core/host.h"
 #include "core/messages.h"
 #include "core/model.h"
-#include "core/number_text.h"
 #include "core/program.h"
 #include "core/project_fields.h"
 #include "core/project_file.h"
 #include "platform/clock.h"
-#include "platform/files.h"
 #include "platform/text1252.h"
 
 namespace {
 
 using namespace project_fields;
 
-// A number that a file cannot hold must not spoil the save of all others. Beyond Largest, the
-// 15 digits of a Double could read back as infinite.
-Number_Chars Writable(Double X) {
-    constexpr Double Largest = 1.79769313486231E+308;
-    return Str(std::isfinite(X) ? std::clamp(X, -Largest, Largest) : 0.0);
-}
-Number_Chars Writable(Single X) {
-    return Str(std::isfinite(X) ? X : 0.0F);
-}
-Number_Chars Writable(Long X) {
-    return Str(X);
-}
-
-// Strings stand between double quotes on one line, without any escape.
-std::string Without_Marks(std::string_view Text) {
-    std::string Clean(Text);
-    for (char& C : Clean) {
-        if (C == '"') C = '\'';
-        if (C == '\r' || C == '\n') C = ' ';
-    }
-    return Clean;
-}
-
-class Project_Writer {
+class Project_Writer : private Field_Writer {
 public:
-    explicit Project_Writer(File_Writer& Out) : Out_(Out) {}
+    using Field_Writer::Field_Writer;
 
     void Write_All(Int Save_As, std::string_view Path);
 
@@ -56,38 +31,12 @@ private:
     void Write_Ima();
     void Write_PtGrid();
 
-    void Put(std::string_view Text) { Out_.Put(Text); }
-    void End_Line() { Out_.Put("\r\n"); }
-    void Text_Line(std::string_view Before, std::string_view Text, std::string_view Behind = "\"") {
-        Put(Before);
-        Put("\"");
-        if (Text.find_first_of("\"\r\n") == std::string_view::npos)
-            Put(Text);
-        else
-            Put(Without_Marks(Text));
-        Put(Behind);
-        End_Line();
-    }
-    // Writes the fields that Visit hands out, parted by blanks, behind Before.
-    template <typename Visitor>
-    void Number_Line(std::string_view Before, Visitor&& Visit) {
-        Put(Before);
-        bool First = true;
-        Visit([&](auto X) {
-            if (!First) Put(" ");
-            First = false;
-            Put(Writable(X));
-        });
-        End_Line();
-    }
     template <typename R>
     void Class_Section(std::string_view Tag, const Table<R>& Tab) {
         Number_Line(Tag, [&](auto&& Field) { Field(Tab.Nb()); });
         for (const R& Record : Tab.Rows())
             Number_Line("     ", [&](auto&& Field) { Class_Line(Record, Field); });
     }
-
-    File_Writer& Out_;
 };
 
 void Project_Writer::Write_First_Lines(Int Save_As, std::string_view Path) {

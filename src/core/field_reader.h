@@ -1,0 +1,71 @@
+// core/field_reader.h - the fields of a project or reference file, with an eye on damage.
+//
+// Stands on line_reader.h, so there is one at a time. Once a line is not as it must be the file
+// counts as damaged; what is taken from then on means nothing.
+#pragma once
+
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <string>
+
+#include "core/line_reader.h"
+#include "core/number_text.h"
+#include "core/numbers.h"
+
+/// X as a T, rounded half to even where T is whole. False, with Field as it was, when T can't
+/// hold it.
+template <typename T>
+bool Fits(Double X, T& Field) {
+    if constexpr (std::numeric_limits<T>::is_integer) {
+        const Double Whole = std::nearbyint(X);
+        if (!(Whole >= std::numeric_limits<T>::min() && Whole <= std::numeric_limits<T>::max()))
+            return false;
+        Field = static_cast<T>(Whole);
+        return true;
+    } else {
+        Field = static_cast<T>(X);
+        return std::isfinite(Field);
+    }
+}
+
+/// The version that the first line of the file states: "V" behind its tag, and a number of three
+/// characters. Nothing when there is no "V".
+inline std::optional<Double> Stated_Version() {
+    Next_Line();
+    Next_Token();
+    if (!Cur_Token.starts_with('V')) return {};
+    return Val(Cur_Token.substr(1, 3));
+}
+
+class Field_Reader {
+public:
+    bool Is_Damaged() const { return Damaged_; }
+    void Damage() { Damaged_ = true; }
+
+    /// Goes to the next line that is not empty. The line behind the last record of a project
+    /// file, "End", holds nothing: where it is met, lines are missing.
+    void Line() {
+        if (!Next_Line() || Cur_Line == "End") Damage();
+    }
+
+    /// Takes the next number of the line; one that is not there is 0. A value that T can't hold
+    /// damages the file. False when there was none.
+    template <typename T>
+    bool Take(T& Field) {
+        Cur_Token = {};
+        if (!Line_Is_Used_Up()) Next_Token();
+        if (!Fits(Val(Cur_Token), Field)) Damage();
+        return !Cur_Token.empty();
+    }
+
+    /// The string of the next line; one that is not there is empty.
+    void Quoted_Line(std::string& Field) {
+        Line();
+        Next_Quoted();
+        Field.assign(Cur_Token);
+    }
+
+private:
+    bool Damaged_ = false;
+};
