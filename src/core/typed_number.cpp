@@ -54,6 +54,7 @@ std::optional<Double> Typed_Number(std::string_view Text, const Number_Limits& L
 }
 
 std::string Shown_Number(Double X) {
+    if (!std::isfinite(X)) return {};
     std::string Text(Num_Text(X));
     const std::size_t First = Text.starts_with('-') ? 1 : 0;
     if (Text[First] == '.') Text.insert(First, 1, '0');

@@ -28,5 +28,6 @@ bool Within(Double X, const Number_Limits& Limits);
 /// one beyond a Double included, and for a number outside Limits. "-0" gives 0.
 std::optional<Double> Typed_Number(std::string_view Text, const Number_Limits& Limits = {});
 
-/// X as fields and read-outs show it: Num text with a zero before the point, "0.5", "-0.25".
+/// X as fields and read-outs show it: Num text with a zero before the point, "0.5", "-0.25". Nothing
+/// for a value that is infinite or undefined.
 std::string Shown_Number(Double X);

@@ -22,13 +22,18 @@ bool Grid_On_Globe(const Calibration& Cal) {
            -180.0 <= Cal.LonGridNW && Cal.LonGridNW < Cal.LonGridSE && Cal.LonGridSE <= 180.0;
 }
 
+}  // namespace
+
 bool Points_In_Order(const Calibration& Cal) {
     return Cal.XPtNW < Cal.XPtSE && Cal.YPtNW < Cal.YPtSE && Cal.LatPtNW > Cal.LatPtSE &&
            Cal.LonPtNW < Cal.LonPtSE && std::isfinite(Cal.LatPtNW - Cal.LatPtSE) &&
            std::isfinite(Cal.LonPtSE - Cal.LonPtNW);
 }
 
-}  // namespace
+Int Points_Refused(const Calibration& Cal) {
+    if (Cal.CadNW_Done == 0 || Cal.CadSE_Done == 0) return 6;
+    return Points_In_Order(Cal) ? 0 : 7;
+}
 
 bool Calibration_Can_Serve(const Calibration& Cal) {
     return Points_In_Order(Cal) && Grid_On_Globe(Cal) &&

@@ -39,6 +39,13 @@ inline Pix LatLon_To_Pixel(Geo G, const Calibration& Cal = The_Calibration) {
             Cal.YPtNW + Rows * (G.Lat - Cal.LatPtNW) / (Cal.LatPtSE - Cal.LatPtNW)};
 }
 
+/// Whether the two points of Cal lie in north-west to south-east order, in pixels and in degrees.
+bool Points_In_Order(const Calibration& Cal = The_Calibration);
+
+/// The number of the message that refuses the points of Cal: 6 when one has not been placed, 7
+/// when they are not in order; 0 when they are good.
+Int Points_Refused(const Calibration& Cal);
+
 /// Whether Cal can serve the generators: its points lie in north-west to south-east order in
 /// pixels and in degrees, and its work grid has an extent in both, lies on the globe (so that
 /// it has no more lines than the globe has rows or columns of cells), and has lines that

@@ -7,6 +7,8 @@
 #include <cmath>
 
 #include "core/number_text.h"
+#include "core/typed_number.h"
+#include "platform/text1252.h"
 
 namespace {
 
@@ -67,18 +69,8 @@ std::string Minutes_Text(Double Value, const Axis& A) {
     return Letter(Value, A) + Whole_Text(Degrees, 1) + "*" + Masked_Text(Minutes, 1) + "'";
 }
 
-std::string_view Trimmed(std::string_view Text) {
-    const std::size_t First = Text.find_first_not_of(' ');
-    if (First == std::string_view::npos) return {};
-    return Text.substr(First, Text.find_last_not_of(' ') - First + 1);
-}
-
-// Digits with at most one point.
-bool Is_Plain_Number(std::string_view Text) {
-    const auto Is_Digit = [](char C) { return '0' <= C && C <= '9'; };
-    const auto Digits = std::count_if(Text.begin(), Text.end(), Is_Digit);
-    const auto Points = std::count(Text.begin(), Text.end(), '.');
-    return Digits > 0 && Points <= 1 && Digits + Points == std::ssize(Text);
+bool Is_Digit(char C) {
+    return '0' <= C && C <= '9';
 }
 
 // Taking from 0 keeps a 0 of the southern or western half from becoming -0.
@@ -102,7 +94,7 @@ bool Up_To_60(Double X) {
 }
 
 Degrees_Read Read_Seconds_Text(std::string_view Text, const Axis& A) {
-    Text = Trimmed(Text);
+    Text = Trim(Text);
     if (Text.empty()) return Refused;
     const char First = Text.front();
     if (First != A.Positive && First != A.Negative) return Refused;
@@ -116,23 +108,35 @@ Degrees_Read Read_Seconds_Text(std::string_view Text, const Axis& A) {
     if (!Cut_Field(Text, Field)) return Refused;
     const Double Minutes = Val(Field);
     if (!Up_To_60(Minutes)) return Refused;
-    if (!Is_Plain_Number(Text)) return Refused;
-    const Double Seconds = Val(Text);
-    if (!Up_To_60(Seconds)) return Refused;
+    const auto Seconds = Typed_Number(Text, {.Min = 0.0, .Max = 60.0});
+    if (!Seconds) return Refused;
 
-    const Double Value = Round_Degrees(Degrees + Minutes / 60.0 + Seconds / 3600.0);
+    const Double Value = Round_Degrees(Degrees + Minutes / 60.0 + *Seconds / 3600.0);
     return {With_Sign(Value, First == A.Positive), 0};
 }
 
 Degrees_Read Read_Igc(std::string_view Text, const Axis& A) {
-    Text = Trimmed(Text);
+    Text = Trim(Text);
     const std::size_t Digits = A.Degree_Digits;
     if (Text.size() != Digits + 6) return Refused;
-    const std::string_view Thousandths = Text.substr(Digits + 2, 3);
-    if (!Is_Plain_Number(Thousandths)) return Refused;
+    const char Last = Text.back();
+    Text.remove_suffix(1);
+    if (Last != A.Positive && Last != A.Negative) return Refused;
+    if (!std::all_of(Text.begin(), Text.end(), Is_Digit)) return Refused;
     const Double Value = Val(Text.substr(0, Digits)) + Val(Text.substr(Digits, 2)) / 60.0 +
-                         Val(Thousandths) / 60000.0;
-    return {With_Sign(Value, Text.back() == A.Positive), 0};
+                         Val(Text.substr(Digits + 2)) / 60000.0;
+    return {With_Sign(Value, Last == A.Positive), 0};
+}
+
+Degrees_Typed Read_Typed(std::string_view Text, const Axis& A) {
+    Text = Trim(Text);
+    if (!Text.empty() && Upper_1252(Text.front()) >= 'A' && Upper_1252(Text.front()) <= 'Z') {
+        const auto [Deg, Err] = Read_Seconds_Text(Text, A);
+        return {Deg, Shown_Number(Deg), Err};
+    }
+    const auto Deg = Typed_Number(Text, {.Min = -A.Limit, .Max = A.Limit});
+    if (!Deg) return {0.0, {}, 1};
+    return {*Deg, Seconds_Text(*Deg, A), 0};
 }
 
 }  // namespace
@@ -171,4 +175,12 @@ Degrees_Read Igc_To_Lon(std::string_view Text) {
 
 Double Round_Degrees(Double Deg) {
     return Round_Lng(Deg * 1000000.0) / 1000000.0;
+}
+
+Degrees_Typed Typed_Lat(std::string_view Text) {
+    return Read_Typed(Text, Lat_Axis);
+}
+
+Degrees_Typed Typed_Lon(std::string_view Text) {
+    return Read_Typed(Text, Lon_Axis);
 }

@@ -26,15 +26,27 @@ struct Degrees_Read {
 
 /// Reads the form with seconds, rounded to six decimals. Blanks round the text are ignored; the
 /// letter alone is 0. Degrees (at most 90 or 180) and minutes (0 to 60) are read as Val reads
-/// them; seconds (0 to 60) must be digits with at most one point.
+/// them; seconds (0 to 60) must be a number as fields take it (typed_number.h).
 Degrees_Read Text_To_Lat(std::string_view Text);
 Degrees_Read Text_To_Lon(std::string_view Text);
 
 /// Reads the form of flight recorder files: "DDMMmmmN" and "DDDMMmmmE", mmm being thousandths
-/// of a minute. Refused when the length differs, blanks round it not counted, or when mmm is no
-/// number. Any letter but "N" or "E" makes the value negative. Ranges are not checked.
+/// of a minute, the letter one of N, S or E, W. Refused when the length differs, blanks round
+/// it not counted, or when a digit or the letter is another character. Ranges are not checked.
 Degrees_Read Igc_To_Lat(std::string_view Text);
 Degrees_Read Igc_To_Lon(std::string_view Text);
 
 /// Deg with six decimals, a half going to the even neighbour.
 Double Round_Degrees(Double Deg);
+
+/// What a field for a latitude or longitude was given: a decimal number of at most 90 or 180
+/// either way, or a text with a letter first, read as Text_To_Lat or Text_To_Lon read it.
+/// Other_Form is what the label beside the field shows: the form with seconds of a number, the
+/// decimal value of a text. Meaningless when Err is 1.
+struct Degrees_Typed {
+    Double Deg = 0.0;
+    std::string Other_Form;
+    Int Err = 0;
+};
+Degrees_Typed Typed_Lat(std::string_view Text);
+Degrees_Typed Typed_Lon(std::string_view Text);

@@ -145,4 +145,14 @@ TEST(Calibration_Fit, TheWholeGlobeServes) {
     EXPECT_TRUE(Calibration_Can_Serve(Cal));
 }
 
+TEST(Calibration_Points, AreRefusedByTheirMessage) {
+    Calibration Cal = Plain_Calibration();
+    Cal.CadNW_Done = 1;
+    EXPECT_EQ(Points_Refused(Cal), 6);
+    Cal.CadSE_Done = 1;
+    EXPECT_EQ(Points_Refused(Cal), 0);
+    Cal.XPtSE = Cal.XPtNW;
+    EXPECT_EQ(Points_Refused(Cal), 7);
+}
+
 }  // namespace

@@ -43,6 +43,7 @@ TEST(LatLon_Text, ReadsDegreesMinutesSeconds) {
     EXPECT_EQ(Text_To_Lon("E180:0:0").Deg, 180.0);
     EXPECT_EQ(Text_To_Lat("N45:60:60").Deg, 46.016667) << "60 is allowed, six decimals are kept";
     EXPECT_EQ(Text_To_Lon("W1: 30 :36.").Deg, -1.51);
+    EXPECT_EQ(Text_To_Lon("W1:30: 3,6e1").Deg, -1.51) << "seconds are typed as any number";
     EXPECT_EQ(Text_To_Lat("Nx:y:0.5").Deg, 0.000139) << "no number of degrees or minutes is 0";
     EXPECT_EQ(Text_To_Lat("N-1:30:0").Deg, -0.5);
     for (const char* Zero : {"S", "S0:0:0", "S0:0:.0001"}) {
@@ -56,8 +57,7 @@ TEST(LatLon_Text, RefusesEverythingElse) {
                              "N91:0:0",  "N-91:0:0", "N1E9:0:0",      "N1E999:0:0", "N45",
                              "N45:10",   "N45:10:",  "N45:",          "N:10:0",     "N45::0",
                              "N45:61:0", "N45:-1:0", "N45:0:60.0001", "N45:0:-1",   "N1:2:x",
-                             "N1:2:3x",  "N1:2:3:4", "N1:2:.",        "N1:2:1.2.3", "N1:2:1e1",
-                             "N1:2:3,5"})
+                             "N1:2:3x",  "N1:2:3:4", "N1:2:.",        "N1:2:1.2.3", "N1:2:1e2"})
         EXPECT_EQ(Text_To_Lat(Text).Err, 1) << Text;
     EXPECT_EQ(Text_To_Lon("E181:0:0").Err, 1);
     EXPECT_EQ(Text_To_Lon("N1:0:0").Err, 1);
@@ -67,10 +67,37 @@ TEST(LatLon_Text, FlightRecorderForm) {
     EXPECT_DOUBLE_EQ(Igc_To_Lat("0011222N").Deg, 11.222 / 60.0);
     EXPECT_DOUBLE_EQ(Igc_To_Lon(" 12311222E ").Deg, 123.0 + 11.222 / 60.0);
     EXPECT_DOUBLE_EQ(Igc_To_Lat("4530000S").Deg, -45.5);
-    EXPECT_DOUBLE_EQ(Igc_To_Lon("00130000N").Deg, -1.5) << "only E is east";
-    for (const char* Text : {"", "011222N", "00011222E", "0011x22N", "0011 22N"})
+    for (const char* Text : {"", "011222N", "00011222E", "0011x22N", "0011 22N", "-011222N",
+                             "0011222n", "0011222E", "00112.2N"})
         EXPECT_EQ(Igc_To_Lat(Text).Err, 1) << Text;
-    EXPECT_EQ(Igc_To_Lon("0011222N").Err, 1) << "one digit of degrees is missing";
+    for (const char* Text : {"0011222E", "00130000N", "0x130000E"})
+        EXPECT_EQ(Igc_To_Lon(Text).Err, 1) << Text;
+}
+
+TEST(LatLon_Text, AFieldTakesANumberOrAText) {
+    const struct {
+        const char* Typed;
+        const char* Other;  // "" when it is refused
+        Double Deg;
+    } Lats[] = {{" 45,5 ", "N45:30:00.0000", 45.5},
+                {"-90", "S90:00:00.0000", -90.0},
+                {"S0:30:0", "-0.5", -0.5},
+                {"n", "", 0.0},
+                {"90.001", "", 0.0},
+                {"E1:0:0", "", 0.0},
+                {"", "", 0.0},
+                {"1:0:0", "", 0.0},
+                {"N", "0", 0.0}};
+    for (const auto& [Typed, Other, Deg] : Lats) {
+        const Degrees_Typed Read = Typed_Lat(Typed);
+        EXPECT_EQ(Read.Err, *Other == '\0' ? 1 : 0) << Typed;
+        if (Read.Err != 0) continue;
+        EXPECT_EQ(Read.Deg, Deg) << Typed;
+        EXPECT_EQ(Read.Other_Form, Other) << Typed;
+    }
+    EXPECT_EQ(Typed_Lon("-180").Other_Form, "W180:00:00.0000");
+    EXPECT_EQ(Typed_Lon("E110:36:33.3720").Other_Form, "110.60927");
+    EXPECT_EQ(Typed_Lon("180.1").Err, 1);
 }
 
 TEST(LatLon_Text, WhatIsWrittenReadsBack) {
