@@ -36,9 +36,9 @@ struct Box {
 
 /// A question for a file. Start_Dir may be empty, and end in a backslash or not; Filter is
 /// "Text (*.ext)|*.ext". Before a host gives back a file to save to that exists, it asks the
-/// user whether it may be replaced.
+/// user whether it may be replaced; of Any_Name it gives back whatever is named, there or not.
 struct File_Question {
-    enum class Kind { Open, Save } Mode = Kind::Open;
+    enum class Kind { Open, Save, Any_Name } Mode = Kind::Open;
     std::string Title;
     std::string Start_Dir;
     std::string File_Name;

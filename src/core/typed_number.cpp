@@ -37,6 +37,13 @@ bool Is_Number(std::string_view Text) {
     return Text.empty();
 }
 
+std::string With_Zero(std::string_view Num) {
+    std::string Text(Num);
+    const std::size_t First = Text.starts_with('-') ? 1 : 0;
+    if (Text[First] == '.') Text.insert(First, 1, '0');
+    return Text;
+}
+
 }  // namespace
 
 bool Within(Double X, const Number_Limits& Limits) {
@@ -55,8 +62,13 @@ std::optional<Double> Typed_Number(std::string_view Text, const Number_Limits& L
 
 std::string Shown_Number(Double X) {
     if (!std::isfinite(X)) return {};
-    std::string Text(Num_Text(X));
-    const std::size_t First = Text.starts_with('-') ? 1 : 0;
-    if (Text[First] == '.') Text.insert(First, 1, '0');
-    return Text;
+    return With_Zero(Num_Text(X));
+}
+
+std::string Shown_Number(Single X) {
+    return With_Zero(Num_Text(X));
+}
+
+std::string Shown_Number(Long X) {
+    return std::string(Num_Text(X));
 }

@@ -28,6 +28,9 @@ bool Within(Double X, const Number_Limits& Limits);
 /// one beyond a Double included, and for a number outside Limits. "-0" gives 0.
 std::optional<Double> Typed_Number(std::string_view Text, const Number_Limits& Limits = {});
 
-/// X as fields and read-outs show it: Num text with a zero before the point, "0.5", "-0.25". Nothing
-/// for a value that is infinite or undefined.
+/// X as fields and read-outs show it: Num text with a zero before the point, "0.5", "-0.25".
+/// A Double keeps 15 significant digits, a Single 7. Nothing for a value that is infinite or
+/// undefined.
 std::string Shown_Number(Double X);
+std::string Shown_Number(Single X);
+std::string Shown_Number(Long X);

@@ -252,6 +252,7 @@ std::unique_ptr<Control_Widget> Make_Kind(Form_Widget& Owner, const Control& C, 
             return std::make_unique<Menu_Item_Widget>(Owner, C);
         case Control_Kind::Canvas:
             return std::make_unique<Canvas_Control>(Owner, C);
+        case Control_Kind::Lamp:
         case Control_Kind::Label:
             break;
     }

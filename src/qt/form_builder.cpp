@@ -151,6 +151,8 @@ void Form_Builder::Add(QBoxLayout& To, const Layout& L) {
             return Add_Read_Out(To, L.Parts);
         case Kind::Over_Canvas:
             return Over_Canvas_.push_back(&L);
+        case Kind::Option:
+        case Kind::Grid:
         case Kind::Tab:
         case Kind::Menu:
         case Kind::Gap:

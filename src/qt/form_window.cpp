@@ -101,7 +101,7 @@ void Run_Dialog(Form& F, QWidget* Parent) {
     QEventLoop Loop;
     Window.Shown().On_Closed = [&Loop] { Loop.quit(); };
     Window.Shown().Take_Focus();
-    const QString Beside = Qt_Text(F.Beside);
+    const QString Beside = Qt_Text(F.Place.Control);
     if (const auto* Control = Parent ? Parent->findChild<QWidget*>(Beside) : nullptr;
         Control != nullptr && !Beside.isEmpty())
         Put_Beside(Window, *Control);

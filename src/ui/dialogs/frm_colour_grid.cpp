@@ -19,11 +19,7 @@ public:
              .Colours = {Greys.begin(), Greys.end()},
              .On_Click = [this] { Take(); }});
         Set_Layout(Column({"Opt_ColourGrid"}));
-        Beside = "Cmd_ColourGrid";
-        On_Key = [this](Key_Event K) {  // there is no Cancel for Escape to press
-            if (K.Code == Key_Escape) Close(Form_End::Closed);
-            return K.Code == Key_Escape;
-        };
+        Place = Form_Place::Below("Cmd_ColourGrid");
     }
 
 private:

@@ -19,6 +19,7 @@ inline constexpr Key_Code Key_Down = 40;
 inline constexpr Key_Code Key_Delete = 46;
 inline constexpr Key_Code Key_Pad_Plus = 107;  // of the numeric pad
 inline constexpr Key_Code Key_Pad_Minus = 109;
+inline constexpr Key_Code Key_F4 = 115;
 
 struct Key_Event {
     Key_Code Code = 0;

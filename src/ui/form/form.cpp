@@ -22,14 +22,18 @@ void Form::Add(Control C) {
 void Form::Set_Layout(Layout L) {
     Root_ = std::move(L);
     Parent_.clear();
+    Pages_.clear();
     Note_Parents(Root_, {});
 }
 
 void Form::Note_Parents(const Layout& L, const std::string& Parent) {
     if (!L.Name.empty()) {
         Check(Has(L.Name), "a layout names controls of its form");
-        Check(Parent_.emplace(L.Name, Parent).second, "a control stands in one place");
+        const bool Is_New = Parent_.emplace(L.Name, Parent).second;
+        Check(Is_New || L.What == Layout::Kind::Option, "a control stands in one place");
     }
+    if (L.What == Layout::Kind::Tabs)
+        for (const Layout& Page : L.Parts) Pages_[L.Name].push_back(Page.Name);
     for (const Layout& Part : L.Parts) Note_Parents(Part, L.Name.empty() ? Parent : L.Name);
 }
 
@@ -66,7 +70,21 @@ bool Form::Is_Enabled(std::string_view Control_Name) const {
 bool Form::Is_Visible(std::string_view Control_Name) const {
     const Control& C = (*this)[Control_Name];
     const std::string& Round = Parent(Control_Name);
-    return C.Visible && (Round.empty() || Is_Visible(Round));
+    if (!C.Visible || Round.empty()) return C.Visible;
+    const bool On_A_Page = (*this)[Round].Kind == Control_Kind::Tab;
+    if (On_A_Page && (*this)[Parent(Round)].Value != Page_Number(Round)) return false;
+    return Is_Visible(Round);
+}
+
+const std::vector<std::string>& Form::Pages(std::string_view Tabs) const {
+    static const std::vector<std::string> None;
+    const auto Found = Pages_.find(Tabs);
+    return Found == Pages_.end() ? None : Found->second;
+}
+
+Long Form::Page_Number(std::string_view Page) const {
+    const std::vector<std::string>& All = Pages(Parent(Page));
+    return static_cast<Long>(std::ranges::find(All, Page) - All.begin());
 }
 
 void Form::Tell(const Control& C) {
@@ -114,6 +132,13 @@ void Form::Set_Shown(std::string_view Control_Name, const Picture* Shown) {
     Tell(C);
 }
 
+void Form::Set_Colour(std::string_view Control_Name, Long Colour, Long Back) {
+    Control& C = At(Control_Name);
+    const bool Other_Colour = Change(C.Colour, Colour);
+    const bool Other_Back = Change(C.Back_Colour, Back);
+    if (Other_Colour || Other_Back) Tell(C);
+}
+
 void Form::Set_Enabled(std::string_view Control_Name, bool On) {
     Control& C = At(Control_Name);
     if (Change(C.Enabled, On)) Tell(C);
@@ -151,8 +176,13 @@ void Form::Set_Language(std::string_view Language) {
     if (Title_Words_.Is_Set()) Set_Title(Title_Words_.In(Language_));
 }
 
+void Form::Set_Above_Main(bool On) {
+    if (Change(Above_Main_, On) && View != nullptr) View->Above_Main_Changed(*this);
+}
+
 void Form::Close(Form_End End) {
     if (std::exchange(Closed_, true)) return;
     End_ = End;
+    if (On_Unload) On_Unload();
     if (View != nullptr) View->Form_Closed(*this);
 }

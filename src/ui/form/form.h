@@ -11,6 +11,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/host.h"
@@ -19,6 +20,7 @@
 #include "ui/form/layout.h"
 #include "ui/form/wording.h"
 
+class Surface;
 struct Picture;
 
 enum class Control_Kind {
@@ -31,6 +33,7 @@ enum class Control_Kind {
     List,        // Items; Value is the chosen one, -1 none
     Combo,       // the same, folded up
     Image,       // a picture
+    Lamp,        // a spot of its Colour
     Frame,       // a box round others; disabling or hiding it does so to all of them
     Tabs,        // Value is the page in front
     Tab,         // a page of Tabs
@@ -57,17 +60,23 @@ struct Field_Rule {
     std::function<std::string()> Held = {};
 };
 
+inline constexpr Long Usual_Colour = -1;  // what the desktop has there
+
 struct Control {
     Control_Kind Kind = Control_Kind::Label;
     std::string Name = {};
     Wording Words = {};      // its caption, or the label of a field, in both languages
     Wording Tip_Words = {};  // what the pointer resting on it tells
     Button_Role Role = Button_Role::Plain;
-    std::string Icon = {};      // name of the picture of a tool button
-    std::string Shortcut = {};  // of a menu item, as "Ctrl+S"
-    Field_Rule Rule = {};       // of a field; without Accept any text is taken
-    Int Columns = 0;            // width of a field or list in characters, 0 for the usual one
-    bool Read_Only = false;     // a field that is filled by a click, not by typing
+    std::string Icon = {};       // name of the picture of a tool button
+    std::string Shortcut = {};   // of a menu item, as "Ctrl+S"
+    Field_Rule Rule = {};        // of a field; without Accept any text is taken
+    Int Columns = 0;             // width of a field or list in characters, 0 for the usual one
+    bool Read_Only = false;      // a field that is filled by a click or chooser, not by typing
+    bool No_Quotes = false;      // a field whose text has ' where " was typed
+    bool Upright = false;        // Options that stand one below the other, however few they are
+    Long Width = 0, Height = 0;  // pixels of an Image or Canvas, which keeps them; 0: as it comes
+    bool Stretched = false;      // an Image's picture fills its Width and Height
 
     // What it shows. Written through the form once it is added.
     std::string Caption = {};
@@ -79,6 +88,8 @@ struct Control {
     std::vector<std::string> Items = {};   // of Options, List and Combo
     std::vector<Wording> Item_Words = {};  // Items in both languages, where they are words
     std::vector<Long> Colours = {};        // 0xRRGGBB: Options painted in colours
+    Long Colour = Usual_Colour;            // 0xRRGGBB: a Lamp, the text of a Label
+    Long Back_Colour = Usual_Colour;       // behind the text of a Label
     const Picture* Shown = nullptr;        // of an Image; must outlive what it shows
     bool Enabled = true;
     bool Visible = true;
@@ -89,6 +100,8 @@ struct Control {
     std::function<void()> On_Entry = {};
     std::function<void()> On_Leave = {};
     std::function<void()> On_Double_Click = {};
+    /// Another way to fill a field than typing: by double click, F4 or a button beside it.
+    std::function<void()> On_Choose = {};
     std::function<bool(Key_Event)> On_Key = {};             // true when the key was used
     std::function<void(const Mouse_Event&)> On_Mouse = {};  // of an Image or Canvas
     /// A Canvas has this much room now, in pixels; what it takes of it is its own affair.
@@ -105,6 +118,28 @@ public:
     virtual void Title_Changed(const Form& F) = 0;
     virtual void Focus_Changed(const Control& C, bool Select_All) = 0;
     virtual void Form_Closed(const Form& F) = 0;
+    /// The form is to stay above the main one, or no longer.
+    virtual void Above_Main_Changed(const Form&) {}
+    /// What a control of kind Canvas is painted on, or null.
+    virtual Surface* Surface_Of(std::string_view) { return nullptr; }
+};
+
+/// Where a form opens: centred above what is in front, below a control of the main form, at a
+/// place of the screen, or beside a point of the main canvas. There its left edge is 5 pixels to
+/// the right of the point, or its right edge 9 to the left of it where it would pass the canvas's
+/// edge; its top likewise.
+struct Form_Place {
+    enum class Kind { Centred, Below, At, Beside_Point } What = Kind::Centred;
+    std::string Control = {};
+    Long X = 0, Y = 0;  // pixels of the screen or of the canvas
+
+    static Form_Place Below(std::string Control) {
+        return {.What = Kind::Below, .Control = std::move(Control)};
+    }
+    static Form_Place At(Long X, Long Y) { return {.What = Kind::At, .X = X, .Y = Y}; }
+    static Form_Place Beside_Point(Long X, Long Y) {
+        return {.What = Kind::Beside_Point, .X = X, .Y = Y};
+    }
 };
 
 class Form {
@@ -133,11 +168,15 @@ public:
     const std::deque<Control>& Controls() const { return Controls_; }
     /// Whether the layout has it.
     bool Is_Shown(std::string_view Control_Name) const;
-    /// Enabled or visible in itself and in every frame and tab round it.
+    /// Enabled or visible in itself and in every frame and tab round it; on a page that is not
+    /// in front nothing is visible.
     bool Is_Enabled(std::string_view Control_Name) const;
     bool Is_Visible(std::string_view Control_Name) const;
     /// The frame, tab or menu round a control in the layout; "" when there is none.
     const std::string& Parent(std::string_view Control_Name) const;
+    /// The pages of the control Tabs, in order; and which one of its Tabs a page is.
+    const std::vector<std::string>& Pages(std::string_view Tabs) const;
+    Long Page_Number(std::string_view Page) const;
     /// The control with the focus, "" when none has it.
     const std::string& Focus() const { return Focus_; }
 
@@ -148,6 +187,7 @@ public:
     void Set_Value(std::string_view Control_Name, Long Value);
     void Set_Items(std::string_view Control_Name, std::vector<std::string> Items, Long Value);
     void Set_Shown(std::string_view Control_Name, const Picture* Shown);
+    void Set_Colour(std::string_view Control_Name, Long Colour, Long Back = Usual_Colour);
     void Set_Enabled(std::string_view Control_Name, bool On);
     void Set_Visible(std::string_view Control_Name, bool On);
     void Set_Title(std::string_view Title);
@@ -155,6 +195,9 @@ public:
     void Set_Focus(std::string_view Control_Name);
     /// Rewords every caption, tip and item that has wordings, and the title.
     void Set_Language(std::string_view Language);
+    /// A form that is not modal stays above the main one, as at first, or can lie behind it.
+    void Set_Above_Main(bool On);
+    bool Is_Above_Main() const { return Above_Main_; }
     /// Ends a form that is shown: whoever runs it returns. Once is enough.
     void Close(Form_End End);
 
@@ -165,10 +208,15 @@ public:
     std::function<void()> On_Load = {};
     std::function<void()> On_Tick = {};
     Int Tick_Ms = 0;
+    /// When the form has been closed, by whatever way.
+    std::function<void()> On_Unload = {};
+    /// Whether others wait until it is closed; set by whoever runs it.
+    bool Modal = false;
     /// Sees every key before the controls do; true when it was used.
     std::function<bool(Key_Event)> On_Key = {};
-    /// A control of the window in front beside which a dialog opens; otherwise it is centred.
-    std::string Beside = {};
+    Form_Place Place = {};
+    /// Without title and frame, and as small as what it holds; a click elsewhere closes it.
+    bool Frameless = false;
     /// Letters that the form itself takes with Alt: no menu may have them as its own.
     std::string Reserved_Keys = {};
     /// A file was dropped on the form; its path in the program's form.
@@ -192,9 +240,11 @@ private:
     std::deque<Control> Controls_;  // grows without moving what stands
     std::map<std::string, std::size_t, std::less<>> Row_;
     std::map<std::string, std::string, std::less<>> Parent_;
+    std::map<std::string, std::vector<std::string>, std::less<>> Pages_;  // by Tabs
     Layout Root_;
     std::string Focus_;
     std::string Typed_;  // the field whose text was typed and is not accepted yet
+    bool Above_Main_ = true;
     bool Closed_ = false;
     Form_End End_ = Form_End::Closed;
 };

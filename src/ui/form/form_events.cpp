@@ -26,11 +26,6 @@ bool Is_Field(const Control& C) {
     return C.Kind == Control_Kind::Text || C.Kind == Control_Kind::Number;
 }
 
-bool In_Reach(const Form& F, std::string_view Name) {
-    return !F.Is_Closed() && F.Has(Name) && F.Is_Shown(Name) && F.Is_Visible(Name) &&
-           F.Is_Enabled(Name);
-}
-
 // A handler before this one may have closed the form, and this one may replace itself.
 void Run(const Form& F, const std::function<void()>& Handler) {
     const auto Kept = Handler;
@@ -79,7 +74,7 @@ bool Move_Focus(Form& F, const Control& To) {
     if (F.Focus() == To.Name)
         return Looks_At_No_Field(To) || Access::Typed(F) == To.Name || Accept_Typed(F);
     if (!Looks_At_No_Field(To) && !Leave_Field(F)) return false;
-    if (!In_Reach(F, To.Name)) return false;  // no longer, after what the leaving did
+    if (!Form_In_Reach(F, To.Name)) return false;  // no longer, after what the leaving did
     Access::Focus(F) = To.Name;
     if (Is_Field(To)) Focus_Back(F, To);
     Run(F, To.On_Entry);
@@ -104,12 +99,12 @@ bool Takes_Focus(const Control& C) {
 // Whether C may be used now: the field that had the focus is left first.
 bool Reach(Form& F, const Control& C) {
     if (Looks_At_No_Field(C)) return true;
-    return (Takes_Focus(C) ? Move_Focus(F, C) : Accept_Typed(F)) && In_Reach(F, C.Name);
+    return (Takes_Focus(C) ? Move_Focus(F, C) : Accept_Typed(F)) && Form_In_Reach(F, C.Name);
 }
 
 const Control* With_Role(const Form& F, Button_Role Role) {
     for (const Control& C : F.Controls())
-        if (C.Kind == Control_Kind::Button && C.Role == Role && In_Reach(F, C.Name)) return &C;
+        if (C.Kind == Control_Kind::Button && C.Role == Role && Form_In_Reach(F, C.Name)) return &C;
     return nullptr;
 }
 
@@ -140,17 +135,46 @@ bool Escape_Key(Form& F, const Control* Focused) {
         return true;
     }
     const Control* Cancel = With_Role(F, Button_Role::Cancel);
-    return Cancel != nullptr && Form_Click(F, Cancel->Name);
+    if (Cancel != nullptr) return Form_Click(F, Cancel->Name);
+    if (F.Modal) Form_User_Close(F);
+    return F.Modal;
+}
+
+// Items of a control to choose from, pages of Tabs.
+Long Nb_Choices(const Form& F, const Control& C) {
+    if (C.Kind == Control_Kind::Tabs) return static_cast<Long>(F.Pages(C.Name).size());
+    const bool Painted = C.Kind == Control_Kind::Options && C.Items.empty();
+    return static_cast<Long>(Painted ? C.Colours.size() : C.Items.size());
+}
+
+bool Can_Choose(const Form& F, const Control& C, Long I) {
+    if (I < 0 || I >= Nb_Choices(F, C)) return false;
+    if (C.Kind != Control_Kind::Tabs) return true;
+    const Control& Page = F[F.Pages(C.Name)[static_cast<std::size_t>(I)]];
+    return Page.Enabled && Page.Visible;
+}
+
+// The control with the focus may have gone to the back with its page.
+void Leave_What_Is_Hidden(Form& F) {
+    const std::string From = F.Focus();
+    if (From.empty() || F.Is_Visible(From)) return;
+    Access::Focus(F).clear();
+    Run(F, F[From].On_Leave);
 }
 
 }  // namespace
+
+bool Form_In_Reach(const Form& F, std::string_view Name) {
+    return !F.Is_Closed() && F.Has(Name) && F.Is_Shown(Name) && F.Is_Visible(Name) &&
+           F.Is_Enabled(Name);
+}
 
 void Form_Load(Form& F) {
     Run(F, F.On_Load);
 }
 
 bool Form_Click(Form& F, std::string_view Name) {
-    if (!In_Reach(F, Name)) return false;
+    if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
     if (!Reach(F, C)) return false;
     if (C.Kind == Control_Kind::Check) {
@@ -162,33 +186,48 @@ bool Form_Click(Form& F, std::string_view Name) {
 }
 
 bool Form_Double_Click(Form& F, std::string_view Name) {
-    if (!In_Reach(F, Name)) return false;
+    if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
     if (!Reach(F, C)) return false;
     Run(F, C.On_Double_Click);
+    Run(F, C.On_Choose);
+    return true;
+}
+
+bool Form_Open_Chooser(Form& F, std::string_view Name) {
+    if (!Form_In_Reach(F, Name) || !F[Name].On_Choose || !Reach(F, F[Name])) return false;
+    Run(F, F[Name].On_Choose);
     return true;
 }
 
 bool Form_Choose(Form& F, std::string_view Name, Long I) {
-    if (!In_Reach(F, Name)) return false;
+    if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
-    const Long Nb = C.Kind == Control_Kind::Options && C.Items.empty()
-                        ? static_cast<Long>(C.Colours.size())
-                        : static_cast<Long>(C.Items.size());
-    if (C.Kind != Control_Kind::Tabs && (I < 0 || I >= Nb)) return false;
+    if (!Can_Choose(F, C, I)) return false;
     if (!Reach(F, C)) {
         Access::Tell(F, C);  // the toolkit shows the choice already
         return false;
     }
     const bool Other = C.Value != I;
     F.Set_Value(Name, I);
+    Leave_What_Is_Hidden(F);
     if (Other) Run(F, C.On_Change);
     Run(F, C.On_Click);
     return true;
 }
 
+bool Form_Bring_To_Front(Form& F, std::string_view Name) {
+    const std::string Round = F.Parent(Name);
+    if (Round.empty()) return F.Is_Shown(Name);
+    if (!Form_Bring_To_Front(F, Round)) return false;
+    if (F[Round].Kind != Control_Kind::Tab) return true;
+    const std::string& Tabs = F.Parent(Round);
+    const Long Page = F.Page_Number(Round);
+    return F[Tabs].Value == Page || Form_Choose(F, Tabs, Page);
+}
+
 bool Form_Scroll(Form& F, std::string_view Name, Long Value) {
-    if (!In_Reach(F, Name)) return false;
+    if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
     F.Set_Value(Name, std::clamp<Long>(Value, 0, C.Max));
     Run(F, C.On_Change);
@@ -196,17 +235,19 @@ bool Form_Scroll(Form& F, std::string_view Name, Long Value) {
 }
 
 bool Form_Type(Form& F, std::string_view Name, std::string_view Text) {
-    if (!In_Reach(F, Name)) return false;
+    if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
     if (!Is_Field(C) || C.Read_Only || !Form_Enter_Control(F, Name)) return false;
-    F.Set_Text(Name, Text);
+    std::string Kept(Text);
+    if (C.No_Quotes) std::ranges::replace(Kept, '"', '\'');
+    F.Set_Text(Name, Kept);
     Access::Typed(F) = C.Name;
     Run(F, C.On_Change);
     return true;
 }
 
 bool Form_Enter_Control(Form& F, std::string_view Name) {
-    if (!In_Reach(F, Name)) return false;
+    if (!Form_In_Reach(F, Name)) return false;
     return Move_Focus(F, F[Name]);
 }
 
@@ -217,16 +258,18 @@ bool Form_Leave(Form& F) {
 bool Form_Key(Form& F, Key_Event K) {
     if (F.Is_Closed()) return false;
     if (F.On_Key && F.On_Key(K)) return true;
-    const Control* Focused = !F.Focus().empty() && In_Reach(F, F.Focus()) ? &F[F.Focus()] : nullptr;
+    const Control* Focused =
+        !F.Focus().empty() && Form_In_Reach(F, F.Focus()) ? &F[F.Focus()] : nullptr;
     if (Focused != nullptr && Focused->On_Key && Focused->On_Key(K)) return true;
     if (K.Shift != 0) return false;
     if (K.Code == Key_Enter) return Enter_Key(F, Focused);
     if (K.Code == Key_Escape) return Escape_Key(F, Focused);
+    if (K.Code == Key_F4) return Focused != nullptr && Form_Open_Chooser(F, Focused->Name);
     return false;
 }
 
 bool Form_Mouse(Form& F, std::string_view Name, const Mouse_Event& E) {
-    if (!In_Reach(F, Name)) return false;
+    if (!Form_In_Reach(F, Name)) return false;
     const Control& C = F[Name];
     if (!C.On_Mouse) return false;
     C.On_Mouse(E);

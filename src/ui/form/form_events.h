@@ -16,9 +16,17 @@ void Form_Load(Form& F);
 /// A click: a button or menu item is pressed, a check box turned, a read-only field clicked.
 bool Form_Click(Form& F, std::string_view Name);
 bool Form_Double_Click(Form& F, std::string_view Name);
+/// Opens the chooser of a field that has one, as its double click does.
+bool Form_Open_Chooser(Form& F, std::string_view Name);
 
-/// Item I of Options, a List or a Combo, page I of Tabs.
+/// Item I of Options, a List or a Combo, page I of Tabs; the one chosen before counts too.
 bool Form_Choose(Form& F, std::string_view Name, Long I);
+/// Brings every page round a control to the front. False when one is disabled or hidden, or the
+/// field that would be left refused its text.
+bool Form_Bring_To_Front(Form& F, std::string_view Name);
+/// Whether the user can reach a control now: the form is open, the control in the layout, visible
+/// and enabled.
+bool Form_In_Reach(const Form& F, std::string_view Name);
 bool Form_Scroll(Form& F, std::string_view Name, Long Value);
 
 /// The text of a field is now Text; Enter, Escape or leaving the field follow.
@@ -35,8 +43,9 @@ bool Form_Leave(Form& F);
 /// A key, with the focus where it is. The form sees it first, then the control with the focus.
 /// Enter after them: accepts what was typed into a field; else presses the button, clicks the
 /// read-only field or double-clicks the chosen item of the list that has the focus; else presses
-/// Ok. Escape puts back the value held if something was typed; else presses Cancel. True when
-/// the key was used.
+/// Ok. Escape puts back the value held if something was typed; else presses Cancel; else closes
+/// a modal form as its own close button does. F4 opens the chooser of the field. True when the
+/// key was used.
 bool Form_Key(Form& F, Key_Event K);
 
 bool Form_Mouse(Form& F, std::string_view Name, const Mouse_Event& E);

@@ -12,6 +12,8 @@ std::map<std::string, Form_Maker, std::less<>>& Register() {
     return List;
 }
 
+std::vector<std::shared_ptr<Form>> Opened;  // some may be closed
+
 }  // namespace
 
 void Form_Register(std::string Name, Form_Maker Make) {
@@ -32,7 +34,33 @@ std::unique_ptr<Form> Form_Make(std::string_view Name) {
 Form_End Form_Run(std::string_view Name, Form_Host& Host) {
     const std::unique_ptr<Form> F = Form_Make(Name);
     if (!F) return Form_End::Absent;
+    F->Modal = true;
     Form_Load(*F);
     if (!F->Is_Closed()) Host.Run_Modal(*F);
     return F->End();
+}
+
+std::vector<std::shared_ptr<Form>> Forms_Open() {
+    std::erase_if(Opened, [](const auto& F) { return F->Is_Closed(); });
+    return Opened;
+}
+
+bool Form_Open(std::string_view Name, Form_Host& Host) {
+    for (const auto& F : Forms_Open())
+        if (F->Name() == Name) return true;
+    std::shared_ptr<Form> F = Form_Make(Name);
+    if (!F) return false;
+    Opened.push_back(F);
+    Form_Load(*F);
+    if (!F->Is_Closed()) Host.Show_Open(F);
+    return true;
+}
+
+void Forms_Close() {
+    for (const auto& F : Forms_Open()) F->Close(Form_End::Closed);
+    Opened.clear();
+}
+
+void Forms_Forget() {
+    Opened.clear();
 }

@@ -8,12 +8,16 @@
 #include <utility>
 #include <vector>
 
+#include "core/numbers.h"
+
 struct Layout {
     enum class Kind {
         Control,     // the control Name
+        Option,      // item Nb of the Options Name by itself; the others stand elsewhere
         Column,      // Parts one below the other
         Row,         // Parts side by side, sharing the width
         Fields,      // Parts one below the other, their labels in a column of their own
+        Grid,        // Parts in Nb columns of equal length, read downwards
         Frame,       // a box round Parts (a column) with the caption of control Name
         Tabs,        // the tab control Name: each part is a Tab
         Tab,         // a column; its caption is that of control Name, of kind Tab
@@ -30,13 +34,14 @@ struct Layout {
     Kind What = Kind::Column;
     std::string Name;
     std::vector<Layout> Parts = {};
+    Long Nb = 0;
 
     Layout() = default;
     /// A control by its name, so that lists of names read as they are.
     Layout(const char* Control) : What(Kind::Control), Name(Control) {}
     Layout(std::string Control) : What(Kind::Control), Name(std::move(Control)) {}
-    Layout(Kind K, std::string N, std::vector<Layout> P)
-        : What(K), Name(std::move(N)), Parts(std::move(P)) {}
+    Layout(Kind K, std::string N, std::vector<Layout> P, Long Number = 0)
+        : What(K), Name(std::move(N)), Parts(std::move(P)), Nb(Number) {}
 };
 
 using Layouts = std::vector<Layout>;
@@ -49,6 +54,14 @@ inline Layout Row(Layouts Parts) {
 }
 inline Layout Fields(Layouts Parts) {
     return {Layout::Kind::Fields, {}, std::move(Parts)};
+}
+inline Layout Grid(Long Columns, Layouts Parts) {
+    return {Layout::Kind::Grid, {}, std::move(Parts), Columns};
+}
+/// So that other controls can stand beside each option: every item of the Options must have its
+/// place somewhere.
+inline Layout Option(std::string Name, Long I) {
+    return {Layout::Kind::Option, std::move(Name), {}, I};
 }
 inline Layout Frame(std::string Name, Layouts Parts) {
     return {Layout::Kind::Frame, std::move(Name), std::move(Parts)};
