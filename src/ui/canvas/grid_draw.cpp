@@ -59,18 +59,11 @@ Lines_In_View Find_Lines(const Grid_Axis& A) {
     return L;
 }
 
-void Find_Grid_In_View() {
-    The_Grid_In_View = {};
-    const Long Cols = Fix_Lng((LonGridSE - LonGridNW) / Cell_StepLon + 0.1);
-    const Long Rows = Fix_Lng((LatGridNW - LatGridSE) / Cell_StepLat + 0.1);
-    const Pic_Px NW = Map_To_Pic({XGridNW, YGridNW});
-    const Pic_Px SE = Map_To_Pic({XGridSE, YGridSE});
-    const Grid_Axis X{NW.X, SE.X, (XGridSE - XGridNW) * Zoom / Cols, Cols, Pic_Width};
-    const Grid_Axis Y{NW.Y, SE.Y, (YGridSE - YGridNW) * Zoom / Rows, Rows, Pic_Height};
-    if (!Can_Be_Shown(X, Cols_Of_Globe) || !Can_Be_Shown(Y, Rows_Of_Globe)) return;
-    const Lines_In_View In_X = Find_Lines(X), In_Y = Find_Lines(Y);
-    The_Grid_In_View = {In_X.First, In_X.Last, In_Y.First, In_Y.Last, In_X.From,
-                        In_X.To,    In_Y.From, In_Y.To,    X.Cell_Px, Y.Cell_Px};
+// The grid's edges lie at First_Px and Last_Px, or half a Cell before them.
+Grid_Axis Make_Axis(Double First_Px, Double Last_Px, Double Cell_Px, Long Cells, Long Pic_Size,
+                    Grid_Place Where) {
+    const Double Shift = Where == Grid_Place::On_Corners ? Cell_Px / 2.0 : 0.0;
+    return {First_Px - Shift, Last_Px - Shift, Cell_Px, Cells, Pic_Size};
 }
 
 // Pen of the line at Degrees: an edge of Areas stands out.
@@ -100,7 +93,26 @@ private:
     bool Any_ = false;
 };
 
-void Paint_Lines(const Grid_In_View& G) {
+}  // namespace
+
+void Grid_Find(Grid_Place Where) {
+    The_Grid_In_View = {};
+    const Long Cols = Fix_Lng((LonGridSE - LonGridNW) / Cell_StepLon + 0.1);
+    const Long Rows = Fix_Lng((LatGridNW - LatGridSE) / Cell_StepLat + 0.1);
+    const Pic_Px NW = Map_To_Pic({XGridNW, YGridNW});
+    const Pic_Px SE = Map_To_Pic({XGridSE, YGridSE});
+    const Double Cell_W = (XGridSE - XGridNW) * Zoom / Cols;
+    const Double Cell_H = (YGridSE - YGridNW) * Zoom / Rows;
+    const Grid_Axis X = Make_Axis(NW.X, SE.X, Cell_W, Cols, Pic_Width, Where);
+    const Grid_Axis Y = Make_Axis(NW.Y, SE.Y, Cell_H, Rows, Pic_Height, Where);
+    if (!Can_Be_Shown(X, Cols_Of_Globe) || !Can_Be_Shown(Y, Rows_Of_Globe)) return;
+    const Lines_In_View In_X = Find_Lines(X), In_Y = Find_Lines(Y);
+    The_Grid_In_View = {In_X.First, In_X.Last, In_Y.First, In_Y.Last, In_X.From,
+                        In_X.To,    In_Y.From, In_Y.To,    Cell_W,    Cell_H};
+}
+
+void Grid_Draw_Lines() {
+    const Grid_In_View& G = The_Grid_In_View;
     Line_Painter Painter;
     const Long Left = Round_Lng(G.Grid_X0), Right = Round_Lng(G.Grid_X1);
     const Long Top = Round_Lng(G.Grid_Y0), Bottom = Round_Lng(G.Grid_Y1);
@@ -118,12 +130,10 @@ void Paint_Lines(const Grid_In_View& G) {
         }
 }
 
-}  // namespace
-
 void Grid_Draw(Grid_Marks Marks) {
-    Find_Grid_In_View();
+    Grid_Find();
     if (!Show_Grid) return;
-    Paint_Lines(The_Grid_In_View);
+    Grid_Draw_Lines();
     Grid_Marks_Draw(Marks);
     The_Surface().Refresh();
 }

@@ -2,22 +2,12 @@
 #include "ui/canvas/grid_marks.h"
 
 #include "grid/terrain_grid.h"
-#include "ui/canvas/surface.h"
 
 namespace {
 
 constexpr Double Least_Cell_W = 5.0;  // canvas pixels; marks on smaller squares tell nothing
 
-constexpr Long Yellow = 0xFFFF00, Blue = 0x0000FF, Magenta = 0xFF00FF, Black = 0x000000,
-               Grey = 0xA0A0A0;
-
-Int Nb_Hatch_Lines(Double Cell_W) {
-    if (Cell_W < 11.0) return 1;
-    if (Cell_W < 31.0) return 2;
-    if (Cell_W < 81.0) return 3;
-    if (Cell_W < 150.0) return 4;
-    return 6;
-}
+constexpr Long Yellow = 0xFFFF00, Blue = 0x0000FF, Magenta = 0xFF00FF, Black = 0x000000;
 
 Long Colour_Of_Attrib(Byte Attrib) {
     if (Attrib == 0) return Blue;
@@ -31,33 +21,44 @@ Long Colour_Of(const Lod8& L) {
     return Colour_Of_Attrib(L.Attrib);
 }
 Long Colour_Of(const Excl&) {
-    return Grey;
+    return Hatch_Grey;
 }
 
 template <typename R>
 void Draw_Marks(const Table<R>& Tab) {
     if (Tab.Nb() == 0) return;
-    const Double Cell_W = The_Grid_In_View.Cell_W;
-    const Int N = Nb_Hatch_Lines(Cell_W);
-    Line_Batch Out;
-    Squares_In_View().For_Each_Record(Tab, [&](const Square_Px& S, const R& Record) {
-        const Pen With{.Colour = Colour_Of(Record), .Style = Line_Style::Dotted};
-        for (Int K = 1; K <= N; ++K) {
-            const Long X = Round_Lng(S.Left + K * Cell_W / (N + 1));
-            Out.Add({X, S.Top, X, S.Bottom}, With);
-        }
-    });
+    Hatching Hatches;
+    Squares_In_View().For_Each_Record(
+        Tab, [&](const Square_Px& S, const R& Record) { Hatches.Paint(S, Colour_Of(Record)); });
 }
 
 }  // namespace
 
+bool Marks_Fit() {
+    return The_Grid_In_View.Cell_W >= Least_Cell_W;
+}
+
+Hatching::Hatching() : Cell_W_(The_Grid_In_View.Cell_W) {
+    Nb_ = Cell_W_ < 11.0 ? 1 : Cell_W_ < 31.0 ? 2 : Cell_W_ < 81.0 ? 3 : Cell_W_ < 150.0 ? 4 : 6;
+}
+
+void Hatching::Paint(const Square_Px& S, Long Colour) {
+    const Pen With{.Colour = Colour, .Style = Line_Style::Dotted};
+    for (Int K = 1; K <= Nb_; ++K) {
+        const Long X = Round_Lng(S.Left + K * Cell_W_ / (Nb_ + 1));
+        Out_.Add({X, S.Top, X, S.Bottom}, With);
+    }
+}
+
+Cell_Pos Cell_Of_Pixel(Pix P) {
+    return LatLon_To_Cell(Pixel_To_LatLon(P));
+}
+
 // Longitude follows the column and latitude the row, so one place of each is enough.
-Squares_In_View::Squares_In_View() {
+Squares_In_View::Squares_In_View(Cell_Pos (*Cell_Of)(Pix)) {
     const Grid_In_View& G = The_Grid_In_View;
     if (G.First_Col == 0 || G.First_Row == 0) return;
-    const auto Cell_At = [](Double X, Double Y) {
-        return LatLon_To_Cell(Pixel_To_LatLon(Pic_To_Map({X, Y})));
-    };
+    const auto Cell_At = [Cell_Of](Double X, Double Y) { return Cell_Of(Pic_To_Map({X, Y})); };
     for (Long J = 0; J < G.Last_Col - G.First_Col; ++J) {
         const Long From = Round_Lng(J * G.Cell_W + G.Grid_X0);
         const Long To = Round_Lng((J + 1) * G.Cell_W + G.Grid_X0);
@@ -78,7 +79,7 @@ Squares_In_View::Squares_In_View() {
 }
 
 void Grid_Marks_Draw(Grid_Marks Marks) {
-    if (!(The_Grid_In_View.Cell_W >= Least_Cell_W)) return;
+    if (!Marks_Fit()) return;
     if (Marks == Grid_Marks::Areas) Draw_Marks(Tab_Area);
     if (Marks == Grid_Marks::Lod8s) Draw_Marks(Tab_Lod8);
     if (Marks == Grid_Marks::Excls) Draw_Marks(Tab_Excl);

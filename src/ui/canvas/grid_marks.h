@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/model.h"
+#include "ui/canvas/surface.h"
 #include "ui/canvas/view.h"
 
 /// A square of the grid on the canvas, in canvas pixels, and its Cell.
@@ -15,11 +16,14 @@ struct Square_Px {
     Cell_Pos Cell = {};
 };
 
-/// The squares that The_Grid_In_View shows, by column and row. The Cell of each is the one under
-/// its centre.
+/// The Cell that a map pixel lies in.
+Cell_Pos Cell_Of_Pixel(Pix P);
+
+/// The squares that The_Grid_In_View shows, by column and row. The Cell of each is the one that
+/// Cell_Of finds under its centre.
 class Squares_In_View {
 public:
-    Squares_In_View();
+    explicit Squares_In_View(Cell_Pos (*Cell_Of)(Pix) = Cell_Of_Pixel);
     bool Is_Empty() const { return Cols_.empty() || Rows_.empty(); }
 
     /// Calls Paint(Square, Record) for each square in view of which Tab has a record, row by row;
@@ -57,6 +61,24 @@ private:
 
     std::vector<Stripe> Cols_, Rows_;
     Int First_Lon_ = 0, Last_Lon_ = -1, First_Lat_ = 0, Last_Lat_ = -1;  // Areas
+};
+
+/// Whether squares are wide enough to bear marks.
+bool Marks_Fit();
+
+inline constexpr Long Hatch_Grey = 0xA0A0A0;
+
+/// Hatches squares of The_Grid_In_View with upright dotted lines, as many as their width bears.
+/// What was painted stands on the surface at the end of its life.
+class Hatching {
+public:
+    Hatching();
+    void Paint(const Square_Px& S, Long Colour);
+
+private:
+    Double Cell_W_;
+    Int Nb_;  // lines in a square
+    Line_Batch Out_;
 };
 
 /// Hatches the squares in view that have a record.

@@ -117,6 +117,7 @@ struct Reach {
 class Object_Painter {
 public:
     void Paint(const Obj& O, const Pen& With) {
+        if (O.Nb_Pts == 1) return Paint_Block(O, With);
         const Reach Seen(With.Width);
         Long P = O.First_Pt;
         Pic_Px A = On_Canvas(Tab_Pt[P]);
@@ -126,6 +127,13 @@ public:
             Paint_Segment(A, B, Seen, With);
             A = B;
         }
+    }
+
+    void Paint_Block(const Obj& O, const Pen& With) {
+        const Pic_Px P = On_Canvas(Tab_Pt[O.First_Pt]);
+        if (Is_Far(P)) return;
+        const Long X = Round_Lng(P.X), Y = Round_Lng(P.Y);
+        for (Long D = -1; D <= 1; ++D) Out_.Add({X - 1, Y + D, X + 1, Y + D}, With);
     }
 
     bool May_Be_Seen(const Extent& B) const {
@@ -154,14 +162,21 @@ private:
 
 }  // namespace
 
-void Objects_Draw(const std::function<std::optional<Pen>(Long Row)>& Pen_Of) {
+void Objects_Draw(const std::function<std::optional<Pen>(Long Row)>& Pen_Of,
+                  Single_Points Singles) {
     const std::vector<Extent>& Extents = Extents_Now();
+    const Long Fewest = Singles == Single_Points::As_Blocks ? 1 : 2;
     Object_Painter Painter;
     for (Long I = First_Obj; I <= Nb_Obj; ++I) {
-        if (!Painter.May_Be_Seen(Extents[static_cast<std::size_t>(I)]) || Tab_Obj[I].Nb_Pts < 2)
+        const Obj& O = Tab_Obj[I];
+        if (O.Nb_Pts < Fewest || !Painter.May_Be_Seen(Extents[static_cast<std::size_t>(I)]))
             continue;
-        if (const std::optional<Pen> With = Pen_Of(I)) Painter.Paint(Tab_Obj[I], *With);
+        if (const std::optional<Pen> With = Pen_Of(I)) Painter.Paint(O, *With);
     }
+}
+
+void Object_Paint(Long Row, const Pen& With) {
+    if (Tab_Obj[Row].Nb_Pts > 0) Object_Painter().Paint(Tab_Obj[Row], With);
 }
 
 void Objects_Draw_Backdrop() {

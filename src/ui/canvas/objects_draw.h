@@ -6,7 +6,15 @@
 
 #include "ui/canvas/surface.h"
 
+enum class Single_Points { Left_Out, As_Blocks };
+
 /// Paints the segments of every object that can be seen, in the order of Tab_Obj, with the pen
-/// that Pen_Of gives for its row; one without a pen is left out, as is one of a single point.
+/// that Pen_Of gives for its row; one without a pen is left out. Singles tells of those that have
+/// one point: left out, or painted as a block of 3 by 3 pixels.
 /// What lies wholly outside the canvas is not handed to the surface and costs next to nothing.
-void Objects_Draw(const std::function<std::optional<Pen>(Long Row)>& Pen_Of);
+void Objects_Draw(const std::function<std::optional<Pen>(Long Row)>& Pen_Of,
+                  Single_Points Singles = Single_Points::Left_Out);
+
+/// Paints the object in that row of Tab_Obj above what stands on the surface: its segments, or
+/// the block of its single point. Nothing when it has no points. Does not refresh.
+void Object_Paint(Long Row, const Pen& With);

@@ -23,7 +23,7 @@ struct Line_Px {
     bool operator==(const Line_Px&) const = default;
 };
 
-enum class Line_Style { Solid, Dotted };
+enum class Line_Style { Solid, Dashed, Dotted };
 
 struct Pen {
     Long Colour = 0;
@@ -31,6 +31,14 @@ struct Pen {
     Line_Style Style = Line_Style::Solid;
     bool operator==(const Pen&) const = default;
 };
+
+struct Size_Px {
+    Long W = 0, H = 0;
+    bool operator==(const Size_Px&) const = default;
+};
+
+struct Overlay_Items;
+struct Overlay_Label;
 
 class Surface {
 public:
@@ -46,6 +54,10 @@ public:
     virtual void Set_Cursor(Pointer_Shape Shape) = 0;
     /// An overlay item has moved, appeared or gone; nothing is painted anew but these.
     virtual void Overlay_Changed() = 0;
+    /// The items that lie above it from now on, which must live longer; at first The_Overlay.
+    virtual void Set_Overlay(const Overlay_Items&) {}
+    /// The room that L takes with its present text.
+    virtual Size_Px Label_Size(const Overlay_Label&) { return {100, 17}; }
 };
 
 /// Takes everything and shows nothing.
@@ -101,6 +113,7 @@ struct Overlay_Line {
     Line_Px At = {};
     Long Colour = 0xFF0000;
     bool Visible = false;
+    Line_Style Style = Line_Style::Solid;
 };
 
 /// A circle round (X, Y), Diameter pixels across, outlined in Colour.
@@ -115,15 +128,19 @@ struct Overlay_Label {
     Long X = 0, Y = 0;  // its top left
     std::string Text = {};
     bool Visible = false;
+    Long Back_Colour = 0xFFFFC0;
 };
 
-/// Drawn above the surface in this order, and moved without a redraw: rubber bands of drawing,
-/// edges of the texture being dragged, marker of the selected point, altitude under the mouse.
+/// Drawn above the surface, the later above the earlier, and moved without a redraw: rubber
+/// bands of drawing, edges of the texture being dragged, marker of the selected point, altitude
+/// under the mouse, cross of the aircraft.
 struct Overlay_Items {
     Overlay_Line Ln1, Ln2;
-    Overlay_Line LnHIma1, LnHIma2, LnVIma1, LnVIma2;
+    Overlay_Line LnHIma1{.Style = Line_Style::Dotted}, LnHIma2{.Style = Line_Style::Dotted};
+    Overlay_Line LnVIma1{.Style = Line_Style::Dotted}, LnVIma2{.Style = Line_Style::Dotted};
     Overlay_Circle Cercle;
     Overlay_Label LPtGrid;
+    Overlay_Line Croix1, Croix2;
 };
 
 inline Overlay_Items The_Overlay;

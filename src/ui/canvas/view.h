@@ -122,10 +122,18 @@ void Map_Blit_View();
 enum class Grid_Marks { None, Areas, Lod8s, Excls };
 /// Works out the visible grid and paints it with the marks on squares.
 void Grid_Draw(Grid_Marks Marks = Grid_Marks::None);
+
+/// The parts of Grid_Draw. Squares are those of the grid, or lie half a square further to the
+/// west and north, so that each has a corner of the grid in its middle.
+enum class Grid_Place { On_Cells, On_Corners };
+/// Fills The_Grid_In_View; paints nothing.
+void Grid_Find(Grid_Place Where = Grid_Place::On_Cells);
+/// Paints the lines of The_Grid_In_View.
+void Grid_Draw_Lines();
 /// Every object with two points or more, in the backdrop style.
 void Objects_Draw_Backdrop();
 
-/// The part of the grid in view, as Grid_Draw last found it: columns and rows from 1, 0 in
+/// The part of the grid in view, as Grid_Find last found it: columns and rows from 1, 0 in
 /// First_Col or First_Row when there is none; canvas pixels of the first and last line, and
 /// of a Cell.
 struct Grid_In_View {
