@@ -36,6 +36,7 @@ struct Program_State {
     Long Grid_Colour = 0xC0C0C0;  // RGB
     Int Grid_Colour_Index = 2;    // its place in the colour dialog
     std::array<Palette_Entry, 256> Pal_Fs5{};
+    Int Pal_Lacks = 0;  // 1 from a start without a whole palette file until the user is told
 };
 
 inline Program_State The_Program;

@@ -5,6 +5,7 @@
 #include "core/lifecycle.h"
 #include "core/messages.h"
 #include "core/model_ops.h"
+#include "core/palette.h"
 #include "core/program.h"
 #include "core/settings.h"
 #include "core/view_calls.h"
@@ -14,7 +15,6 @@
 
 namespace {
 
-constexpr std::size_t Palette_Bytes = std::size_t{256} * 3;
 constexpr std::size_t Shortest_Command_Line = 3;
 constexpr Int Fewest_Bits_Per_Pixel = 8;
 
@@ -40,16 +40,6 @@ bool Display_Serves() {
         return false;
     }
     return true;
-}
-
-// Without the file, which belongs to the simulator's world, all colours stay black.
-void Read_Palette() {
-    Pal_Fs5.fill({});
-    const auto Bytes = File_Read(App_Path + "\\Fs5.pal");
-    if (!Bytes || Bytes->size() != Palette_Bytes) return;
-    const auto At = [&](std::size_t I) { return static_cast<Byte>((*Bytes)[I]); };
-    for (std::size_t I = 0; I < Pal_Fs5.size(); ++I)
-        Pal_Fs5[I] = {.Blue = At(3 * I + 2), .Green = At(3 * I + 1), .Red = At(3 * I), .Zero = 0};
 }
 
 void Set_Up_Main_Form() {
@@ -108,7 +98,7 @@ bool Program_Start(std::string_view Command_Line, std::string_view App_Dir) {
         Instance_Release();
         return false;
     }
-    Read_Palette();
+    Pal_Load();
     Read_Settings();
     Set_Up_Main_Form();
     Confirm_Parameters();

@@ -77,6 +77,12 @@ bool File_Delete(std::string_view Path) {
     return fs::remove(*Native, Error);
 }
 
+bool File_Same(std::string_view A, std::string_view B) {
+    const std::optional<fs::path> Native_A = Native_Path(A), Native_B = Native_Path(B);
+    std::error_code Error;
+    return Native_A && Native_B && fs::equivalent(*Native_A, *Native_B, Error);
+}
+
 bool File_Copy(std::string_view From, std::string_view To) {
     std::ifstream In = Open_To_Read(From);
     if (!In.is_open()) return false;

@@ -19,6 +19,9 @@ bool Dir_Create(std::string_view Path);  // with its parents; true when it stand
 /// Deletes one file, or a link. False when there was none or it could not be deleted.
 bool File_Delete(std::string_view Path);
 
+/// Whether both paths lead to one file that is there, be it by other names or links.
+bool File_Same(std::string_view A, std::string_view B);
+
 /// Copies a file, replacing an older one.
 bool File_Copy(std::string_view From, std::string_view To);
 
