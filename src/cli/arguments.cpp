@@ -11,6 +11,7 @@ Usage:
   terrafold-cli generate PROJECT [--app-path DIR] [--language FR|US] [--dry-run]
   terrafold-cli resave IN OUT
   terrafold-cli info PROJECT
+  terrafold-cli texture IN OUT.bmp [--palette FILE]
   terrafold-cli --help | --version
 
 generate  writes the scenery sources of PROJECT (a .LWM file) and compiles them with
@@ -21,6 +22,8 @@ generate  writes the scenery sources of PROJECT (a .LWM file) and compiles them 
               message NUMBER TEXT     a message; NUMBER 0 is one without a number
 resave    reads IN and writes it as OUT.
 info      prints counts, extent and outputs of PROJECT as JSON.
+texture   writes the texture file IN, of any format of the simulator, as a bitmap of
+          24 bits and prints what it is.
 
 Options of generate:
   --app-path DIR     directory of the outside tools, where the sources go as well
@@ -29,8 +32,11 @@ Options of generate:
   --language FR|US   language of the messages (default: as in the settings)
   --dry-run          starts no outside tool and takes every start as a success
 
-Exit status: 0 all well, 1 a message was shown, 2 wrong usage, 3 the project could
-not be opened.
+Option of texture:
+  --palette FILE     colours of textures of type R8 (default: Fs5.pal of the home)
+
+Exit status: 0 all well, 1 a message was shown or IN is no texture, 2 wrong usage,
+3 the project could not be opened.
 )";
 
 namespace {
@@ -80,7 +86,15 @@ void Parse_Generate_Option(const std::string& Word, Word_List& Words, Cli_Argume
     }
 }
 
-// Files and options behind the command; options are those of generate alone.
+void Parse_Texture_Option(const std::string& Word, Word_List& Words, Cli_Arguments& A) {
+    const bool Taken = Take_Value(Word, "--palette", Words, A.Palette);
+    if (!Taken && Word != "--palette")
+        A.Error = "unknown option " + Word;
+    else if (A.Palette.empty())
+        A.Error = "--palette needs a file";
+}
+
+// Files and options behind the command; options are those of generate and texture.
 void Parse_Rest(Word_List& Words, Cli_Arguments& A, std::size_t Nb_Files, const char* Names) {
     bool Options_Ended = false;
     while (!Words.Empty() && A.Error.empty()) {
@@ -90,6 +104,8 @@ void Parse_Rest(Word_List& Words, Cli_Arguments& A, std::size_t Nb_Files, const 
             Options_Ended = true;
         else if (Is_Option && A.What == Cli_Arguments::Command::Generate)
             Parse_Generate_Option(Word, Words, A);
+        else if (Is_Option && A.What == Cli_Arguments::Command::Texture)
+            Parse_Texture_Option(Word, Words, A);
         else if (Is_Option)
             A.Error = "unknown option " + Word;
         else
@@ -127,6 +143,9 @@ Cli_Arguments Cli_Parse(std::span<const std::string> Words) {
     } else if (Name == "info") {
         A.What = Command::Info;
         Parse_Rest(List, A, 1, "one PROJECT");
+    } else if (Name == "texture") {
+        A.What = Command::Texture;
+        Parse_Rest(List, A, 2, "IN and OUT.bmp");
     } else {
         A.Error = "unknown command " + Name;
     }

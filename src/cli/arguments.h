@@ -5,12 +5,13 @@
 #include <string>
 
 struct Cli_Arguments {
-    enum class Command { Generate, Resave, Info, Help, Version };
+    enum class Command { Generate, Resave, Info, Texture, Help, Version };
     Command What = Command::Help;
-    std::string Project;   // the system's path, as it was typed; so are the next two
-    std::string Target;    // of resave
+    std::string Project;   // or the texture: the system's path, as typed; so are the next two
+    std::string Target;    // of resave and texture
     std::string App_Dir;   // --app-path; empty when not given
     std::string Language;  // --language: "FR" or "US"; empty when not given
+    std::string Palette;   // --palette, the system's path; empty when not given
     bool Dry_Run = false;
 
     std::string Error;  // what is wrong with the command line; empty when it is right

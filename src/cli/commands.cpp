@@ -10,12 +10,15 @@
 #include "cli/project_info.h"
 #include "core/lifecycle.h"
 #include "core/model.h"
+#include "core/palette.h"
 #include "core/program.h"
 #include "core/project_file.h"
 #include "gen/driver.h"
 #include "platform/paths.h"
 #include "platform/program_dir.h"
 #include "platform/settings_file.h"
+#include "platform/text1252.h"
+#include "tex/texture.h"
 
 namespace {
 
@@ -83,6 +86,42 @@ int Info(const Cli_Arguments& A) {
     return Host.Any_Message() ? Message_Shown : All_Well;
 }
 
+// The palette that was given must be whole; that of the home may lack.
+bool Load_Palette(const Cli_Arguments& A) {
+    if (A.Palette.empty()) {
+        Pal_Load();
+        return true;
+    }
+    const auto Path = Typed_Path(A.Palette);
+    if (Path && Pal_Read(*Path, Pal_Fs5)) return true;
+    Complain("the palette is no file of 768 bytes: " + A.Palette);
+    return false;
+}
+
+std::string On_One_Line(std::string Text) {
+    const std::size_t At = Text.find("\r\n");
+    return At == std::string::npos ? Text : Text.replace(At, 2, " ");
+}
+
+int Texture(const Cli_Arguments& A) {
+    Cli_Host Host(stderr, true);
+    const Host_Scope Scope(Host);
+    if (!Load_Palette(A)) return Wrong_Usage;
+    const auto Source = Typed_Path(A.Project), Output = Typed_Path(A.Target);
+    if (!Source || !Output) return Wrong_Usage;
+    std::string Description;
+    Int Error = 0;
+    const Texture_Fault Fault = Texture_To_Bmp(*Source, Pal_Fs5, *Output, Description, Error);
+    if (Fault != Texture_Fault::None) {
+        const bool Is_Output = Fault == Texture_Fault::Not_Written;
+        const std::string Text = Texture_Fault_Text(Fault, Is_Output ? *Output : *Source);
+        Complain(To_Utf8(On_One_Line(Text)));
+        return Message_Shown;
+    }
+    std::printf("%s\n", To_Utf8(Description).c_str());
+    return All_Well;
+}
+
 }  // namespace
 
 int Cli_Run(const std::vector<std::string>& Words) {
@@ -104,6 +143,8 @@ int Cli_Run(const std::vector<std::string>& Words) {
             return Generate(A);
         case Command::Resave:
             return Resave(A);
+        case Command::Texture:
+            return Texture(A);
         default:
             return Info(A);
     }

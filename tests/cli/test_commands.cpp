@@ -8,7 +8,9 @@
 
 #include "core/model_ops.h"
 #include "core/project_file.h"
+#include "support/environment.h"
 #include "support/program_test.h"
+#include "support/texture_file.h"
 
 namespace {
 
@@ -125,6 +127,37 @@ TEST_F(Cli, ResaveKeepsTheProject) {
     const Outcome Onto_Itself = Cli_On({"resave", Copy, Copy});
     EXPECT_EQ(Onto_Itself.Status, 1);
     EXPECT_EQ(Onto_Itself.Out.rfind("message 14 ", 0), 0U) << Onto_Itself.Out;
+}
+
+TEST_F(Cli, TextureToBitmap) {
+    const Environment_Scope Home("TERRAFOLD_HOME", Dir.Native("home").string());
+    const auto Run = [&](const std::string& In, std::vector<std::string> More = {}) {
+        std::vector<std::string> Words = {"texture", Dir.Native(In).string(),
+                                          Dir.Native("out.bmp").string()};
+        Words.insert(Words.end(), More.begin(), More.end());
+        return Cli_On(Words);
+    };
+    Dir.Write("t.bmp", Texture_Bytes({16, "DXT1", 74, 4, 4, "12345678"}));
+    Dir.Write("t.r8", std::string(65'536, '\7'));
+    Dir.Write("p.pal", std::string(768, '\5'));
+    EXPECT_EQ(Run("t.bmp").Out, "Bmp 16 Bits 4x4 \xC3\xA9tendu DXT1\n");
+    EXPECT_EQ(Run("t.r8", {"--palette", Dir.Native("p.pal").string()}).Out,
+              "Texture type .R8 256x256\n");
+    EXPECT_EQ(Dir.Read("out.bmp").substr(54, 3), "\5\5\5");
+    const Outcome Grey = Run("t.r8");
+    EXPECT_EQ(Grey.Status, 0);
+    EXPECT_EQ(Grey.Err.rfind("message 0 ", 0), 0U) << Grey.Err;
+    EXPECT_EQ(Dir.Read("out.bmp").substr(54, 3), "\7\7\7");
+    for (const char* Wrong :
+         {"short", "a compressed R8 of more than 54 bytes that has no end code"}) {
+        Dir.Write("wrong", Wrong);
+        const Outcome O = Run("wrong");
+        EXPECT_EQ(O.Status, 1);
+        EXPECT_EQ(O.Out, "");
+        EXPECT_NE(O.Err.find("wrong\n"), std::string::npos) << O.Err;
+    }
+    EXPECT_EQ(Run("t.r8", {"--palette", Dir.Native("t.r8").string()}).Status, 2);
+    EXPECT_EQ(Run("t.r8", {"--palette"}).Status, 2);
 }
 
 TEST_F(Cli, InfoIsJson) {
