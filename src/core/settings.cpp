@@ -36,15 +36,20 @@ void Set_DirFS(std::string Dir) {
 
 void Find_Simulator() {
     if (!DirFS.empty()) return;
-    std::string Found = Simulator_Dir();
+    std::string Found = Simulator_Found();
     if (Found.empty()) return;
-    if (Found.back() != '\\') Found += '\\';
-    if (!Dir_Exists(Found + "Scenery")) return;
     Set_DirFS(std::move(Found));
     Setting_Put("DirFS", DirFS);
 }
 
 }  // namespace
+
+std::string Simulator_Found() {
+    std::string Found = Simulator_Dir();
+    if (Found.empty()) return {};
+    if (Found.back() != '\\') Found += '\\';
+    return Dir_Exists(Found + "Scenery") ? Found : std::string();
+}
 
 bool Setting_Put(std::string_view Key, std::string_view Value) {
     return Setting_Write(Ini_File, Section, Key, Value);

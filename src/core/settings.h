@@ -3,6 +3,7 @@
 // Settings stand in Ini_File, section [Terrafold]. Values are trimmed.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "core/numbers.h"
@@ -11,6 +12,10 @@
 /// simulator is looked for on this computer, and its directory kept as DirFS when it holds a
 /// directory Scenery.
 void Read_Settings();
+
+/// The simulator's directory as this computer knows it, with a final backslash; "" when there is
+/// none, or none that holds a directory Scenery.
+std::string Simulator_Found();
 
 /// Writes one setting. False when the file cannot be written.
 bool Setting_Put(std::string_view Key, std::string_view Value);

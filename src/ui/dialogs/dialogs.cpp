@@ -9,6 +9,7 @@ void Forms_Install() {
     Form_Register("Frm_PGen", Make_Frm_PGen);
     Form_Register("Frm_Dir", Make_Frm_Dir);
     Form_Register("Frm_ColourGrid", Make_Frm_ColourGrid);
+    Form_Register("Frm_LBmp", Make_Frm_LBmp);
 }
 
 void Add_Ok_Cancel(Form& F, std::function<void()> Ok, std::function<void()> Cancel) {

@@ -9,6 +9,7 @@
 std::unique_ptr<Form> Make_Frm_PGen();
 std::unique_ptr<Form> Make_Frm_Dir();
 std::unique_ptr<Form> Make_Frm_ColourGrid();
+std::unique_ptr<Form> Make_Frm_LBmp();
 
 /// Registers every dialog of this folder. Called once at the start of the program.
 void Forms_Install();
