@@ -70,11 +70,21 @@ Filter Read_Filter(const std::string& Text) {
             QFileInfo(Pattern).suffix()};
 }
 
-void Word_In_Language(QFileDialog& Dialog, bool Saves) {
+void Word_In_Language(QFileDialog& Dialog, File_Question::Kind Mode) {
     const auto Say = [&](QFileDialog::DialogLabel What, const char* English, const char* French) {
         Dialog.setLabelText(What, Qt_Text(In_Language(English, French)));
     };
-    Say(QFileDialog::Accept, Saves ? "Save" : "Open", Saves ? "Enregistrer" : "Ouvrir");
+    switch (Mode) {
+        case File_Question::Kind::Open:
+            Say(QFileDialog::Accept, "Open", "Ouvrir");
+            break;
+        case File_Question::Kind::Save:
+            Say(QFileDialog::Accept, "Save", "Enregistrer");
+            break;
+        case File_Question::Kind::Any_Name:
+            Say(QFileDialog::Accept, "OK", "OK");
+            break;
+    }
     Say(QFileDialog::Reject, "Cancel", "Annuler");
     Say(QFileDialog::FileName, "File name:", "Nom du fichier :");
     Say(QFileDialog::FileType, "Files of type:", "Type de fichiers :");
@@ -109,15 +119,16 @@ Int Show_Message_Box(const Box& B, QWidget* Parent) {
 }
 
 std::optional<std::string> Ask_For_File(const File_Question& Q, QWidget* Parent) {
-    const bool Saves = Q.Mode == File_Question::Kind::Save;
+    const bool Opens = Q.Mode == File_Question::Kind::Open;
     QFileDialog Dialog(Parent, Qt_Text(Q.Title), Directory_Of(Q.Start_Dir));
-    Dialog.setAcceptMode(Saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    Dialog.setFileMode(Saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    Dialog.setAcceptMode(Opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    Dialog.setFileMode(Opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    Dialog.setOption(QFileDialog::DontConfirmOverwrite, Q.Mode == File_Question::Kind::Any_Name);
     if (const Filter F = Read_Filter(Q.Filter); !F.Words.isEmpty()) {
         Dialog.setNameFilter(F.Words);
         Dialog.setDefaultSuffix(F.Extension);
     }
-    Word_In_Language(Dialog, Saves);
+    Word_In_Language(Dialog, Q.Mode);
     if (!Q.File_Name.empty()) Dialog.selectFile(Qt_Text(Q.File_Name));
     if (Dialog.exec() != QDialog::Accepted || Dialog.selectedFiles().isEmpty()) return std::nullopt;
     const auto Chosen = Path_Of_System(Dialog.selectedFiles().front());

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 #include "qt/raster.h"
@@ -12,6 +13,7 @@
 namespace {
 
 constexpr int Label_Margin = 4;
+constexpr QSize Least_Label(100, 17);
 
 Raster Raster_Of(QImage& Image) {
     return {.Pixels = reinterpret_cast<std::uint32_t*>(Image.bits()),
@@ -25,10 +27,44 @@ QColor Colour_Of(Long Rgb) {
     return QColor::fromRgb(static_cast<QRgb>(Rgb));
 }
 
+Qt::PenStyle Style_Of(Line_Style Style) {
+    switch (Style) {
+        case Line_Style::Dashed:
+            return Qt::DashLine;
+        case Line_Style::Dotted:
+            return Qt::DotLine;
+        case Line_Style::Solid:
+            break;
+    }
+    return Qt::SolidLine;
+}
+
+Qt::CursorShape Cursor_Of(Pointer_Shape Shape) {
+    switch (Shape) {
+        case Pointer_Shape::Hourglass:
+            return Qt::WaitCursor;
+        case Pointer_Shape::Cross:
+            return Qt::CrossCursor;
+        case Pointer_Shape::Move:
+            return Qt::SizeAllCursor;
+        case Pointer_Shape::Vertical:
+            return Qt::SizeVerCursor;
+        case Pointer_Shape::Horizontal:
+            return Qt::SizeHorCursor;
+        case Pointer_Shape::NE_SW:
+            return Qt::SizeBDiagCursor;
+        case Pointer_Shape::NW_SE:
+            return Qt::SizeFDiagCursor;
+        case Pointer_Shape::Normal:
+            break;
+    }
+    return Qt::ArrowCursor;
+}
+
 // Positions name canvas pixels, so what is drawn goes through their middle.
 void Draw(QPainter& P, const Overlay_Line& L) {
     if (!L.Visible) return;
-    P.setPen(QPen(Colour_Of(L.Colour), 1.0));
+    P.setPen(QPen(Colour_Of(L.Colour), 1.0, Style_Of(L.Style)));
     P.drawLine(QLineF(L.At.X1 + 0.5, L.At.Y1 + 0.5, L.At.X2 + 0.5, L.At.Y2 + 0.5));
 }
 
@@ -40,15 +76,21 @@ void Draw(QPainter& P, const Overlay_Circle& C) {
     P.drawEllipse(QPointF(C.X + 0.5, C.Y + 0.5), Half, Half);
 }
 
-void Draw(QPainter& P, const Overlay_Label& L, const QPalette& Palette) {
-    if (!L.Visible || L.Text.empty()) return;
-    const QString Text = Qt_Text(L.Text);
-    const QSize Size = P.fontMetrics().size(0, Text);
-    const QRect Box(L.X, L.Y, Size.width() + 2 * Label_Margin, Size.height() + Label_Margin);
-    P.setPen(Palette.color(QPalette::ToolTipText));
-    P.setBrush(Palette.color(QPalette::ToolTipBase));
+Size_Px Size_Of(const Overlay_Label& L, const QFontMetrics& Font) {
+    const QSize Text = Font.size(0, Qt_Text(L.Text));
+    return {std::max(Text.width() + 2 * Label_Margin, Least_Label.width()),
+            std::max(Text.height(), Least_Label.height())};
+}
+
+// Its colours tell something, so they are not the theme's.
+void Draw(QPainter& P, const Overlay_Label& L) {
+    if (!L.Visible) return;
+    const Size_Px Size = Size_Of(L, P.fontMetrics());
+    const QRect Box(L.X, L.Y, Size.W - 1, Size.H - 1);
+    P.setPen(Qt::black);
+    P.setBrush(Colour_Of(L.Back_Colour));
     P.drawRect(Box);
-    P.drawText(Box, Qt::AlignCenter, Text);
+    P.drawText(Box, Qt::AlignCenter, Qt_Text(L.Text));
 }
 
 }  // namespace
@@ -78,13 +120,20 @@ void Canvas_Widget::Refresh() {
 }
 
 void Canvas_Widget::Set_Cursor(Pointer_Shape Shape) {
-    setCursor(Shape == Pointer_Shape::Cross       ? Qt::CrossCursor
-              : Shape == Pointer_Shape::Hourglass ? Qt::WaitCursor
-                                                  : Qt::ArrowCursor);
+    setCursor(Cursor_Of(Shape));
 }
 
 void Canvas_Widget::Overlay_Changed() {
     update();
+}
+
+void Canvas_Widget::Set_Overlay(const Overlay_Items& Items) {
+    Overlay_ = &Items;
+    update();
+}
+
+Size_Px Canvas_Widget::Label_Size(const Overlay_Label& L) {
+    return Size_Of(L, fontMetrics());
 }
 
 // The window may have gone to a screen of another fineness.
@@ -96,12 +145,13 @@ void Canvas_Widget::paintEvent(QPaintEvent* E) {
     P.drawImage(At, Image_,
                 QRectF(At.x() * Scale, At.y() * Scale, At.width() * Scale, At.height() * Scale));
     P.setRenderHint(QPainter::Antialiasing);
-    const Overlay_Items& O = The_Overlay;
+    const Overlay_Items& O = *Overlay_;
     for (const Overlay_Line* L : {&O.Ln1, &O.Ln2, &O.LnHIma1, &O.LnHIma2, &O.LnVIma1, &O.LnVIma2})
         Draw(P, *L);
     Draw(P, O.Cercle);
     P.setRenderHint(QPainter::Antialiasing, false);
-    Draw(P, O.LPtGrid, palette());
+    Draw(P, O.LPtGrid);
+    for (const Overlay_Line* L : {&O.Croix1, &O.Croix2}) Draw(P, *L);
 }
 
 // The image follows the widget's size and the screen's fineness. What it held is painted anew

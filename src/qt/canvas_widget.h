@@ -20,6 +20,8 @@ public:
     void Refresh() override;
     void Set_Cursor(Pointer_Shape Shape) override;
     void Overlay_Changed() override;
+    void Set_Overlay(const Overlay_Items& Items) override;
+    Size_Px Label_Size(const Overlay_Label& L) override;
 
     /// What was painted, without the overlay, in pixels of the screen.
     const QImage& Image() const { return Image_; }
@@ -34,4 +36,5 @@ private:
     void Fit();
 
     QImage Image_;
+    const Overlay_Items* Overlay_ = &The_Overlay;
 };

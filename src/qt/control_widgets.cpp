@@ -21,6 +21,17 @@ namespace {
 
 constexpr int Icon_Size = 22;  // of a tool button, pixels
 
+// The desktop's colours come back where C has none of its own.
+void Paint_In(QLabel& Label, const Control& C) {
+    QPalette Colours;
+    if (C.Colour != Usual_Colour)
+        Colours.setColor(QPalette::WindowText, QColor::fromRgb(static_cast<QRgb>(C.Colour)));
+    if (C.Back_Colour != Usual_Colour)
+        Colours.setColor(QPalette::Window, QColor::fromRgb(static_cast<QRgb>(C.Back_Colour)));
+    Label.setPalette(Colours);
+    Label.setAutoFillBackground(C.Back_Colour != Usual_Colour);
+}
+
 class Label_Widget final : public Control_Widget {
 public:
     Label_Widget(Form_Widget& Owner, const Control& C) : Text_(new QLabel(&Owner)) {
@@ -37,6 +48,7 @@ public:
                                       : Text_->fontMetrics().elidedText(
                                             Caption, Qt::ElideMiddle,
                                             std::max(Text_->width(), Text_->minimumWidth())));
+        Paint_In(*Text_, C);
     }
 
 private:
@@ -158,8 +170,10 @@ public:
             const int Page = Pages->indexOf(Widget);
             Pages->setTabText(Page, Literal_Caption(C.Caption));
             Pages->setTabToolTip(Page, Qt_Text(C.Tip));
+            const int In_Front = Pages->currentIndex();
             Pages->setTabEnabled(Page, C.Enabled);
             Pages->setTabVisible(Page, C.Visible);
+            Pages->setCurrentIndex(In_Front);  // which page that is the form decides
             return;
         }
     }
@@ -210,6 +224,7 @@ class Canvas_Control final : public Control_Widget {
 public:
     Canvas_Control(Form_Widget& Owner, const Control& C) : Canvas_(new Canvas_Widget(&Owner)) {
         Widget = Canvas_;
+        if (C.Width > 0 && C.Height > 0) Canvas_->setFixedSize(C.Width, C.Height);
         Canvas_->On_Resize = [&Owner, Name = C.Name](Long Width, Long Height) {
             const auto& Tell = Owner.The_Form()[Name].On_Resize;
             if (Tell) Tell(Width, Height);
@@ -253,6 +268,7 @@ std::unique_ptr<Control_Widget> Make_Kind(Form_Widget& Owner, const Control& C, 
         case Control_Kind::Canvas:
             return std::make_unique<Canvas_Control>(Owner, C);
         case Control_Kind::Lamp:
+            return Make_Lamp(Owner, C);
         case Control_Kind::Label:
             break;
     }

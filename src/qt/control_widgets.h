@@ -17,6 +17,8 @@ public:
     virtual ~Control_Widget() = default;
     /// Takes over what C shows now.
     virtual void Follow(const Control& C) = 0;
+    /// One of several options by itself, for a layout that places each; null for other kinds.
+    virtual QWidget* Part(Long) { return nullptr; }
 
     QWidget* Widget = nullptr;  // null for a menu item
     QAction* Action = nullptr;  // of a menu item
@@ -45,4 +47,5 @@ std::unique_ptr<Control_Widget> Make_Field(Form_Widget& Owner, const Control& C)
 std::unique_ptr<Control_Widget> Make_List(Form_Widget& Owner, const Control& C);
 std::unique_ptr<Control_Widget> Make_Combo(Form_Widget& Owner, const Control& C);
 std::unique_ptr<Control_Widget> Make_Options(Form_Widget& Owner, const Control& C);
+std::unique_ptr<Control_Widget> Make_Lamp(Form_Widget& Owner, const Control& C);
 std::unique_ptr<Control_Widget> Make_Image(Form_Widget& Owner, const Control& C);

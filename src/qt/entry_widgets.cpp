@@ -1,10 +1,12 @@
 // qt/entry_widgets.cpp - controls that take a text or a choice.
+#include <QAction>
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QRadioButton>
@@ -13,6 +15,7 @@
 
 #include "qt/control_widgets.h"
 #include "qt/form_widget.h"
+#include "qt/icons.h"
 #include "qt/text.h"
 #include "ui/form/form_events.h"
 
@@ -36,6 +39,7 @@ public:
                              Owner.Do([&](Form& F) { Form_Type(F, Name, Program_Text(Text)); });
                              Follow(Owner.The_Form()[Name]);
                          });
+        if (C.On_Choose) Add_Chooser(Owner, C.Name);
     }
     void Follow(const Control& C) override {
         Follow_Common(*this, C);
@@ -44,6 +48,16 @@ public:
     }
 
 private:
+    // A small button at the end of the field.
+    void Add_Chooser(Form_Widget& Owner, const std::string& Name) {
+        QAction* Opens = Edit_->addAction(Themed_Icon("choose"), QLineEdit::TrailingPosition);
+        Opens->setObjectName(Qt_Text(Name + ".choose"));
+        Opens->setToolTip(QStringLiteral("F4"));
+        QObject::connect(Opens, &QAction::triggered, &Owner, [&Owner, Name] {
+            Owner.Do([&](Form& F) { Form_Open_Chooser(F, Name); });
+        });
+    }
+
     QLineEdit* Edit_;
 };
 
@@ -54,18 +68,42 @@ QStringList Items_Of(const Control& C) {
     return Items;
 }
 
+// Tells of each row that is chosen, be it the one that was chosen before.
+class Rows final : public QListWidget {
+public:
+    explicit Rows(QWidget* Parent) : QListWidget(Parent) {
+        connect(this, &QListWidget::currentRowChanged, this, [this](int Row) { Tell(Row); });
+    }
+    std::function<void(int Row)> On_Chosen = {};
+
+protected:
+    void mousePressEvent(QMouseEvent* E) override {
+        Told_ = false;
+        QListWidget::mousePressEvent(E);
+        const QListWidgetItem* At = itemAt(E->position().toPoint());
+        if (!Told_ && At != nullptr && E->button() == Qt::LeftButton) Tell(row(At));
+    }
+
+private:
+    void Tell(int Row) {
+        Told_ = true;
+        if (On_Chosen) On_Chosen(Row);
+    }
+
+    bool Told_ = false;
+};
+
 class List_Widget final : public Control_Widget {
 public:
-    List_Widget(Form_Widget& Owner, const Control& C) : List_(new QListWidget(&Owner)) {
+    List_Widget(Form_Widget& Owner, const Control& C) : List_(new Rows(&Owner)) {
         Widget = List_;
         List_->setUniformItemSizes(true);
         List_->setMinimumWidth(Width_Of(*List_, C.Columns != 0 ? C.Columns : Usual_Columns));
         List_->setMinimumHeight(Usual_Rows * List_->fontMetrics().lineSpacing());
-        QObject::connect(List_, &QListWidget::currentRowChanged, &Owner,
-                         [this, &Owner, Name = C.Name](int Row) {
-                             Owner.Do([&](Form& F) { Form_Choose(F, Name, Row); });
-                             Follow(Owner.The_Form()[Name]);
-                         });
+        List_->On_Chosen = [this, &Owner, Name = C.Name](int Row) {
+            Owner.Do([&](Form& F) { Form_Choose(F, Name, Row); });
+            Follow(Owner.The_Form()[Name]);
+        };
         QObject::connect(List_, &QListWidget::itemDoubleClicked, &Owner, [&Owner, Name = C.Name] {
             Owner.Do([&](Form& F) { Form_Double_Click(F, Name); });
         });
@@ -82,7 +120,7 @@ public:
     }
 
 private:
-    QListWidget* List_;
+    Rows* List_;
     std::vector<std::string> Items_;
 };
 
@@ -131,9 +169,10 @@ public:
         const bool Has_Box = C.Words.Is_Set() || !C.Caption.empty();
         Box_ = Has_Box ? new QGroupBox(&Owner) : nullptr;
         Widget = Has_Box ? Box_ : new QWidget(&Owner);
-        auto* In_Row = new QBoxLayout(
-            C.Items.size() <= Most_Side_By_Side ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom,
-            Widget);
+        auto* In_Row = new QBoxLayout(C.Items.size() <= Most_Side_By_Side && !C.Upright
+                                          ? QBoxLayout::LeftToRight
+                                          : QBoxLayout::TopToBottom,
+                                      Widget);
         In_Row->addStretch(1);
         if (!Has_Box) In_Row->setContentsMargins(0, 0, 0, 0);
         QObject::connect(Group_, &QButtonGroup::idClicked, &Owner, [this](int I) {
@@ -145,26 +184,37 @@ public:
         Follow_Common(*this, C);
         if (Box_ != nullptr) Box_->setTitle(Literal_Caption(C.Caption));
         const auto Wanted = static_cast<int>(std::max(C.Items.size(), C.Colours.size()));
-        while (Group_->buttons().size() > Wanted) delete Group_->button(Wanted_Last());
-        while (Group_->buttons().size() < Wanted) Add();
-        for (int I = 0; I < Wanted; ++I) Word(*Group_->button(I), C, static_cast<std::size_t>(I));
+        while (Group_->buttons().size() > Wanted && !In_Parts_) delete Group_->button(Nb() - 1);
+        while (Group_->buttons().size() < Wanted && !In_Parts_)
+            static_cast<QBoxLayout*>(Widget->layout())->insertWidget(Nb(), Make(Nb(), Widget));
+        for (QAbstractButton* Option : Group_->buttons()) {
+            Word(*Option, C, static_cast<std::size_t>(Group_->id(Option)));
+            if (In_Parts_) Option->setEnabled(C.Enabled);
+            if (In_Parts_) Option->setVisible(C.Visible);
+        }
         if (QAbstractButton* Chosen = Group_->button(C.Value)) {
             Chosen->setChecked(true);
             Widget->setFocusProxy(Chosen);
         }
     }
 
-private:
-    int Wanted_Last() const { return static_cast<int>(Group_->buttons().size()) - 1; }
+    QWidget* Part(Long I) override {
+        In_Parts_ = true;
+        Widget->setFixedSize(0, 0);
+        return Make(I, &Owner_);
+    }
 
-    void Add() {
-        const int I = Wanted_Last() + 1;
-        auto* Option = new QRadioButton(Widget);
+private:
+    int Nb() const { return static_cast<int>(Group_->buttons().size()); }
+
+    QWidget* Make(int I, QWidget* Parent) {
+        auto* Option = new QRadioButton(Parent);
+        Option->setProperty(Control_Property, Qt_Text(Name_));
         Option->setObjectName(Qt_Text(Name_ + "(" + std::to_string(I) + ")"));
         Option->setFocusPolicy(Qt::TabFocus);
         Group_->addButton(Option, I);
-        static_cast<QBoxLayout*>(Widget->layout())->insertWidget(I, Option);
         Owner_.Watch(*Option);
+        return Option;
     }
 
     static void Word(QAbstractButton& Option, const Control& C, std::size_t I) {
@@ -179,6 +229,7 @@ private:
     std::string Name_;
     QButtonGroup* Group_;
     QGroupBox* Box_ = nullptr;
+    bool In_Parts_ = false;  // each option stands where the layout has put it
 };
 
 }  // namespace

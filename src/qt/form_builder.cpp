@@ -14,6 +14,7 @@
 #include <QStyle>
 #include <QTabWidget>
 #include <QToolBar>
+#include <algorithm>
 
 #include "qt/canvas_widget.h"
 #include "qt/text.h"
@@ -87,10 +88,11 @@ private:
     QMenu* Menu_;
 };
 
-bool Fills_Window(const Layout& Root) {
-    for (const Layout& Part : Root.Parts)
-        if (Part.What == Layout::Kind::Canvas) return true;
-    return false;
+// The window of the program is filled to its edges; so is one that is no more than its field.
+bool Fills_Window(const Form& F) {
+    const Layouts& Parts = F.Root().Parts;
+    const auto Is_Tool_Bar = [](const Layout& L) { return L.What == Layout::Kind::Tool_Bar; };
+    return F.Frameless || std::ranges::any_of(Parts, Is_Tool_Bar);
 }
 
 }  // namespace
@@ -98,7 +100,7 @@ bool Fills_Window(const Layout& Root) {
 void Form_Builder::Build() {
     const Layout& Root = Into_.The_Form().Root();
     auto* Whole = new QVBoxLayout(&Into_);
-    if (Fills_Window(Root)) {
+    if (Fills_Window(Into_.The_Form())) {
         Whole->setContentsMargins(0, 0, 0, 0);
         Whole->setSpacing(0);
     }
@@ -124,6 +126,10 @@ void Form_Builder::Add(QBoxLayout& To, const Layout& L) {
     switch (L.What) {
         case Kind::Control:
             return Add_Control(To, L.Name);
+        case Kind::Option:
+            return Add_Option(To, L);
+        case Kind::Grid:
+            return Add_Grid(To, L);
         case Kind::Column:
         case Kind::Row: {
             auto* Box = new QBoxLayout(L.What == Kind::Row ? QBoxLayout::LeftToRight
@@ -151,8 +157,6 @@ void Form_Builder::Add(QBoxLayout& To, const Layout& L) {
             return Add_Read_Out(To, L.Parts);
         case Kind::Over_Canvas:
             return Over_Canvas_.push_back(&L);
-        case Kind::Option:
-        case Kind::Grid:
         case Kind::Tab:
         case Kind::Menu:
         case Kind::Gap:
@@ -202,6 +206,24 @@ void Form_Builder::Add_Fields(QBoxLayout& To, const Layouts& Parts) {
         for (std::size_t I = 1; I < Part.Parts.size(); ++I) Add(*Row, Part.Parts[I]);
         Rows->addRow(First.Label, Row);
     }
+}
+
+void Form_Builder::Add_Grid(QBoxLayout& To, const Layout& L) {
+    auto* Cells = new QGridLayout;
+    To.addLayout(Cells);
+    const auto Columns = static_cast<std::size_t>(std::max<Long>(1, L.Nb));
+    const std::size_t Rows = (L.Parts.size() + Columns - 1) / Columns;
+    for (std::size_t I = 0; I < L.Parts.size(); ++I) {
+        auto* Cell = new QHBoxLayout;
+        Cells->addLayout(Cell, static_cast<int>(I % Rows), static_cast<int>(I / Rows));
+        Add(*Cell, L.Parts[I]);
+    }
+}
+
+void Form_Builder::Add_Option(QBoxLayout& To, const Layout& L) {
+    const auto Found = Into_.Shown_.find(L.Name);
+    Control_Widget& Group = Found == Into_.Shown_.end() ? Make(L.Name) : *Found->second;
+    To.addWidget(Group.Part(L.Nb));
 }
 
 void Form_Builder::Add_Frame(QBoxLayout& To, const Layout& L) {
@@ -280,6 +302,7 @@ void Form_Builder::Add_Canvas(QBoxLayout& To, const Layout& L) {
     To.addLayout(Cells, 1);
     Into_.Canvas_ = static_cast<Canvas_Widget*>(Make(L.Name).Widget);
     Cells->addWidget(Into_.Canvas_, 0, 0);
+    if (Into_.The_Form()[L.Name].Width > 0) Cells->setColumnStretch(2, 1);  // behind its bar
     for (std::size_t I = 0; I < L.Parts.size() && I < 2; ++I) {
         auto* Bar = static_cast<QScrollBar*>(Make(L.Parts[I].Name).Widget);
         Bar->setOrientation(I == 0 ? Qt::Vertical : Qt::Horizontal);

@@ -20,6 +20,8 @@ private:
     void Add_Parts(QBoxLayout& To, const Layouts& Parts);
     void Add_Control(QBoxLayout& To, const std::string& Name);
     void Add_Fields(QBoxLayout& To, const Layouts& Parts);
+    void Add_Grid(QBoxLayout& To, const Layout& L);
+    void Add_Option(QBoxLayout& To, const Layout& L);
     void Add_Frame(QBoxLayout& To, const Layout& L);
     void Add_Tabs(QBoxLayout& To, const Layout& L);
     void Add_Buttons(QBoxLayout& To, const Layouts& Parts);

@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QTimer>
+#include <QVariant>
 
 #include "qt/busy.h"
 #include "qt/canvas_widget.h"
@@ -66,6 +67,8 @@ QWidget* Form_Widget::Widget_Of(std::string_view Control) const {
 
 std::string Form_Widget::Control_Of(const QObject* Widget) const {
     for (const QObject* At = Widget; At != nullptr && At != this; At = At->parent()) {
+        const QVariant Told = At->property(Control_Property);
+        if (Told.isValid()) return Program_Text(Told.toString());
         const std::string Name = Program_Text(At->objectName());
         if (const auto Found = Shown_.find(Name); Found != Shown_.end())
             if (Found->second->Widget == At) return Name;
@@ -105,6 +108,14 @@ void Form_Widget::Form_Closed(const Form&) {
     if (On_Closed) On_Closed();
 }
 
+void Form_Widget::Above_Main_Changed(const Form& F) {
+    if (On_Above_Main) On_Above_Main(F.Is_Above_Main());
+}
+
+Surface* Form_Widget::Surface_Of(std::string_view Control) {
+    return dynamic_cast<Canvas_Widget*>(Widget_Of(Control));
+}
+
 void Form_Widget::Focus_Changed(const Control& C, bool Select_All) {
     Flush();
     QWidget* Widget = Widget_Of(C.Name);
@@ -138,7 +149,7 @@ void Form_Widget::Settle_Focus() {
 
 void Form_Widget::Put_Focus_Back() {
     const std::string& Wanted = Form_.Focus();
-    if (Wanted.empty() || Form_.Is_Closed()) return;
+    if (Wanted.empty() || Form_.Is_Closed() || !Form_.Is_Visible(Wanted)) return;
     if (Control_Of(window()->focusWidget()) != Wanted) Focus_Changed(Form_[Wanted], true);
 }
 

@@ -22,6 +22,9 @@ class Control_Widget;
 class QKeyEvent;
 class QMenuBar;
 
+/// The property that names the control of a widget which does not lie inside the control's own.
+inline constexpr char Control_Property[] = "control";
+
 class Form_Widget final : public QWidget, public Form_View {
 public:
     /// Draws F, which must live longer, and becomes its view.
@@ -31,6 +34,7 @@ public:
     /// The form was closed; it has another title.
     std::function<void()> On_Closed = {};
     std::function<void()> On_Title = {};
+    std::function<void(bool On)> On_Above_Main = {};
 
     /// Brings the widgets in line with all changes now; they follow on the next turn of the
     /// event loop otherwise.
@@ -54,6 +58,8 @@ public:
     void Title_Changed(const Form& F) override;
     void Focus_Changed(const Control& C, bool Select_All) override;
     void Form_Closed(const Form& F) override;
+    void Above_Main_Changed(const Form& F) override;
+    Surface* Surface_Of(std::string_view Control) override;
 
 protected:
     bool eventFilter(QObject* Watched, QEvent* E) override;

@@ -1,6 +1,7 @@
 // qt/form_window.cpp - the windows that forms are shown in.
 #include "qt/form_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QEventLoop>
@@ -11,9 +12,12 @@
 #include <QScreen>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
+#include <optional>
 
 #include "qt/busy.h"
+#include "qt/canvas_widget.h"
 #include "qt/form_widget.h"
 #include "qt/icons.h"
 #include "qt/text.h"
@@ -30,15 +34,68 @@ std::optional<std::string> Dropped_File(const QMimeData& Data) {
     return QFileInfo(Path).isFile() ? Path_Of_System(Path) : std::nullopt;
 }
 
-// Below the control, as far as the screen has room there.
-void Put_Beside(QWidget& Window, const QWidget& Control) {
-    Window.adjustSize();
-    const QRect Screen = Control.screen()->availableGeometry();
-    const QPoint Below = Control.mapToGlobal(QPoint(0, Control.height()));
-    const QPoint Last = Screen.bottomRight() - QPoint(Window.width(), Window.height());
-    Window.move(std::clamp(Below.x(), Screen.left(), std::max(Screen.left(), Last.x())),
-                std::clamp(Below.y(), Screen.top(), std::max(Screen.top(), Last.y())));
+// As far as the screen has room there.
+void Move_To(QWidget& Window, QPoint Wanted) {
+    const QScreen* Screen = QGuiApplication::screenAt(Wanted);
+    const QRect Room = (Screen != nullptr ? Screen : Window.screen())->availableGeometry();
+    const QPoint Last = Room.bottomRight() - QPoint(Window.width(), Window.height());
+    Window.move(std::clamp(Wanted.x(), Room.left(), std::max(Room.left(), Last.x())),
+                std::clamp(Wanted.y(), Room.top(), std::max(Room.top(), Last.y())));
 }
+
+// Along one axis of the canvas: behind the point, or before it where it would pass the edge.
+int Beside(Long Point, int Size, int Room) {
+    const int Behind = static_cast<int>(Point) + 5;
+    return Behind + Size > Room ? static_cast<int>(Point) - (Size + 4) - 5 : Behind;
+}
+
+void Put(QWidget& Window, const Form_Place& Place, Form_Window* Main) {
+    Window.adjustSize();
+    if (Place.What == Form_Place::Kind::At)
+        return Window.move(static_cast<int>(Place.X), static_cast<int>(Place.Y));
+    if (Main == nullptr) return;
+    if (Place.What == Form_Place::Kind::Below)
+        if (const QWidget* Control = Main->Shown().Widget_Of(Place.Control))
+            Move_To(Window, Control->mapToGlobal(QPoint(0, Control->height())));
+    if (Place.What == Form_Place::Kind::Beside_Point)
+        if (const QWidget* Canvas = Main->Shown().Canvas())
+            Move_To(Window, Canvas->mapToGlobal(
+                                QPoint(Beside(Place.X, Window.width(), Canvas->width()),
+                                       Beside(Place.Y, Window.height(), Canvas->height()))));
+}
+
+// While it lives a press outside its window closes the form, and nothing else hears of it.
+class Click_Elsewhere final : public QObject {
+public:
+    explicit Click_Elsewhere(Form_Window& Window) : Window_(Window) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* Watched, QEvent* E) override {
+        const auto* Widget = qobject_cast<QWidget*>(Watched);
+        if (Widget == nullptr || Widget->window() == &Window_ || Is_Below_A_Box()) return false;
+        switch (E->type()) {
+            case QEvent::MouseButtonPress:
+                Window_.close();
+                return true;
+            case QEvent::MouseButtonRelease:
+            case QEvent::MouseButtonDblClick:
+            case QEvent::MouseMove:
+            case QEvent::Wheel:
+            case QEvent::Close:
+                if (E->type() == QEvent::Close) E->ignore();
+                return true;
+            default:
+                return false;
+        }
+    }
+
+private:
+    static bool Is_Below_A_Box() { return QApplication::activeModalWidget() != nullptr; }
+
+    Form_Window& Window_;
+};
 
 }  // namespace
 
@@ -94,17 +151,38 @@ Main_Window::Main_Window(Form& F)
     resize(Usual_Size.boundedTo(screen()->availableSize()));
 }
 
-void Run_Dialog(Form& F, QWidget* Parent) {
+// A window without a frame is not modal to Qt, which would keep clicks elsewhere to itself.
+void Run_Dialog(Form& F, QWidget* Parent, Form_Window* Main) {
     if (F.Is_Closed()) return;
-    Form_Window Window(F, Parent, Qt::Dialog);
-    Window.setWindowModality(Qt::ApplicationModal);
+    const bool Frameless = F.Frameless;
+    Form_Window Window(F, Parent, Frameless ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog);
+    std::optional<Click_Elsewhere> Elsewhere;
+    if (Frameless)
+        Elsewhere.emplace(Window);
+    else
+        Window.setWindowModality(Qt::ApplicationModal);
     QEventLoop Loop;
     Window.Shown().On_Closed = [&Loop] { Loop.quit(); };
     Window.Shown().Take_Focus();
-    const QString Beside = Qt_Text(F.Place.Control);
-    if (const auto* Control = Parent ? Parent->findChild<QWidget*>(Beside) : nullptr;
-        Control != nullptr && !Beside.isEmpty())
-        Put_Beside(Window, *Control);
+    if (F.Place.What != Form_Place::Kind::Centred) Put(Window, F.Place, Main);
     Window.show();
+    if (Frameless) Window.activateWindow();
     if (!F.Is_Closed()) Loop.exec();
+}
+
+// What is called when the form is closed lives as long as its widgets, and keeps the form.
+void Open_Dialog(std::shared_ptr<Form> F, Form_Window& Main) {
+    auto* Window = new Form_Window(*F, &Main, Qt::Dialog);
+    Form_Widget& Shown = Window->Shown();
+    Shown.On_Closed = [Window, F] {
+        Window->hide();
+        Window->deleteLater();
+    };
+    Shown.On_Above_Main = [Window, &Main](bool On) {
+        Window->windowHandle()->setTransientParent(On ? Main.windowHandle() : nullptr);
+    };
+    Shown.Take_Focus();
+    if (F->Place.What != Form_Place::Kind::Centred) Put(*Window, F->Place, &Main);
+    Window->show();
+    Shown.On_Above_Main(F->Is_Above_Main());
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <memory>
 
 #include "ui/form/form.h"
 
@@ -31,5 +32,9 @@ public:
     explicit Main_Window(Form& F);
 };
 
-/// Shows F as a dialog above Parent and returns when it is closed.
-void Run_Dialog(Form& F, QWidget* Parent);
+/// Shows F as a dialog above Parent and returns when it is closed. Main is the window whose
+/// controls and canvas F's place may name, or null.
+void Run_Dialog(Form& F, QWidget* Parent, Form_Window* Main = nullptr);
+
+/// Shows F, which is not modal, until it is closed. The window keeps it alive and ends with Main.
+void Open_Dialog(std::shared_ptr<Form> F, Form_Window& Main);

@@ -42,6 +42,8 @@ Key_Code Code_Of(int Key, bool On_Pad) {
             return Key_Down;
         case Qt::Key_Delete:
             return Key_Delete;
+        case Qt::Key_F4:
+            return Key_F4;
         case Qt::Key_Plus:
             return On_Pad ? Key_Pad_Plus : Key_Code{0};
         case Qt::Key_Minus:

@@ -14,7 +14,23 @@
 namespace {
 
 constexpr std::uint32_t Opaque = 0xFF000000U;
-constexpr std::int64_t Dot_Period = 3;
+
+// How much of a line is painted, in canvas pixels: On of each Period.
+struct Rhythm {
+    std::int64_t On, Period;
+};
+
+constexpr Rhythm Rhythm_Of(Line_Style Style) {
+    switch (Style) {
+        case Line_Style::Dotted:
+            return {1, 3};
+        case Line_Style::Dashed:
+            return {6, 9};
+        case Line_Style::Solid:
+            break;
+    }
+    return {1, 1};
+}
 
 // The image pixels along one side of a copy, and the source pixel of each.
 struct Side {
@@ -93,7 +109,8 @@ Run Make_Run(const Raster& R, const Line_Px& L) {
 struct Brush {
     std::uint32_t Colour;
     std::int64_t Thick;  // image pixels across
-    std::int64_t Dot;    // length of a dot, 0 for a solid line
+    std::int64_t Unit;   // of the rhythm
+    Rhythm Beat;
     double Scale;
 };
 
@@ -129,8 +146,10 @@ void Paint_Run(std::uint32_t* Pixels, const Run& M, const Brush& With) {
     const auto Step = static_cast<std::int64_t>(Slope * One);
     const auto Dots_From =
         static_cast<std::int64_t>(std::floor(M.Dots_From - With.Scale / 2 + 0.5));
+    const bool Is_Broken = With.Beat.On < With.Beat.Period;
     for (std::int64_t A = R.First; A <= R.Last; ++A, B += Step) {
-        if (With.Dot != 0 && std::abs(A - Dots_From) / With.Dot % Dot_Period != 0) continue;
+        if (Is_Broken && std::abs(A - Dots_From) / With.Unit % With.Beat.Period >= With.Beat.On)
+            continue;
         const std::int64_t First = B >> 32;
         std::uint32_t* Across = Pixels + A * M.Step_A;
         const std::int64_t End = std::min(First + With.Thick, M.Size_B);
@@ -171,7 +190,8 @@ void Raster_Lines(const Raster& R, std::span<const Line_Px> Segments, const Pen&
     };
     const Brush B{.Colour = Opaque | static_cast<std::uint32_t>(With.Colour),
                   .Thick = Pixels(With.Width),
-                  .Dot = With.Style == Line_Style::Dotted ? Pixels(1) : 0,
+                  .Unit = Pixels(1),
+                  .Beat = Rhythm_Of(With.Style),
                   .Scale = R.Scale};
     const Line_Px* Before = nullptr;
     for (const Line_Px& L : Segments) {

@@ -22,5 +22,5 @@ struct Raster {
 /// source pixel take its colour. What Source has outside P is left out.
 void Raster_Copy(const Raster& R, const Picture& P, Box_Px Source, Box_Px Dest);
 
-/// Both ends are painted. A dotted line has one pixel in three.
+/// Both ends are painted. A dotted line has one pixel in three, a dashed one six in nine.
 void Raster_Lines(const Raster& R, std::span<const Line_Px> Segments, const Pen& With);

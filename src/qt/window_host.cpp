@@ -4,13 +4,13 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QScreen>
+#include <QTimer>
 #include <atomic>
 #include <string>
 #include <thread>
 
 #include "qt/boxes.h"
 #include "qt/busy.h"
-#include "qt/canvas_widget.h"
 #include "qt/form_widget.h"
 #include "qt/form_window.h"
 #include "ui/frm/frm.h"
@@ -18,7 +18,7 @@
 namespace {
 
 // Often enough to look alive, seldom enough to cost nothing.
-constexpr qint64 Refresh_Ms = 30;
+constexpr int Refresh_Ms = 30;
 
 // What is in front: a dialog, or else the main window.
 QWidget* Front(Form_Window* Main) {
@@ -69,10 +69,25 @@ Form_End Window_Host::Run_Form(std::string_view Form) {
     return Form_Run(Form, *this);
 }
 
+// Later still while the program works.
+void Window_Host::Open_Form(std::string_view Form, Int Delay_Ms) {
+    if (Main_ == nullptr) return;
+    QTimer::singleShot(Delay_Ms, Main_, [this, Name = std::string(Form)] {
+        if (Busy::Is_On())
+            Open_Form(Name, Refresh_Ms);
+        else
+            Form_Open(Name, *this);
+    });
+}
+
 void Window_Host::Run_Modal(Form& F) {
     Bring_Up_To_Date();
     const Plain_Pointer Pointer;
-    Run_Dialog(F, Front(Main_));
+    Run_Dialog(F, Front(Main_), Main_);
+}
+
+void Window_Host::Show_Open(std::shared_ptr<Form> F) {
+    if (Main_ != nullptr) Open_Dialog(std::move(F), *Main_);
 }
 
 void Window_Host::Set_Caption(std::string_view Control, std::string_view Text) {
@@ -95,14 +110,12 @@ void Window_Host::Set_Focus(std::string_view Control) {
     Frm_Set_Focus(Control);
 }
 
-// The cross belongs to the canvas, which keeps it under the hourglass; that is everywhere.
+// The canvas keeps its own shape under the hourglass, which is everywhere.
 void Window_Host::Set_Pointer(Pointer_Shape Shape) {
     const bool Busy_Shape = Shape == Pointer_Shape::Hourglass;
     const bool Shows_It = QApplication::overrideCursor() != nullptr;
     if (Busy_Shape && !Shows_It) QApplication::setOverrideCursor(Qt::WaitCursor);
     if (!Busy_Shape && Shows_It) QApplication::restoreOverrideCursor();
-    if (Shape == Pointer_Shape::Cross && Main_ != nullptr)
-        if (Canvas_Widget* Canvas = Main_->Shown().Canvas()) Canvas->Set_Cursor(Shape);
 }
 
 void Window_Host::Refresh() {

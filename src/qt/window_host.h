@@ -18,7 +18,9 @@ public:
     Int Show_Box(const Box& B) override;
     std::optional<std::string> Ask_File(const File_Question& Q) override;
     Form_End Run_Form(std::string_view Form) override;
+    void Open_Form(std::string_view Form, Int Delay_Ms) override;
     void Run_Modal(Form& F) override;
+    void Show_Open(std::shared_ptr<Form> F) override;
     void Set_Caption(std::string_view Control, std::string_view Text) override;
     void Set_Enabled(std::string_view Control, bool On) override;
     void Set_Visible(std::string_view Control, bool On) override;

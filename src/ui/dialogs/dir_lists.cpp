@@ -46,7 +46,12 @@ std::string Path_Joined(const std::string& Dir, const std::string& Name) {
 }
 
 Dir_Lists::Dir_Lists(Form& F, Events E) : Form_(F), Events_(std::move(E)), Drives_(Drive_List()) {
-    F.Add({.Kind = Control_Kind::Text, .Name = "Path", .Columns = 48, .Read_Only = true});
+    F.Add({.Kind = Control_Kind::Text,
+           .Name = "Path",
+           .Words = {"Path:", "Chemin :"},
+           .Rule = {.Accept = [this](const std::string& Text) { return Take_Path(Text); },
+                    .Held = [this] { return Dir_; }},
+           .Columns = 48});
     F.Add({.Kind = Control_Kind::Combo,
            .Name = "Drive1",
            .Words = {"Drive:", "Lecteur :"},
@@ -72,6 +77,15 @@ void Dir_Lists::List_Dir(const std::string& Path) {
     Form_.Set_Value("Drive1", static_cast<Long>(Root_Of(Dir_, Drives_)));
     Form_.Set_Items("Dir1", std::move(Names), -1);
     if (Events_.On_Dir) Events_.On_Dir();
+}
+
+// Typed or pasted, in the system's form or the program's.
+bool Dir_Lists::Take_Path(std::string Text) {
+    std::ranges::replace(Text, '/', '\\');
+    const bool Has_Root = Text.starts_with('\\') || Text.substr(0, 3).ends_with(":\\");
+    if (!Has_Root || !Dir_Exists(Text)) return false;
+    List_Dir(Text);
+    return true;
 }
 
 void Dir_Lists::Change_Drive() {

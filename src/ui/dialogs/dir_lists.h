@@ -28,6 +28,7 @@ public:
 
 private:
     void List_Dir(const std::string& Path);
+    bool Take_Path(std::string Text);
     void Change_Drive();
     void Go_Into();
 

@@ -16,7 +16,7 @@ public:
              .Words = {"Double-click on the directory", "Double-click sur le r\xE9pertoire"}});
         Add_Ok_Cancel(
             *this, [this] { Ok(); }, [this] { Close(Form_End::Closed); });
-        Set_Layout(Column({"Lab_DblClick", Fields({"Drive1"}), "Path", "Dir1",
+        Set_Layout(Column({Fields({"Path", "Drive1"}), "Lab_DblClick", "Dir1",
                            Buttons({"Cmd_Ok", "Cmd_Cancel"})}));
         On_Load = [this] { Load(); };
     }

@@ -36,7 +36,7 @@ public:
              .Rule = {.Accept = [this](const std::string& Text) { return Take_Dir(Text); },
                       .Held = [this] { return New_DirFS_; }},
              .Columns = 48,
-             .On_Double_Click = [this] { Choose(); }});
+             .On_Choose = [this] { Choose(); }});
         Add({.Kind = Control_Kind::Frame, .Name = "Fram_Lang", .Words = {"Language", "Langage"}});
         Add({.Kind = Control_Kind::Options,
              .Name = "Opt_Lang",
@@ -51,6 +51,9 @@ public:
         Set_Layout(Column({Fields({"DirFS"}), Frame("Fram_Lang", {"Opt_Lang"}),
                            Buttons({"Cmd_Ok", "Cmd_Cancel", "Cmd_Help"})}));
         On_Load = [this] { Load(); };
+        On_Unload = [this] {
+            if (End() != Form_End::Ok) Speak(Former_Language_);
+        };
     }
 
 private:
@@ -59,8 +62,15 @@ private:
         New_Language_ = First_Language();
         Set_Text("DirFS", New_DirFS_);
         Set_Value("Opt_Lang", New_Language_ == "US" ? 1 : 0);
-        Set_Language(New_Language_);
+        Former_Language_ = ::Language;
+        Speak(New_Language_);
         Set_Focus("DirFS");
+    }
+    // While the dialog is up the whole program speaks the language that it shows.
+    void Speak(const std::string& Lang) {
+        ::Language = Lang;
+        Set_Language(Lang);
+        Call(The_View.Apply_Language);
     }
     // No directory at all is an answer too: scenery is generated without the simulator.
     bool Take_Dir(const std::string& Text) {
@@ -69,7 +79,7 @@ private:
         return true;
     }
     void Choose() {
-        Dir_Title = New_Language_ == "US" ? "FS9 directory" : "R\xE9pertoire FS9";
+        Dir_Title = In_Language("FS9 directory", "R\xE9pertoire FS9");
         std::string Path = New_DirFS_;
         Int Cancelled = 1;
         Choose_Dir(Path, Cancelled);
@@ -79,10 +89,9 @@ private:
     }
     void Change_Language() {
         New_Language_ = (*this)["Opt_Lang"].Value == 1 ? "US" : "FR";
-        Set_Language(New_Language_);
+        Speak(New_Language_);
     }
     void Ok() {
-        ::Language = New_Language_;
         DirFS = New_DirFS_;
         Dir_Texture = DirFS.empty() ? "" : DirFS + "Scenery\\world\\Texture";
         Fl1Fois = 1;
@@ -91,11 +100,10 @@ private:
         if (!Kept)
             Plain_Box(In_Language("The settings could not be saved",
                                   "Les param\xE8tres n'ont pas pu \xEAtre enregistr\xE9s"));
-        Call(The_View.Apply_Language);
         Close(Form_End::Ok);
     }
 
-    std::string New_DirFS_, New_Language_;
+    std::string New_DirFS_, New_Language_, Former_Language_;
 };
 
 }  // namespace
