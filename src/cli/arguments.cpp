@@ -2,6 +2,7 @@
 #include "cli/arguments.h"
 
 #include <algorithm>
+#include <charconv>
 #include <vector>
 
 const char Cli_Help[] =
@@ -9,6 +10,7 @@ const char Cli_Help[] =
 
 Usage:
   terrafold-cli generate PROJECT [--app-path DIR] [--language FR|US] [--dry-run]
+  terrafold-cli play SCRIPT [--app-path DIR] [--language FR|US] [--canvas WxH]
   terrafold-cli resave IN OUT
   terrafold-cli info PROJECT
   terrafold-cli texture IN OUT.bmp [--palette FILE]
@@ -20,23 +22,27 @@ generate  writes the scenery sources of PROJECT (a .LWM file) and compiles them 
               write PATH              a source was written
               run COMMAND LINE        an outside tool is started
               message NUMBER TEXT     a message; NUMBER 0 is one without a number
+play      runs the whole program without a screen and does what SCRIPT (a file, or "-"
+          for standard input) says a user does. docs/play.md tells of its language.
 resave    reads IN and writes it as OUT.
 info      prints counts, extent and outputs of PROJECT as JSON.
 texture   writes the texture file IN, of any format of the simulator, as a bitmap of
           24 bits and prints what it is.
 
-Options of generate:
+Options of generate and play:
   --app-path DIR     directory of the outside tools, where the sources go as well
                      (default: TERRAFOLD_HOME, else the program's own directory if it
                      can be written, else the user's data directory)
   --language FR|US   language of the messages (default: as in the settings)
-  --dry-run          starts no outside tool and takes every start as a success
+  --dry-run          (generate) starts no outside tool and takes every start as a success
+  --canvas WxH       (play) size of the canvas in pixels (default: 801x601)
 
 Option of texture:
   --palette FILE     colours of textures of type R8 (default: Fs5.pal of the home)
 
 Exit status: 0 all well, 1 a message was shown or IN is no texture, 2 wrong usage,
-3 the project could not be opened.
+3 the project could not be opened. Of play: 0 all was played, 2 wrong usage or a line
+that makes no sense, 4 an act that no user could do.
 )";
 
 namespace {
@@ -71,15 +77,31 @@ bool Take_Value(const std::string& Word, const std::string& Option, Word_List& W
     return true;
 }
 
-void Parse_Generate_Option(const std::string& Word, Word_List& Words, Cli_Arguments& A) {
-    if (Word == "--dry-run") {
+// "801x601".
+bool Read_Size(const std::string& Text, Long& Width, Long& Height) {
+    constexpr Long Largest = 20000;
+    const char* End = Text.data() + Text.size();
+    const auto W = std::from_chars(Text.data(), End, Width);
+    if (W.ec != std::errc() || W.ptr == End || *W.ptr != 'x') return false;
+    const auto H = std::from_chars(W.ptr + 1, End, Height);
+    const auto Serves = [](Long Side) { return 1 <= Side && Side <= Largest; };
+    return H.ec == std::errc() && H.ptr == End && Serves(Width) && Serves(Height);
+}
+
+void Parse_Option(const std::string& Word, Word_List& Words, Cli_Arguments& A) {
+    const bool Plays = A.What == Cli_Arguments::Command::Play;
+    std::string Size;
+    if (!Plays && Word == "--dry-run") {
         A.Dry_Run = true;
+    } else if (Plays && Take_Value(Word, "--canvas", Words, Size)) {
+        if (!Read_Size(Size, A.Canvas_Width, A.Canvas_Height))
+            A.Error = "--canvas is a size such as 801x601";
     } else if (Take_Value(Word, "--app-path", Words, A.App_Dir)) {
         if (A.App_Dir.empty()) A.Error = "--app-path needs a directory";
     } else if (Take_Value(Word, "--language", Words, A.Language)) {
         A.Language = Upper_Ascii(A.Language);
         if (A.Language != "FR" && A.Language != "US") A.Error = "--language is FR or US";
-    } else if (Word == "--app-path" || Word == "--language") {
+    } else if (Word == "--app-path" || Word == "--language" || (Plays && Word == "--canvas")) {
         A.Error = Word + " needs a value";
     } else {
         A.Error = "unknown option " + Word;
@@ -102,8 +124,9 @@ void Parse_Rest(Word_List& Words, Cli_Arguments& A, std::size_t Nb_Files, const 
         const bool Is_Option = !Options_Ended && Word.size() > 1 && Word[0] == '-';
         if (Is_Option && Word == "--")
             Options_Ended = true;
-        else if (Is_Option && A.What == Cli_Arguments::Command::Generate)
-            Parse_Generate_Option(Word, Words, A);
+        else if (Is_Option && (A.What == Cli_Arguments::Command::Generate ||
+                               A.What == Cli_Arguments::Command::Play))
+            Parse_Option(Word, Words, A);
         else if (Is_Option && A.What == Cli_Arguments::Command::Texture)
             Parse_Texture_Option(Word, Words, A);
         else if (Is_Option)
@@ -137,6 +160,9 @@ Cli_Arguments Cli_Parse(std::span<const std::string> Words) {
     } else if (Name == "generate") {
         A.What = Command::Generate;
         Parse_Rest(List, A, 1, "one PROJECT");
+    } else if (Name == "play") {
+        A.What = Command::Play;
+        Parse_Rest(List, A, 1, "one SCRIPT");
     } else if (Name == "resave") {
         A.What = Command::Resave;
         Parse_Rest(List, A, 2, "IN and OUT");

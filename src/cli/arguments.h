@@ -4,15 +4,18 @@
 #include <span>
 #include <string>
 
+#include "core/numbers.h"
+
 struct Cli_Arguments {
-    enum class Command { Generate, Resave, Info, Texture, Help, Version };
+    enum class Command { Generate, Play, Resave, Info, Texture, Help, Version };
     Command What = Command::Help;
-    std::string Project;   // or the texture: the system's path, as typed; so are the next two
+    std::string Project;   // or script or texture: the system's path, as typed; so are the next two
     std::string Target;    // of resave and texture
     std::string App_Dir;   // --app-path; empty when not given
     std::string Language;  // --language: "FR" or "US"; empty when not given
     std::string Palette;   // --palette, the system's path; empty when not given
     bool Dry_Run = false;
+    Long Canvas_Width = 801, Canvas_Height = 601;  // --canvas
 
     std::string Error;  // what is wrong with the command line; empty when it is right
 };

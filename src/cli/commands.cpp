@@ -14,10 +14,12 @@
 #include "core/program.h"
 #include "core/project_file.h"
 #include "gen/driver.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/program_dir.h"
 #include "platform/settings_file.h"
 #include "platform/text1252.h"
+#include "play/play.h"
 #include "tex/texture.h"
 
 namespace {
@@ -37,6 +39,14 @@ std::optional<std::string> Typed_Path(const std::string& Typed) {
     const auto Path = Program_Path(std::filesystem::path(Utf8));
     if (!Path) Complain("the path " + Typed + " has characters that the program cannot write");
     return Path;
+}
+
+std::string Standard_Input() {
+    std::string Text;
+    char Part[4096];
+    for (std::size_t N = 0; (N = std::fread(Part, 1, sizeof Part, stdin)) > 0;)
+        Text.append(Part, N);
+    return Text;
 }
 
 // The directory that the program works in, ready for use.
@@ -122,6 +132,33 @@ int Texture(const Cli_Arguments& A) {
     return All_Well;
 }
 
+// The bytes of a script; nothing when it can't be read.
+std::optional<std::string> Script_Text(const std::string& Typed) {
+    if (Typed == "-") return Standard_Input();
+    const auto Path = Typed_Path(Typed);
+    auto Text = Path ? File_Read(*Path) : std::nullopt;
+    if (Path && !Text) Complain("the script " + Typed + " can't be read");
+    return Text;
+}
+
+int Play_Script(const Cli_Arguments& A) {
+    const auto Text = Script_Text(A.Project);
+    if (!Text) return Wrong_Usage;
+    const Play_End End = Play(Script_Read(*Text),
+                              {.App_Dir = App_Path,
+                               .Language = A.Language,
+                               .Width = A.Canvas_Width,
+                               .Height = A.Canvas_Height},
+                              [](std::string_view Line) {
+                                  const std::string Utf8 = To_Utf8(Line) + '\n';
+                                  std::fwrite(Utf8.data(), 1, Utf8.size(), stdout);
+                                  std::fflush(stdout);
+                              });
+    if (End.Status != 0)
+        Complain(A.Project + ", line " + std::to_string(End.Line) + ": " + To_Utf8(End.Reason));
+    return End.Status;
+}
+
 }  // namespace
 
 int Cli_Run(const std::vector<std::string>& Words) {
@@ -137,8 +174,10 @@ int Cli_Run(const std::vector<std::string>& Words) {
     }
     Program_Reset();
     const bool Has_Home = Set_Up_App_Path(A);
-    if (!Has_Home && A.What == Command::Generate) return Wrong_Usage;
+    if (!Has_Home && (A.What == Command::Generate || A.What == Command::Play)) return Wrong_Usage;
     switch (A.What) {
+        case Command::Play:
+            return Play_Script(A);
         case Command::Generate:
             return Generate(A);
         case Command::Resave:

@@ -10,10 +10,18 @@
 
 #include "core/numbers.h"
 
+/// What a start may do otherwise.
+struct Start_Options {
+    bool Alone = true;          // refused while another instance runs
+    bool Confirmed = false;     // the first start counts as confirmed
+    std::string Language = {};  // for this run, in the place of that of the settings
+};
+
 /// The start of the program, with the command line behind the program's name and the directory
 /// that App_Path is to be. Opens the project of the command line. False when the program must
 /// end, after a message: a second instance, or a display that cannot serve.
-bool Program_Start(std::string_view Command_Line, std::string_view App_Dir);
+bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
+                   const Start_Options& Options = {});
 
 /// The end of the program: releases map tiles, pictures, tables and the one-instance lock.
 void Program_End();

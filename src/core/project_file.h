@@ -6,6 +6,7 @@
 // the same layout, and 4.0 asks (form "Frm_V24") how its objects are to be brought up to date.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "core/numbers.h"
@@ -38,3 +39,7 @@ void Read_Project_Text(std::string_view Text);
 /// or not at all: a save that fails leaves the old file and says so in a plain box. False when
 /// nothing was written.
 bool Save_Project(Int Save_As, std::string_view New_Path);
+
+/// Writes the model to Path as a project file of that name, whole or not at all. The open
+/// project is not touched, and nobody is told of it. False when it could not be written.
+bool Write_Model(const std::string& Path);

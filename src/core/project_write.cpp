@@ -167,12 +167,16 @@ public:
     Save_Progress& operator=(const Save_Progress&) = delete;
 };
 
-bool Write_Project_File(Int Save_As, const std::string& Path) {
-    const Save_Progress Progress;
+bool Write_File(Int Save_As, const std::string& Path) {
     File_Writer Out(Path, File_Writer::Mode::Safe);
     if (!Out.Is_Open()) return false;
     Project_Writer(Out).Write_All(Save_As, Path);
     return Out.Commit();
+}
+
+bool Write_Project_File(Int Save_As, const std::string& Path) {
+    const Save_Progress Progress;
+    return Write_File(Save_As, Path);
 }
 
 }  // namespace
@@ -191,4 +195,8 @@ bool Save_Project(Int Save_As, std::string_view New_Path) {
                           "comme avant : ") +
               Path);
     return false;
+}
+
+bool Write_Model(const std::string& Path) {
+    return Write_File(0, Path);
 }

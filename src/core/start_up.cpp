@@ -89,9 +89,10 @@ std::string Command_Line_File(std::string_view Command_Line) {
     return File_Exists(Line) ? std::string(Line) : std::string();
 }
 
-bool Program_Start(std::string_view Command_Line, std::string_view App_Dir) {
+bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
+                   const Start_Options& Options) {
     Edit_On = 0;
-    if (!Is_First_Instance()) return false;
+    if (Options.Alone && !Is_First_Instance()) return false;
     Cmd_File = Command_Line_File(Command_Line);
     Set_App_Path(App_Dir);
     if (!Display_Serves()) {
@@ -100,6 +101,8 @@ bool Program_Start(std::string_view Command_Line, std::string_view App_Dir) {
     }
     Pal_Load();
     Read_Settings();
+    if (!Options.Language.empty()) Language = Options.Language;
+    if (Options.Confirmed) Fl1Fois = 1;
     Set_Up_Main_Form();
     Confirm_Parameters();
     Open_Command_Line_Project();

@@ -41,8 +41,17 @@ struct Route_State {
     Long Last_Obj = 0;  // to be painted plain when another tool is chosen
 };
 
+/// Textures: what is selected. Sel_Ima is a row of Tab_Ima, Ima_Poly one of Tab_Obj.
+struct Ima_State {
+    Int Ima_Selected = 0;
+    Long Sel_Ima = 0;
+    Int Ima_Poly_Selected = 0;
+    Long Ima_Poly = 0;  // the polygon chosen for linking
+};
+
 inline Mode_Flags The_Modes;
 inline Route_State The_Route;
+inline Ima_State The_Ima;
 
 inline Int& Mode_Route = The_Modes.Mode_Route;
 inline Int& Mode_Area = The_Modes.Mode_Area;
@@ -71,7 +80,13 @@ inline Long& Pt_Prev = The_Route.Pt_Prev;
 inline Int& Last_Obj_Set = The_Route.Last_Obj_Set;
 inline Long& Last_Obj = The_Route.Last_Obj;
 
+inline Int& Ima_Selected = The_Ima.Ima_Selected;
+inline Long& Sel_Ima = The_Ima.Sel_Ima;
+inline Int& Ima_Poly_Selected = The_Ima.Ima_Poly_Selected;
+inline Long& Ima_Poly = The_Ima.Ima_Poly;
+
 inline const bool Edit_State_Is_Reset = At_Reset([] {
     The_Modes = {};
     The_Route = {};
+    The_Ima = {};
 });

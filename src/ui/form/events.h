@@ -10,6 +10,7 @@ inline constexpr Int Alt_Key = 4;
 
 /// Letters and digits are their capital ASCII character; other keys have the names below.
 using Key_Code = Int;
+inline constexpr Key_Code Key_Tab = 9;
 inline constexpr Key_Code Key_Enter = 13;
 inline constexpr Key_Code Key_Escape = 27;
 inline constexpr Key_Code Key_Left = 37;

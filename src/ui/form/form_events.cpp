@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/check.h"
 #include "core/messages.h"
@@ -81,25 +82,10 @@ bool Move_Focus(Form& F, const Control& To) {
     return true;
 }
 
-bool Takes_Focus(const Control& C) {
-    switch (C.Kind) {
-        case Control_Kind::Button:
-            return C.Icon.empty();  // tool buttons leave it where it is
-        case Control_Kind::Menu:
-        case Control_Kind::Menu_Item:
-        case Control_Kind::Label:
-        case Control_Kind::Scroll_Bar:
-        case Control_Kind::Tabs:
-            return false;
-        default:
-            return true;
-    }
-}
-
 // Whether C may be used now: the field that had the focus is left first.
 bool Reach(Form& F, const Control& C) {
     if (Looks_At_No_Field(C)) return true;
-    return (Takes_Focus(C) ? Move_Focus(F, C) : Accept_Typed(F)) && Form_In_Reach(F, C.Name);
+    return (Form_Takes_Focus(C) ? Move_Focus(F, C) : Accept_Typed(F)) && Form_In_Reach(F, C.Name);
 }
 
 const Control* With_Role(const Form& F, Button_Role Role) {
@@ -147,19 +133,20 @@ Long Nb_Choices(const Form& F, const Control& C) {
     return static_cast<Long>(Painted ? C.Colours.size() : C.Items.size());
 }
 
-bool Can_Choose(const Form& F, const Control& C, Long I) {
-    if (I < 0 || I >= Nb_Choices(F, C)) return false;
-    if (C.Kind != Control_Kind::Tabs) return true;
-    const Control& Page = F[F.Pages(C.Name)[static_cast<std::size_t>(I)]];
-    return Page.Enabled && Page.Visible;
-}
-
 // The control with the focus may have gone to the back with its page.
 void Leave_What_Is_Hidden(Form& F) {
     const std::string From = F.Focus();
     if (From.empty() || F.Is_Visible(From)) return;
     Access::Focus(F).clear();
     Run(F, F[From].On_Leave);
+}
+
+// Controls that the focus can go to now, in the order of the layout.
+void Note_Focusable(const Form& F, const Layout& L, std::vector<std::string>& To) {
+    if (L.Parts.empty() && !L.Name.empty() && Form_In_Reach(F, L.Name) &&
+        Form_Takes_Focus(F[L.Name]) && (To.empty() || To.back() != L.Name))
+        To.push_back(L.Name);
+    for (const Layout& Part : L.Parts) Note_Focusable(F, Part, To);
 }
 
 }  // namespace
@@ -200,10 +187,18 @@ bool Form_Open_Chooser(Form& F, std::string_view Name) {
     return true;
 }
 
+bool Form_Can_Choose(const Form& F, std::string_view Name, Long I) {
+    const Control& C = F[Name];
+    if (I < 0 || I >= Nb_Choices(F, C)) return false;
+    if (C.Kind != Control_Kind::Tabs) return true;
+    const Control& Page = F[F.Pages(Name)[static_cast<std::size_t>(I)]];
+    return Page.Enabled && Page.Visible;
+}
+
 bool Form_Choose(Form& F, std::string_view Name, Long I) {
     if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
-    if (!Can_Choose(F, C, I)) return false;
+    if (!Form_Can_Choose(F, Name, I)) return false;
     if (!Reach(F, C)) {
         Access::Tell(F, C);  // the toolkit shows the choice already
         return false;
@@ -249,6 +244,30 @@ bool Form_Type(Form& F, std::string_view Name, std::string_view Text) {
 bool Form_Enter_Control(Form& F, std::string_view Name) {
     if (!Form_In_Reach(F, Name)) return false;
     return Move_Focus(F, F[Name]);
+}
+
+bool Form_Takes_Focus(const Control& C) {
+    switch (C.Kind) {
+        case Control_Kind::Button:
+            return C.Icon.empty();  // tool buttons leave it where it is
+        case Control_Kind::Menu:
+        case Control_Kind::Menu_Item:
+        case Control_Kind::Label:
+        case Control_Kind::Scroll_Bar:
+        case Control_Kind::Tabs:
+            return false;
+        default:
+            return true;
+    }
+}
+
+bool Form_Next_Control(Form& F) {
+    std::vector<std::string> Order;
+    Note_Focusable(F, F.Root(), Order);
+    if (Order.empty()) return false;
+    const auto At = std::find(Order.begin(), Order.end(), F.Focus());
+    const bool Is_Last = At == Order.end() || At + 1 == Order.end();
+    return Form_Enter_Control(F, Is_Last ? Order.front() : *(At + 1));
 }
 
 bool Form_Leave(Form& F) {

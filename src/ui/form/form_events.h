@@ -21,6 +21,8 @@ bool Form_Open_Chooser(Form& F, std::string_view Name);
 
 /// Item I of Options, a List or a Combo, page I of Tabs; the one chosen before counts too.
 bool Form_Choose(Form& F, std::string_view Name, Long I);
+/// Whether there is such an item, or such a page that is enabled and visible.
+bool Form_Can_Choose(const Form& F, std::string_view Name, Long I);
 /// Brings every page round a control to the front. False when one is disabled or hidden, or the
 /// field that would be left refused its text.
 bool Form_Bring_To_Front(Form& F, std::string_view Name);
@@ -36,6 +38,12 @@ bool Form_Type(Form& F, std::string_view Name, std::string_view Text);
 /// Cancel or Help. A field's whole text is selected. False when the old one refused its text and
 /// keeps the focus.
 bool Form_Enter_Control(Form& F, std::string_view Name);
+
+/// Whether a control can have the focus at all.
+bool Form_Takes_Focus(const Control& C);
+
+/// The focus goes on, in the order of the layout, to the next control that can have it.
+bool Form_Next_Control(Form& F);
 
 /// Accepts what was typed into a field, if anything was. False after message 1.
 bool Form_Leave(Form& F);

@@ -1,0 +1,297 @@
+// play/player.cpp - the program from start to end, act after act, and the host it speaks to.
+#include "play/player.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/lifecycle.h"
+#include "core/program.h"
+#include "core/view_calls.h"
+#include "play/script_path.h"
+#include "ui/dialogs/dialogs.h"
+#include "ui/form/form_events.h"
+#include "ui/frm/frm.h"
+
+namespace {
+
+// Text with every line end as one blank.
+std::string On_One_Line(std::string_view Text) {
+    std::string Line;
+    for (std::size_t I = 0; I < Text.size(); ++I) {
+        if (Text[I] == '\r' && I + 1 < Text.size() && Text[I + 1] == '\n') continue;
+        Line += Text[I] == '\r' || Text[I] == '\n' ? ' ' : Text[I];
+    }
+    return Line;
+}
+
+// The button of a box that a word names, 0 when the box does not have it.
+Int Button_Of(std::string_view Word, Int Style) {
+    const Int Buttons = static_cast<Int>(Style % 16);
+    const bool Has_Cancel = Buttons == Box_Ok_Cancel || Buttons == Box_Yes_No_Cancel;
+    if (Word == "cancel") return Has_Cancel ? Button_Cancel : Int{0};
+    if (Word == "ok") return Buttons == Box_Ok_Cancel ? Button_Ok : Int{0};
+    const bool Has_Yes_No = Buttons == Box_Yes_No || Buttons == Box_Yes_No_Cancel;
+    if (!Has_Yes_No) return 0;
+    return Word == "yes" ? Button_Yes : Button_No;
+}
+
+bool Asks(Int Style) {
+    const Int Buttons = static_cast<Int>(Style % 16);
+    return Buttons == Box_Ok_Cancel || Buttons == Box_Yes_No_Cancel || Buttons == Box_Yes_No;
+}
+
+bool Is_Registered(std::string_view Form) {
+    return std::ranges::count(Form_Names(), Form) != 0;
+}
+
+// Acts that go to no form.
+bool Needs_No_Form(Verb What) {
+    return What == Verb::Answer || What == Verb::File || What == Verb::Aircraft ||
+           What == Verb::State || What == Verb::Say;
+}
+
+}  // namespace
+
+Player::Player(const Script& S, const Play_Options& Options, Printer Print)
+    : Script_(S), Options_(Options), Print_(std::move(Print)) {}
+
+Play_End Player::Play_All() {
+    const Host_Scope Scope(*this);
+    Forms_Install();
+    Frm_Install();
+    Open_.push_back({.Shown = &Frm()});
+    The_View.Window_Show = [this] { Give_Canvas_Its_Room(Frm()); };
+    Program_Start({}, Options_.App_Dir,
+                  {.Alone = false, .Confirmed = true, .Language = Options_.Language});
+    Play_While([] { return true; });
+    Over_ = true;
+    Forms_Close();
+    End_Free_Forms();
+    Look_For_Answers_Left();
+    if (!Frm().Is_Closed()) Program_End();
+    Open_.clear();
+    return End_;
+}
+
+void Player::Play_While(const std::function<bool()>& Goes_On) {
+    while (!Over_ && Goes_On()) {
+        if (Next_ == Script_.Acts.size()) {
+            Over_ = true;
+            return;
+        }
+        const Act& A = Script_.Acts[Next_++];
+        Line_ = A.Line;
+        if (Frm().Is_Closed() && !Needs_No_Form(A.What)) return Fail("the program has ended");
+        Play_Act(A);
+        Open_Waiting_Forms();
+        End_Free_Forms();
+    }
+}
+
+void Player::Play_Act(const Act& A) {
+    switch (A.What) {
+        case Verb::Click:
+            return Click(A);
+        case Verb::Choose:
+            return Choose(A);
+        case Verb::Type:
+            return Type(A);
+        case Verb::Focus:
+            return Focus(A);
+        case Verb::Double_Click:
+            return Double_Click(A);
+        case Verb::Key:
+            return Press_Key(A);
+        case Verb::Close:
+            return Close_Form();
+        case Verb::Drop:
+            return Drop(A);
+        case Verb::Tick:
+            return Tick(A);
+        case Verb::Move:
+            Move_To(A);
+            return;
+        case Verb::Press:
+            return Press(A);
+        case Verb::Release:
+            return Release(A);
+        case Verb::Wheel:
+            return Wheel(A);
+        case Verb::Answer:
+            Boxes_.push_back({.Line = A.Line, .Word = A.Words[0]});
+            return;
+        case Verb::File:
+            Files_.push_back({.Line = A.Line, .Word = A.Words[0]});
+            return;
+        case Verb::Aircraft:
+            return;
+        case Verb::Show:
+            return Show(A);
+        case Verb::Items:
+            return Items(A);
+        case Verb::State:
+            return State();
+        case Verb::Write:
+            return Write(A);
+        case Verb::Say:
+            return Say(A);
+    }
+}
+
+void Player::Fail(std::string Reason) {
+    if (End_.Status == 0) End_ = {.Status = 4, .Line = Line_, .Reason = std::move(Reason)};
+    Over_ = true;
+}
+
+void Player::Print(std::string_view Line) {
+    if (End_.Status == 0) Print_(On_One_Line(Line));
+}
+
+void Player::Look_For_Answers_Left() {
+    const Ready_Answer* First = nullptr;
+    for (const Answers* Left : {&Boxes_, &Files_})
+        if (!Left->empty() && (First == nullptr || Left->front().Line < First->Line))
+            First = &Left->front();
+    if (First == nullptr) return;
+    Line_ = First->Line;
+    Fail("nothing asked for the answer " + First->Word);
+}
+
+std::string Player::Take(Answers& From) {
+    std::string Word = std::move(From.front().Word);
+    From.pop_front();
+    return Word;
+}
+
+Open_Form_State& Player::Front() {
+    return Open_.size() == 1 && !Free_.empty() ? Free_.back().Opened : Open_.back();
+}
+
+Open_Form_State* Player::On_Canvas() {
+    Open_Form_State& Top = Open_.back();
+    return Canvas_Of(*Top.Shown).empty() ? nullptr : &Top;
+}
+
+Int Player::Show_Box(const Box& B) {
+    if (Over_) return Silent_Host::Show_Box(B);
+    Print("message " + std::to_string(B.Num) + " " + B.Text);
+    if (!Asks(B.Style)) return Button_Ok;
+    if (Boxes_.empty()) {
+        Fail("a question has no answer: " + On_One_Line(B.Text));
+        return Silent_Host::Show_Box(B);
+    }
+    const std::string Word = Take(Boxes_);
+    const Int Button = Button_Of(Word, B.Style);
+    if (Button != 0) return Button;
+    Fail("the question does not offer the answer " + Word + ": " + On_One_Line(B.Text));
+    return Silent_Host::Show_Box(B);
+}
+
+std::optional<std::string> Player::Ask_File(const File_Question& Q) {
+    if (Over_) return std::nullopt;
+    if (Files_.empty()) {
+        Fail("a question for a file has no answer: " + Q.Title);
+        return std::nullopt;
+    }
+    const std::string Word = Take(Files_);
+    if (Word == "cancel") return std::nullopt;
+    const auto Path = Script_Path(Word);
+    if (!Path) Fail("the program cannot write the path " + Word);
+    return Path;
+}
+
+Form_End Player::Run_Form(std::string_view Name) {
+    if (Over_ || !Is_Registered(Name)) return Form_End::Absent;
+    Print("form " + std::string(Name));
+    const Form_End End = Form_Run(Name, *this);
+    Print_End(Name, End);
+    return End;
+}
+
+void Player::Print_End(std::string_view Name, Form_End End) {
+    Print("end " + std::string(Name) + (End == Form_End::Ok ? " ok" : " closed"));
+}
+
+// A canvas without a size of its own has the one that was asked for.
+void Player::Give_Canvas_Its_Room(Form& F) {
+    const std::string Name = Canvas_Of(F);
+    if (Name.empty() || !F[Name].On_Resize) return;
+    const Control& Canvas = F[Name];
+    Canvas.On_Resize(Canvas.Width > 0 ? Canvas.Width : Options_.Width,
+                     Canvas.Height > 0 ? Canvas.Height : Options_.Height);
+}
+
+void Player::Run_Modal(Form& F) {
+    Open_.push_back({.Shown = &F});
+    Give_Canvas_Its_Room(F);
+    Play_While([&F] { return !F.Is_Closed(); });
+    F.Close(Form_End::Closed);
+    Open_.pop_back();
+}
+
+void Player::Open_Form(std::string_view Name, Int) {
+    if (!Over_) Waiting_.emplace_back(Name);
+}
+
+// A form that is not modal opens when the act that asked for it is over.
+void Player::Open_Waiting_Forms() {
+    for (const std::string& Name : std::exchange(Waiting_, {})) {
+        if (Over_ || !Is_Registered(Name)) continue;
+        Print("form " + Name);
+        Form_Open(Name, *this);
+    }
+}
+
+void Player::Show_Open(std::shared_ptr<Form> F) {
+    Free_.push_back({.Kept = F, .Opened = {.Shown = F.get()}});
+    Give_Canvas_Its_Room(*F);
+}
+
+// Those that have closed are let go when none of their handlers can be at work any more.
+void Player::End_Free_Forms() {
+    if (Open_.size() > 1) return;
+    std::erase_if(Free_, [this](const Free_Form& Free) {
+        if (!Free.Kept->Is_Closed()) return false;
+        Print_End(Free.Kept->Name(), Free.Kept->End());
+        return true;
+    });
+}
+
+void Player::Set_Caption(std::string_view Control, std::string_view Text) {
+    Frm_Set_Caption(Control, Text);
+}
+
+void Player::Set_Enabled(std::string_view Control, bool On) {
+    Frm_Set_Enabled(Control, On);
+}
+
+void Player::Set_Visible(std::string_view Control, bool On) {
+    Frm_Set_Visible(Control, On);
+}
+
+void Player::Set_Value(std::string_view Control, Long Value) {
+    Frm_Set_Value(Control, Value);
+}
+
+void Player::Set_Focus(std::string_view Control) {
+    Frm_Set_Focus(Control);
+}
+
+bool Player::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
+    if (Over_) return false;
+    Print("run " + std::string(Cmd_Line));
+    return Silent_Host::Run_Tool(Cmd_Line, Show_Mode);
+}
+
+void Player::Note_File(File_Event Event, std::string_view Path) {
+    Print((Event == File_Event::Deleted ? "delete " : "write ") + std::string(Path));
+}
+
+Play_End Play(const Script& S, const Play_Options& Options,
+              const std::function<void(std::string_view Line)>& Print) {
+    if (!S.Error.empty()) return {.Status = 2, .Line = S.Bad_Line, .Reason = S.Error};
+    Program_Reset();
+    const Play_End End = Player(S, Options, Print).Play_All();
+    Program_Reset();
+    return End;
+}
