@@ -95,6 +95,11 @@ std::vector<std::string> Overlay_Texts() {
     return Texts;
 }
 
+// A button that is drawn pressed is a button all the same.
+Long Value_Shown(const Control& C) {
+    return C.Kind == Control_Kind::Button ? 0 : C.Value;
+}
+
 const char* Pointer_Text(Pointer_Shape Shape) {
     switch (Shape) {
         case Pointer_Shape::Cross:
@@ -122,7 +127,7 @@ void Player::Show(const Act& A) {
         if (!F.Has(Name)) return Fail("there is no " + Name + " of " + F.Name());
         const Control& C = F[Name];
         Print("show " + Name + " text=" + Quoted(Text_Shown(C)) +
-              " value=" + std::to_string(C.Value) + " enabled=" + (F.Is_Enabled(Name) ? "1" : "0") +
+              " value=" + std::to_string(Value_Shown(C)) + " enabled=" + (F.Is_Enabled(Name) ? "1" : "0") +
               " visible=" + (F.Is_Shown(Name) && F.Is_Visible(Name) ? "1" : "0"));
     }
 }

@@ -168,6 +168,10 @@ void Map_Split_Tiles(Map_Progress& Progress, std::string_view Path, Int& Error) 
     Error = 0;
 }
 
+void Map_Delete_Tiles(Long Width, Long Height) {
+    Delete_Tiles(Tile_Count(Width), Tile_Count(Height));
+}
+
 std::string Tile_File_Name(Int Index) {
     const Long Cols = std::max<Long>(1, Nb_Tile_Cols);
     return Name_Of(Index % Cols, Index / Cols, Nb_Tile_Cols, Nb_Tile_Rows);

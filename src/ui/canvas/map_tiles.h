@@ -35,6 +35,9 @@ inline std::vector<Picture> WPic = std::vector<Picture>(1);
 /// no tile file is left. The map is read piece by piece. Does not touch the project.
 void Map_Split_Tiles(Map_Progress& Progress, std::string_view Path, Int& Error);
 
+/// Deletes the tile files of a map of that size in pixels.
+void Map_Delete_Tiles(Long Width, Long Height);
+
 /// Column and row of a tile as its file name has them.
 std::string Tile_File_Name(Int Index);
 /// The path of a tile file.

@@ -10,6 +10,12 @@ void Forms_Install() {
     Form_Register("Frm_Dir", Make_Frm_Dir);
     Form_Register("Frm_ColourGrid", Make_Frm_ColourGrid);
     Form_Register("Frm_LBmp", Make_Frm_LBmp);
+    Form_Register("Frm_CadBmp", Make_Frm_CadBmp);
+    Form_Register("Frm_CenterMap", Make_Frm_CenterMap);
+    Form_Register("Frm_CvLL1", Make_Frm_CvLL1);
+    Form_Register("Frm_ModCad", Make_Frm_ModCad);
+    Form_Register("Frm_PPro", Make_Frm_PPro);
+    Form_Register("Frm_V24", Make_Frm_V24);
 }
 
 void Add_Ok_Cancel(Form& F, std::function<void()> Ok, std::function<void()> Cancel) {

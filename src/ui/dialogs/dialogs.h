@@ -10,6 +10,12 @@ std::unique_ptr<Form> Make_Frm_PGen();
 std::unique_ptr<Form> Make_Frm_Dir();
 std::unique_ptr<Form> Make_Frm_ColourGrid();
 std::unique_ptr<Form> Make_Frm_LBmp();
+std::unique_ptr<Form> Make_Frm_CadBmp();
+std::unique_ptr<Form> Make_Frm_CenterMap();
+std::unique_ptr<Form> Make_Frm_CvLL1();
+std::unique_ptr<Form> Make_Frm_ModCad();
+std::unique_ptr<Form> Make_Frm_PPro();
+std::unique_ptr<Form> Make_Frm_V24();
 
 /// Registers every dialog of this folder. Called once at the start of the program.
 void Forms_Install();

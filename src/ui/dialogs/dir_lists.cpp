@@ -1,6 +1,7 @@
 // ui/dialogs/dir_lists.cpp - a list of drives and one of directories.
 #include "ui/dialogs/dir_lists.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/program.h"

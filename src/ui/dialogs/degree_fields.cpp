@@ -1,0 +1,50 @@
+// ui/dialogs/degree_fields.cpp - fields for a latitude or a longitude.
+#include "ui/dialogs/degree_fields.h"
+
+#include <cctype>
+
+#include "core/typed_number.h"
+#include "geo/latlon_text.h"
+
+namespace {
+
+bool Is_Lat(const Degree_Field& D) {
+    return D.Of == Degree_Field::Axis::Lat;
+}
+
+std::string Degrees_Text(const Degree_Field& D) {
+    return Is_Lat(D) ? Lat_To_Text(*D.Target) : Lon_To_Text(*D.Target);
+}
+
+// A text stays in the field as it was typed; a number is shown as numbers are.
+bool Take(Form& F, Degree_Field& D, const std::string& Text) {
+    const Degrees_Typed Typed = Is_Lat(D) ? Typed_Lat(Text) : Typed_Lon(Text);
+    if (Typed.Err != 0) return false;
+    *D.Target = Typed.Deg;
+    const bool Has_Letter = std::isalpha(static_cast<unsigned char>(Text.front())) != 0;
+    D.Held = Has_Letter ? Text : Shown_Number(Typed.Deg);
+    F.Set_Caption(D.Label, Typed.Other_Form);
+    return true;
+}
+
+}  // namespace
+
+void Add_Degree_Fields(Form& F, std::vector<Degree_Field>& Fields) {
+    for (Degree_Field& D : Fields) {
+        F.Add({.Kind = Control_Kind::Text,
+               .Name = D.Name,
+               .Words = D.Words,
+               .Rule = {.Accept = [&F, &D](const std::string& Text) { return Take(F, D, Text); },
+                        .Held = [&D] { return D.Held; }},
+               .Columns = 20});
+        F.Add({.Name = D.Label, .Columns = 20});
+    }
+}
+
+void Show_Degree_Fields(Form& F, std::vector<Degree_Field>& Fields) {
+    for (Degree_Field& D : Fields) {
+        D.Held = Shown_Number(*D.Target);
+        F.Set_Text(D.Name, D.Held);
+        F.Set_Caption(D.Label, Degrees_Text(D));
+    }
+}
