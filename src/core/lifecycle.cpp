@@ -105,6 +105,7 @@ void Open_Project(std::string_view Path) {
 }
 
 void Close_View() {
+    Call(The_View.Forms_Close);
     Call(The_View.Tiles_Remove);
     Call(The_View.Mode_Leave);
     Call(The_View.View_Clear);

@@ -70,6 +70,12 @@ Long Obj_Add(const Attr& A, Double X, Double Y) {
     return Tab_Obj.Append(std::move(O));
 }
 
+Long Obj_Add_Empty(const Attr& A) {
+    if (Last_Num_Obj == std::numeric_limits<Long>::max()) return 0;
+    ++Model_Changes;
+    return Tab_Obj.Append({.Num = ++Last_Num_Obj, .Attr = A});
+}
+
 void Obj_Delete(Long I) {
     Check(I >= First_Obj, "the reserved element is never deleted");
     Tab_Obj.Remove(I);

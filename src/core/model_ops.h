@@ -23,6 +23,8 @@ Attr Attr_Zero();
 
 /// A new object with one point; it gets the next object number.
 Long Obj_Add(const Attr& A, Double X, Double Y);
+/// A new object without points, which are to follow.
+Long Obj_Add_Empty(const Attr& A);
 /// Removes object I; the objects behind it move down, its points stay in the pool.
 void Obj_Delete(Long I);
 

@@ -110,6 +110,7 @@ bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
 }
 
 void Program_End() {
+    Call(The_View.Forms_Close);
     Call(The_View.Tiles_Remove);
     Call(The_View.Ima_Unload);
     Call(The_View.View_Clear);

@@ -16,6 +16,8 @@ struct View_Calls {
     std::function<void()> Route_Leave;     // ends a drawing in progress
     std::function<void()> Mode_Leave;      // leaves the editing mode; may show message 130
     std::function<void()> Mode_Area_On;    // enters Mode_Area
+    std::function<void()> Mode_Route_On;   // enters Mode_Route
+    std::function<void()> Forms_Close;     // ends the forms that are open beside the main one
     std::function<void()> Window_Show;     // the main form is laid out and may come up
     std::function<void()> Apply_Language;  // rewords the main form
     std::function<bool()> Tiles_Build;     // cuts the map Carte; false when its format is refused

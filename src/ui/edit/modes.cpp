@@ -72,6 +72,10 @@ void Mode_Area_On() {
     Take_Mode(Row_Of_Area);
 }
 
+void Mode_Route_On() {
+    Take_Mode(Row_Of_Route);
+}
+
 void Cmd_FSUIPC() {
     Mode_Leave();
     if (Poly_Out_Of_Tex != 0) return;

@@ -51,6 +51,8 @@ void Mode_Clear();
 void Tool_Bar_Reset();
 /// Mode_Area, as when a project has become ready; nothing is painted.
 void Mode_Area_On();
+/// Mode_Route, as when a flight has been recorded; the same.
+void Mode_Route_On();
 
 /// Leaves the mode and opens the recorder of flights; refused as the entering of a mode is.
 void Cmd_FSUIPC();

@@ -22,6 +22,7 @@
 #include "ui/canvas/view.h"
 #include "ui/edit/modes.h"
 #include "ui/edit/route_tools.h"
+#include "ui/form/form_list.h"
 #include "ui/frm/frm_controls.h"
 #include "ui/frm/frm_keys.h"
 #include "ui/frm/generate.h"
@@ -114,6 +115,8 @@ void Install_View_Calls() {
     The_View.Route_Reset = Route_Reset;
     The_View.Route_Leave = Route_Leave;
     The_View.Mode_Area_On = Mode_Area_On;
+    The_View.Mode_Route_On = Mode_Route_On;
+    The_View.Forms_Close = Forms_Close;
     The_View.Apply_Language = Apply_Language;
     The_View.Tiles_Build = Tiles_Build;
     The_View.Tiles_Show = Tiles_Show;
