@@ -45,6 +45,11 @@ std::optional<std::string> Installed_Resources() {
 
 }  // namespace
 
+std::optional<std::string> Own_Dir() {
+    const std::optional<fs::path> Own = Own_Program_Dir();
+    return Own ? Program_Path(*Own) : std::nullopt;
+}
+
 std::optional<std::string> Find_App_Dir() {
     if (auto Named = Env_Program_Path("TERRAFOLD_HOME")) {
         if (Named->empty()) return std::nullopt;

@@ -5,6 +5,9 @@
 #include <string>
 #include <string_view>
 
+/// The directory of the running program's file, in the program's form, no final backslash.
+std::optional<std::string> Own_Dir();
+
 /// The directory that App_Path is to be, in the program's form, no final backslash: the one
 /// named by the environment variable TERRAFOLD_HOME; else the program's own directory if it
 /// holds Resource and can be written; else the user's data directory for Terrafold. Nothing

@@ -33,7 +33,7 @@ Long Scripted_Simulator::Send(Long Command, Long) {
 
 std::optional<std::string> Scripted_Simulator::Take_Atom(Long Atom) {
     if (State_ != State::Flying || Atom != Identity) return std::nullopt;
-    return "Plain010000000100000000of a script";
+    return "Plain0100000001000000of a script";
 }
 
 std::optional<Double> Scripted_Simulator::Degrees(Long Item) {
