@@ -21,16 +21,6 @@ bool Progress_Is_Due() {
     return true;
 }
 
-// TEXT with every line end as one blank.
-std::string On_One_Line(std::string_view Text) {
-    std::string Line;
-    for (std::size_t I = 0; I < Text.size(); ++I) {
-        if (Text[I] == '\r' && I + 1 < Text.size() && Text[I + 1] == '\n') continue;
-        Line += Text[I] == '\r' || Text[I] == '\n' ? ' ' : Text[I];
-    }
-    return Line;
-}
-
 }  // namespace
 
 Cli_Host::Cli_Host(std::FILE* Out, bool Dry_Run)
@@ -49,7 +39,7 @@ void Cli_Host::Clear_Progress() {
 
 void Cli_Host::Print(std::string_view Line) {
     Clear_Progress();
-    std::string Utf8 = To_Utf8(On_One_Line(Line));
+    std::string Utf8 = To_Utf8(As_One_Line(Line));
     Utf8 += '\n';
     std::fwrite(Utf8.data(), 1, Utf8.size(), Out_);
     std::fflush(Out_);

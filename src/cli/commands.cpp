@@ -108,11 +108,6 @@ bool Load_Palette(const Cli_Arguments& A) {
     return false;
 }
 
-std::string On_One_Line(std::string Text) {
-    const std::size_t At = Text.find("\r\n");
-    return At == std::string::npos ? Text : Text.replace(At, 2, " ");
-}
-
 int Texture(const Cli_Arguments& A) {
     Cli_Host Host(stderr, true);
     const Host_Scope Scope(Host);
@@ -125,7 +120,7 @@ int Texture(const Cli_Arguments& A) {
     if (Fault != Texture_Fault::None) {
         const bool Is_Output = Fault == Texture_Fault::Not_Written;
         const std::string Text = Texture_Fault_Text(Fault, Is_Output ? *Output : *Source);
-        Complain(To_Utf8(On_One_Line(Text)));
+        Complain(To_Utf8(As_One_Line(Text)));
         return Message_Shown;
     }
     std::printf("%s\n", To_Utf8(Description).c_str());

@@ -126,3 +126,12 @@ std::string_view Trim(std::string_view Text) {
     if (First == std::string_view::npos) return {};
     return Text.substr(First, Text.find_last_not_of(" \t") - First + 1);
 }
+
+std::string As_One_Line(std::string_view Text) {
+    std::string Line;
+    for (std::size_t I = 0; I < Text.size(); ++I) {
+        if (Text[I] == '\r' && I + 1 < Text.size() && Text[I + 1] == '\n') continue;
+        Line += Text[I] == '\r' || Text[I] == '\n' ? ' ' : Text[I];
+    }
+    return Line;
+}

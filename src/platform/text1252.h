@@ -22,3 +22,6 @@ bool Equal_No_Case(std::string_view A, std::string_view B);
 
 /// Without blanks and tabs at both ends.
 std::string_view Trim(std::string_view Text);
+
+/// Text with every line end as one blank.
+std::string As_One_Line(std::string_view Text);

@@ -7,22 +7,13 @@
 #include "core/lifecycle.h"
 #include "core/program.h"
 #include "core/view_calls.h"
+#include "platform/text1252.h"
 #include "play/script_path.h"
 #include "ui/dialogs/dialogs.h"
 #include "ui/form/form_events.h"
 #include "ui/frm/frm.h"
 
 namespace {
-
-// Text with every line end as one blank.
-std::string On_One_Line(std::string_view Text) {
-    std::string Line;
-    for (std::size_t I = 0; I < Text.size(); ++I) {
-        if (Text[I] == '\r' && I + 1 < Text.size() && Text[I + 1] == '\n') continue;
-        Line += Text[I] == '\r' || Text[I] == '\n' ? ' ' : Text[I];
-    }
-    return Line;
-}
 
 // The button of a box that a word names, 0 when the box does not have it.
 Int Button_Of(std::string_view Word, Int Style) {
@@ -56,7 +47,8 @@ Player::Player(const Script& S, const Play_Options& Options, Printer Print)
     : Script_(S), Options_(Options), Print_(std::move(Print)) {}
 
 Play_End Player::Play_All() {
-    const Host_Scope Scope(*this);
+    const Host_Scope On_Stage(*this);
+    const Carrier_Scope In_The_Air(Simulator_);
     Forms_Install();
     Frm_Install();
     Open_.push_back({.Shown = &Frm()});
@@ -124,7 +116,7 @@ void Player::Play_Act(const Act& A) {
             Files_.push_back({.Line = A.Line, .Word = A.Words[0]});
             return;
         case Verb::Aircraft:
-            return;
+            return Set_Aircraft(A);
         case Verb::Show:
             return Show(A);
         case Verb::Items:
@@ -144,7 +136,7 @@ void Player::Fail(std::string Reason) {
 }
 
 void Player::Print(std::string_view Line) {
-    if (End_.Status == 0) Print_(On_One_Line(Line));
+    if (End_.Status == 0) Print_(As_One_Line(Line));
 }
 
 void Player::Look_For_Answers_Left() {
@@ -163,6 +155,21 @@ std::string Player::Take(Answers& From) {
     return Word;
 }
 
+void Player::Set_Aircraft(const Act& A) {
+    Double Lat = 0.0, Lon = 0.0;
+    Long Number = 0;
+    if (A.Words[0] == "none") {
+        Simulator_.Vanish();
+    } else if (A.Words[0] == "error") {
+        Script_Whole(A.Words[1], Number);
+        Simulator_.Fail(Number);
+    } else {
+        Script_Number(A.Words[0], Lat);
+        Script_Number(A.Words[1], Lon);
+        Simulator_.Fly_To(Lat, Lon);
+    }
+}
+
 Open_Form_State& Player::Front() {
     return Open_.size() == 1 && !Free_.empty() ? Free_.back().Opened : Open_.back();
 }
@@ -177,13 +184,13 @@ Int Player::Show_Box(const Box& B) {
     Print("message " + std::to_string(B.Num) + " " + B.Text);
     if (!Asks(B.Style)) return Button_Ok;
     if (Boxes_.empty()) {
-        Fail("a question has no answer: " + On_One_Line(B.Text));
+        Fail("a question has no answer: " + As_One_Line(B.Text));
         return Silent_Host::Show_Box(B);
     }
     const std::string Word = Take(Boxes_);
     const Int Button = Button_Of(Word, B.Style);
     if (Button != 0) return Button;
-    Fail("the question does not offer the answer " + Word + ": " + On_One_Line(B.Text));
+    Fail("the question does not offer the answer " + Word + ": " + As_One_Line(B.Text));
     return Silent_Host::Show_Box(B);
 }
 

@@ -13,6 +13,7 @@
 #include "core/host.h"
 #include "play/play.h"
 #include "play/script.h"
+#include "simlink/scripted.h"
 #include "ui/canvas/view.h"
 #include "ui/form/form_list.h"
 
@@ -63,6 +64,7 @@ private:
     void End_Free_Forms();
     void Look_For_Answers_Left();
     std::string Take(Answers& From);
+    void Set_Aircraft(const Act& A);
     Open_Form_State& Front();
     Open_Form_State* On_Canvas();
     void Give_Canvas_Its_Room(Form& F);
@@ -111,6 +113,7 @@ private:
     std::deque<Free_Form> Free_;        // those that are not
     std::vector<std::string> Waiting_;  // those to be opened after this act
     Answers Boxes_, Files_;
+    Scripted_Simulator Simulator_;
 };
 
 /// The control of F that is its canvas, "" when it has none.
