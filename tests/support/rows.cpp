@@ -42,10 +42,9 @@ std::string Cell_Of(const std::string& Text) {
 
 Row_Cells Cells_Of(const std::string& Line) {
     Row_Cells Cells;
-    for (std::size_t At = 0; At != std::string::npos + 1;) {
-        const std::size_t End = Line.find('|', At);
+    for (std::size_t At = 0, End = 0; End != std::string::npos; At = End + 1) {
+        End = Line.find('|', At);
         Cells.push_back(Cell_Of(Line.substr(At, End - At)));
-        At = End + 1;
     }
     return Cells;
 }
