@@ -1,4 +1,5 @@
-// bench/drawings.h - large drawings, the same at every run.
+// bench/drawings.h - drawings of any size, the same at every run; large ones are measured, small
+// ones tested.
 //
 // Rings are simple by construction: strictly growing angles round a centre and a noisy radius.
 // Fjords, spirals and combs wind: no point sees their whole outline. Coordinates are map pixels;
@@ -46,6 +47,24 @@ inline Double Hash_Unit(std::uint64_t X) {
     return static_cast<Double>((X ^ (X >> 31)) >> 11) * 0x1p-53;
 }
 
+/// One number after the other; the same seed gives the same ones.
+class Random {
+public:
+    explicit Random(std::uint64_t Seed) : State_(Seed * 0x9E3779B97F4A7C15U) {}
+
+    /// 0 to 1, 1 excluded.
+    Double Unit() { return Hash_Unit(State_++); }
+    Double Between(Double Low, Double High) { return Low + Unit() * (High - Low); }
+    /// Low to High, both included.
+    Long Whole(Long Low, Long High) {
+        return Low + static_cast<Long>(Unit() * (static_cast<Double>(High) - Low + 1));
+    }
+    bool Chance(Double P) { return Unit() < P; }
+
+private:
+    std::uint64_t State_;
+};
+
 /// Noise from about -1 to 1 over T from 0 to 1, which closes on itself: each octave has twice as
 /// many knots as the one before, and less height, down to the distance of N samples.
 inline Double Fractal_Noise(Double T, Long N, std::uint64_t Seed) {
@@ -91,17 +110,31 @@ inline std::vector<Pix> Ring(Long N, const Ring_Form& F) {
     return Line;
 }
 
-/// Stretches a line to fill all but a margin of Cells by Cells Cells.
-inline std::vector<Pix> Fitted(std::vector<Pix> Line, Long Cells) {
+struct Frame {
+    Pix Low, High;
+
+    Pix Centre() const { return {(Low.X + High.X) / 2, (Low.Y + High.Y) / 2}; }
+    /// Half the shorter side.
+    Double Radius() const { return std::min(High.X - Low.X, High.Y - Low.Y) / 2; }
+};
+
+/// Stretches a line to fill a frame.
+inline std::vector<Pix> Fitted(std::vector<Pix> Line, const Frame& F) {
     Pix Low = Line[0], High = Line[0];
     for (const Pix P : Line) {
         Low = {std::min(Low.X, P.X), std::min(Low.Y, P.Y)};
         High = {std::max(High.X, P.X), std::max(High.Y, P.Y)};
     }
     for (Pix& P : Line)
-        P = {(0.1 + (Cells - 0.2) * (P.X - Low.X) / (High.X - Low.X)) * Cell_Width,
-             (0.1 + (Cells - 0.2) * (P.Y - Low.Y) / (High.Y - Low.Y)) * Cell_Height};
+        P = {F.Low.X + (P.X - Low.X) / (High.X - Low.X) * (F.High.X - F.Low.X),
+             F.Low.Y + (P.Y - Low.Y) / (High.Y - Low.Y) * (F.High.Y - F.Low.Y)};
     return Line;
+}
+
+/// Stretches a line to fill all but a margin of Cells by Cells Cells.
+inline std::vector<Pix> Fitted(std::vector<Pix> Line, Long Cells) {
+    return Fitted(std::move(Line), {{0.1 * Cell_Width, 0.1 * Cell_Height},
+                                    {(Cells - 0.1) * Cell_Width, (Cells - 0.1) * Cell_Height}});
 }
 
 /// One fractal ring.

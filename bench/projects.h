@@ -15,6 +15,7 @@
 namespace projects {
 
 using drawings::Hash_Unit;
+using drawings::Random;
 
 inline constexpr Long Map_Areas = 30;
 inline constexpr Long Map_Cells = Map_Areas * Nb_Cell_In_Area;
@@ -26,16 +27,6 @@ inline void Begin() {
     Model_Reset();
     drawings::Make_Map(Map_Cells);
 }
-
-/// One number from 0 to 1 after the other.
-class Random {
-public:
-    explicit Random(std::uint64_t Seed) : At_(Seed << 32) {}
-    Double Between(Double Low, Double High) { return Low + (High - Low) * Hash_Unit(At_++); }
-
-private:
-    std::uint64_t At_;
-};
 
 /// A path of Nb points that wanders over the map in strides of about a pixel times Stride.
 inline void Add_Path(const Attr& A, Long Nb, Double Stride, std::uint64_t Seed) {

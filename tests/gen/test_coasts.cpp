@@ -1,23 +1,22 @@
-// test_coasts.cpp - coastlines from the drawn line to the surfaces of the Cells.
+// test_coasts.cpp - coastlines from the drawn line to the surfaces of the Cells: worked examples in
+// rows, what must hold for any line, and what was accepted for random ones.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <map>
 
-#include "core/number_text.h"
-#include "emit_test.h"
 #include "gen/coast_generate.h"
-#include "gen/emit_lwm_poly.h"
+#include "gen_test.h"
 #include "geometry/box.h"
 #include "geometry/segments.h"
-#include "grid/grid_lines.h"
-#include "reference/coasts.h"
+#include "reference/compare.h"
 #include "reference/shapes.h"
 #include "shapes/coast/coast_close.h"
 #include "shapes/coast/coast_cut.h"
-#include "shapes/coast/coast_fill.h"
 #include "shapes/coast/coast_polys.h"
 #include "shapes/coast/coast_to_cells.h"
+#include "support/golden.h"
+#include "support/rows.h"
 
 namespace {
 
@@ -25,18 +24,16 @@ using shapes::Outline;
 using shapes::Random;
 
 constexpr Int Side_Cells = 8;
-constexpr Double Map_Px = Side_Cells * Cell_Px;
+constexpr Double Cell_Px = 255, Map_Px = Side_Cells * Cell_Px;
 
 /// A map of 8 by 8 Cells, Cell (0, 0) of Area (100, 50) in the north-west.
-class Coast_Test : public Emit_Test {
+class Coast_Test : public Gen_Test {
 protected:
     Coast_Test() {
-        The_Calibration.LatPtSE = LatPtNW - Side_Cells * Cell_StepLat;
-        The_Calibration.LonPtSE = LonPtNW + Side_Cells * Cell_StepLon;
-        XPtSE = YPtSE = static_cast<Long>(Map_Px);
+        Make_Map(Side_Cells);
         Map_Width = Map_Height = XPtSE;
         Compute_Map_Limits(The_Calibration, Map_Width, Map_Height);
-        Coast.SurfShore = 3;
+        Coast.SurfShore = Surf_Coast;
     }
 
     void Draw_Coast(const Outline& Line) const { Draw(Line, Coast); }
@@ -62,31 +59,57 @@ protected:
         if (Nb_WPoly > 0) Coast_Close();
         return Nb_WPoly > 0 ? Points_Of(Tab_WPoly[1]) : Outline();
     }
-    /// A line with all its crossings, given in Cells, closed, as a text in Cells.
-    static std::string Closed_In_Cells(const Outline& Line) {
-        return In_Cells(Closed(In_Pixels(Line), false));
-    }
-    /// The points that close any line.
-    static std::string Way_Back(const Outline& Line) {
-        const std::string Text = In_Cells(Closed(In_Pixels(Line), true));
-        const std::string End = In_Cells({In_Pixels(Line).back()});
-        return Text.substr(Text.find(End) + End.size());
-    }
-    static Outline In_Pixels(Outline Cells) {
-        for (Pix& P : Cells) P = {P.X * Cell_Px, P.Y * Cell_Px};
-        return Cells;
+
+    static Outline In_Pixels(const std::string& Cells) {
+        const std::vector<double> V = Cell_Numbers(Cells);
+        Outline Line;
+        for (std::size_t I = 0; I + 1 < V.size(); I += 2)
+            Line.push_back({V[I] * Cell_Px, V[I + 1] * Cell_Px});
+        return Line;
     }
     static std::string In_Cells(const Outline& Pixels) {
-        std::string Text;
-        for (const Pix P : Pixels) Text += Short(P.X / Cell_Px) + "," + Short(P.Y / Cell_Px) + " ";
-        return Text;
+        reference::Poly W;
+        for (const Pix P : Pixels) W.P.push_back({.X = P.X / Cell_Px, .Y = P.Y / Cell_Px});
+        return reference::Text_Of(W);
     }
-    static std::string Short(Double V) {
-        return std::string(Num_Text(std::round(V * 1000) / 1000));
+    static std::string Cut(const std::string& Line) {
+        Work_Lists_Reset();
+        Put_Line(In_Pixels(Line));
+        Coast_Cut_Cells();
+        return Nb_WPoly > 0 ? In_Cells(Points_Of(Tab_WPoly[1])) : std::string();
+    }
+    /// The points that close any line.
+    static std::string Way_Back(const std::string& Cells) {
+        const Outline Line = In_Pixels(Cells), Loop = Closed(Line, true);
+        const auto End = std::find_if(Loop.begin(), Loop.end(), [&](Pix P) {
+            return std::hypot(P.X - Line.back().X, P.Y - Line.back().Y) < 1;
+        });
+        return End == Loop.end() ? "" : In_Cells(Outline(End + 1, Loop.end()));
     }
 
     Attr Coast;
 };
+
+TEST_F(Coast_Test, AsInTheRows) {
+    const auto Told = [this](std::string Text) {
+        const std::string Messages = reference::Messages(Host_Of_Test);
+        Host_Of_Test.Boxes.clear();
+        return Messages + (Messages.empty() || Text.empty() ? "" : ", ") + Text;
+    };
+    Expect_Rows(
+        "coasts",
+        {{"Close",
+          [&](const Row_Cells& C) { return Told(In_Cells(Closed(In_Pixels(C[0]), false))); }},
+         {"Way_Back", [&](const Row_Cells& C) { return Told(Way_Back(C[0])); }},
+         {"Cut", [&](const Row_Cells& C) { return Told(Cut(C[0])); }},
+         {"Generate", [&](const Row_Cells& C) {
+              Init_Tables();
+              for (const std::string& Line : C) Draw_Coast(In_Pixels(Line));
+              Coast_Generate();
+              EXPECT_EQ(Nb_WPoly + Nb_WPt, 0);
+              return Told(std::to_string(Nb_CCoast) + " pieces");
+          }}});
+}
 
 // Column and row of a Cell from the map's corner.
 using Cell = std::pair<Long, Long>;
@@ -232,7 +255,8 @@ Outline Closed_Outside(Outline Line, Double From, Double To) {
 bool Has_No_Crossing(const Outline& Line) {
     for (std::size_t I = 1; I < Line.size(); ++I)
         for (std::size_t J = I + 2; J < Line.size(); ++J)
-            if (Seg_Cross(Line[I - 1], Line[I], Line[J - 1], Line[J]).Code >= ::Meet::Cross) return false;
+            if (Seg_Cross(Line[I - 1], Line[I], Line[J - 1], Line[J]).Code >= ::Meet::Cross)
+                return false;
     return true;
 }
 
@@ -303,192 +327,118 @@ TEST_F(Coast_Test, LinesThatEndOnTheMapAreClosedByConnectors) {
     EXPECT_GT(Checked, 100);
 }
 
-TEST_F(Coast_Test, EndsOnOneGridLineAreJoinedStraight) {
-    EXPECT_EQ(Closed_In_Cells({{1, 4}, {2, 3}, {3, 4}}), "1,4 2,3 3,4 ") << "clockwise, north";
-    EXPECT_EQ(Closed_In_Cells({{3, 4}, {2, 5}, {1, 4}}), "3,4 2,5 1,4 ") << "clockwise, south";
-    EXPECT_EQ(Closed_In_Cells({{4, 1}, {5, 2}, {4, 3}}), "4,1 5,2 4,3 ") << "clockwise, east";
-    EXPECT_EQ(Closed_In_Cells({{4, 3}, {3, 2}, {4, 1}}), "4,3 3,2 4,1 ") << "clockwise, west";
-    EXPECT_EQ(Closed_In_Cells({{1, 4}, {2, 5}, {3, 4}}), "1,4 2,5 3,4 3,3 4,3 4,6 1,6 ")
-        << "anticlockwise: out northwards, round, in from the south";
-}
-
-// From the end straight out, clockwise past the corners, straight in to the start.
-TEST_F(Coast_Test, FramesAreWalkedClockwise) {
-    EXPECT_EQ(Way_Back({{8, 2.4}, {5, 4}, {8, 5.6}}), "8,7 4,7 4,1 8,1 ")
-        << "no way out past the start; no corner but the western ones";
-    EXPECT_EQ(Way_Back({{8, 5.6}, {5, 4}, {8, 2.4}}), "") << "straight";
-    EXPECT_EQ(Way_Back({{2, 3.2}, {3, 3}, {3.6, 4}}), "5,4 5,5 2,5 ");
-    EXPECT_EQ(Way_Back({{3.6, 4}, {3, 3}, {2, 3.2}}), "2,2 5,2 5,4 ");
-    EXPECT_EQ(Way_Back({{2, 2.6}, {3, 2}, {3, 3}, {2.4, 4}}), "4,4 4,5 2,5 ")
-        << "the frame lies one Cell off, though the outermost points count to the Cell east";
-    EXPECT_EQ(Way_Back({{3, 4.2}, {2.4, 5}, {3, 6.4}, {5, 4.2}}), "5,3 6,3 6,8 1,8 1,3 3,3 ")
-        << "in on the side where it went out, behind there, after a full turn";
-}
-
-TEST_F(Coast_Test, RepeatedEndsGo) {
-    EXPECT_EQ(Closed_In_Cells({{1, 4}, {1.0001, 4}, {2, 3}, {3, 4}, {3, 4.0001}}), "1,4 2,3 3,4 ");
-    EXPECT_EQ(Closed_In_Cells({{1, 4}, {1.0001, 4}, {1, 4.0001}}), "");
-    EXPECT_EQ(Host_Of_Test.Last_Message(), -1);
-}
-
-TEST_F(Coast_Test, LinesAreShortenedToEdges) {
-    const auto Cut = [](const Outline& Cells) {
-        Work_Lists_Reset();
-        Put_Line(In_Pixels(Cells));
-        Coast_Cut_Cells();
-        return Nb_WPoly > 0 ? In_Cells(Points_Of(Tab_WPoly[1])) : std::string();
-    };
-    EXPECT_EQ(Cut({{1.5, 1.25}, {3.5, 2.25}}), "2,1.5 3,2 ") << "a corner is one point";
-    EXPECT_EQ(Cut({{1.5, 1.5}, {2.5, 1.5}}), "") << "one edge only";
-    EXPECT_EQ(Cut({{1.2, 1.2}, {1.5, 1.3}, {1.8, 1.8}}), "") << "inside a Cell";
-    EXPECT_EQ(Cut({{1, 1.2}, {1.5, 1.3}, {1.8, 1.8}}), "") << "inside with one end on an edge";
-    EXPECT_EQ(Cut({{1, 1.2}, {1.5, 1.3}, {2, 1.8}}), "1,1.2 1.5,1.3 2,1.8 ");
-    EXPECT_EQ(Host_Of_Test.Last_Message(), -1);
-    EXPECT_EQ(Cut({{-10.5, -10.5}, {-12.3, -12.6}, {-14.1, -13.3}}), "");
-    EXPECT_EQ(Host_Of_Test.Last_Message(), 132) << "over Cells so far off that none has edges";
-}
-
-TEST_F(Coast_Test, ACrossingLineStopsAllCoasts) {
-    Draw_Coast({{-300, 300}, {2400, 310}});
-    Draw_Coast({{300.5, 600.5}, {900.5, 1200.5}, {900.5, 600.5}, {300.5, 1200.5}});
-    Coast_Generate();
-    EXPECT_EQ(Host_Of_Test.Last_Message(), 121);
-    EXPECT_NE(Host_Of_Test.Boxes.back().Text.find("Bmp pixel X:600 Y:900"), std::string::npos);
-    EXPECT_EQ(Nb_CCoast + Nb_CCoastPt + Nb_WPoly + Nb_WPt, 0);
-}
-
-// The start lies in a bay that the line closes on every way in.
-TEST_F(Coast_Test, AStartThatCannotBeReachedStopsAllCoasts) {
-    Draw_Coast({{-300, 300}, {2400, 310}});
-    Draw_Coast(In_Pixels(
-        {{4, 4.2}, {4.5, 4.5}, {3.5, 5.5}, {2.5, 4.5}, {3.5, 2.5}, {6.5, 4.5}, {5, 7.3}}));
-    Coast_Generate();
-    EXPECT_EQ(Host_Of_Test.Boxes.size(), 2U) << "told by the walk and by the closing";
-    EXPECT_EQ(Host_Of_Test.Last_Message(), 132);
-    EXPECT_EQ(Nb_CCoast + Nb_CCoastPt + Nb_WPoly + Nb_WPt, 0);
-}
-
-// Pieces given by their outlines on the scale of a Cell.
-struct Pieces {
-    Table<CPoly> Polys{20, 20};
-    Table<CPt> Points{200, 200};
-
-    void Add(const std::vector<std::pair<int, int>>& Outline) {
-        CPoly P{.Nb = static_cast<Int>(Outline.size()), .First = Points.Nb() + 1};
-        for (const auto& [X, Y] : Outline)
-            Points.Append({.LocX = static_cast<Int>(X), .LocY = static_cast<Int>(Y)});
-        P.Last = Points.Nb();
-        Polys.Append(P);
-    }
-    bool Fill() const { return Fill_Test().Fill_Cell(Polys.Rows(), Points); }
-};
-
-TEST(Coast_Cells, FilledCells) {
-    const auto Filled = [](std::initializer_list<std::vector<std::pair<int, int>>> Outlines) {
-        Pieces P;
-        for (const auto& O : Outlines) P.Add(O);
-        return P.Fill();
-    };
-    EXPECT_TRUE(Filled({{{255, 255}, {0, 255}, {0, 0}, {255, 0}}}));
-    EXPECT_TRUE(Filled({{{0, 0}, {90, 0}, {255, 0}, {255, 255}, {0, 255}}})) << "one point in line";
-    EXPECT_FALSE(Filled({{{0, 0}, {0, 255}, {255, 255}, {255, 0}}})) << "anticlockwise";
-    EXPECT_TRUE(Filled({{{0, 0}, {255, 0}, {0, 255}}, {{255, 0}, {255, 255}, {0, 255}}}));
-    EXPECT_FALSE(Filled({{{0, 0}, {255, 0}, {0, 255}}}));
-    EXPECT_FALSE(Filled({{{0, 0}, {255, 0}, {0, 255}}, {{254, 0}, {255, 255}, {0, 255}}}));
-}
-
-// Cells divided at random places, sometimes with a piece missing or moved.
-TEST(Coast_Cells, FilledCellsLikeThePlainSweeps) {
-    Random R(7);
-    std::map<bool, int> Seen;
-    for (int Round = 0; Round < 4000; ++Round) {
-        SCOPED_TRACE(Round);
-        const int X = static_cast<int>(R.Whole(0, 255)), Y = static_cast<int>(R.Whole(0, 255));
-        std::vector<std::vector<std::pair<int, int>>> All;
-        const std::vector<std::pair<int, int>> Ring{{0, 0},     {X, 0},   {255, 0}, {255, Y},
-                                                    {255, 255}, {X, 255}, {0, 255}, {0, Y}};
-        for (std::size_t I = 0; I < 8; I += 2)
-            All.push_back({Ring[I], Ring[I + 1], {X, Y}, Ring[(I + 7) % 8]});
-        if (R.Chance(0.3)) {
-            const auto Q = All.back();
-            All.back() = {Q[0], Q[1], Q[2]};
-            All.push_back({Q[0], Q[2], Q[3]});
-        }
-        if (R.Chance(0.2)) All.push_back(All[static_cast<std::size_t>(R.Whole(0, 3))]);
-        if (R.Chance(0.2)) All.erase(All.begin() + R.Whole(0, 3));
-        if (R.Chance(0.2)) ++All[0][0].first;
-        if (R.Chance(0.2)) std::reverse(All[1].begin(), All[1].end());
-        for (std::size_t I = All.size() - 1; I > 0; --I)
-            std::swap(All[I], All[static_cast<std::size_t>(R.Whole(0, static_cast<Long>(I)))]);
-        Pieces P;
-        for (auto& Outline : All) {
-            std::rotate(Outline.begin(), Outline.begin() + R.Whole(0, 2), Outline.end());
-            P.Add(Outline);
-        }
-        const bool Wanted = reference::Fill_Cell(P.Polys.Rows(), P.Points);
-        ASSERT_EQ(P.Fill(), Wanted);
-        ++Seen[Wanted];
-    }
-    EXPECT_GT(Seen[true], 500);
-    EXPECT_GT(Seen[false], 500);
-}
-
-// Random lines over maps of all kinds, many points on grid lines or a tolerance or two off them.
-TEST_F(Coast_Test, CrossingsLikePassAfterPass) {
-    Random R(9);
-    Long Added = 0;
-    for (int Round = 0; Round < 120; ++Round) {
-        SCOPED_TRACE(Round);
-        shapes::Make_Map(R, R.Whole(1, 8), 0, R.Chance(0.5));
-        const Grid_Lines Grid = Grid_Lines_Of(Coasts_By_Cell);
-        const auto Some_Place = [&](std::span<const Double> Lines, Double Tol) {
-            const auto K =
-                static_cast<std::size_t>(R.Whole(0, static_cast<Long>(Lines.size()) - 2));
-            if (R.Chance(0.7)) return Lines[K] + R.Between(-1, 2) * (Lines[K + 1] - Lines[K]);
-            return Lines[K] + static_cast<Double>(R.Whole(-2, 2)) * Tol * R.Between(0.4, 1);
-        };
-        reference::Reset();
-        std::vector<Outline> Lines(static_cast<std::size_t>(R.Whole(1, 4)));
-        for (Outline& Line : Lines) {
-            for (Long I = R.Whole(2, 12); I > 0; --I)
-                Line.push_back({Some_Place(Grid.X, Grid.TolX), Some_Place(Grid.Y, Grid.TolY)});
-            const Long First = reference::Nb_WPt + 1;
-            for (const Pix P : Line) reference::Tab_WPt.Append({.X = P.X, .Y = P.Y});
-            reference::Tab_WPoly.Append(
-                {.First = First, .Last = reference::Nb_WPt, .Nb = static_cast<Long>(Line.size())});
-        }
-        reference::Coast_Crossings();
-        for (std::size_t K = 0; K < Lines.size(); ++K) {
-            const WPoly& W = reference::Tab_WPoly[static_cast<Long>(K) + 1];
-            Outline Wanted;
-            for (Long I = W.First; I <= W.Last; ++I)
-                Wanted.push_back(reference::Pix_Of(reference::Tab_WPt[I]));
-            Added -= static_cast<Long>(Lines[K].size());
-            Coast_Crossings(Grid, Lines[K]);
-            Added += static_cast<Long>(Lines[K].size());
-            ASSERT_EQ(Lines[K], Wanted);
-        }
-    }
-    EXPECT_GT(Added, 2000);
-    reference::Reset();
-}
-
 TEST_F(Coast_Test, SurfacesOfWholeCellsAreLeftToFills) {
-    Outline Line = In_Pixels({{1, 9}, {1, 1}, {4, 1}, {4, 9}});
-    Draw_Coast(Line);
-    Coast_Generate();
-    for (const auto& [C, S] : Surfaces()) EXPECT_EQ(S.Area, 0.0) << C.first << " " << C.second;
-    Init_Tables();
-    Line[1].X += 60;
-    Line[0].X += 60;
-    Draw_Coast(Line);
-    Coast_Generate();
-    auto Found = Surfaces();
-    for (Long Y = 0; Y <= 9; ++Y)
-        for (Long X = 0; X <= 4; ++X) {
-            const bool Cut = X == 1 && Y >= 1 && Y <= 8;
-            EXPECT_EQ((Found[{X, Y}].Area), Cut ? (255.0 - 60) * 255 : 0.0) << X << " " << Y;
+    for (const Double Off : {0.0, 60.0}) {
+        Outline Line = In_Pixels("1,9 1,1 4,1 4,9");
+        Line[0].X += Off;
+        Line[1].X += Off;
+        Init_Tables();
+        Draw_Coast(Line);
+        Coast_Generate();
+        auto Found = Surfaces();
+        for (Long Y = 0; Y <= 9; ++Y)
+            for (Long X = 0; X <= 4; ++X) {
+                const bool Cut = Off > 0 && X == 1 && Y >= 1 && Y <= 8;
+                EXPECT_EQ((Found[{X, Y}].Area), Cut ? (255.0 - 60) * 255 : 0.0) << X << " " << Y;
+            }
+    }
+}
+
+// A simple line that is no graph: part of a ring, from anywhere on it.
+Outline Part_Of_Ring(Random& R) {
+    const shapes::Frame F = shapes::Map_Frame();
+    Outline O;
+    switch (R.Whole(0, 4)) {
+        case 0:
+            O = shapes::Fractal_Ring(R, F, R.Whole(8, 90));
+            break;
+        case 1:
+            O = shapes::Comb(R, F, R.Whole(2, 12));
+            break;
+        case 2:
+            O = shapes::Star(R, F, R.Whole(3, 12));
+            break;
+        case 3:
+            O = shapes::Spiral(F, R.Whole(10, 40));
+            break;
+        default:
+            // Points that share rows and columns with the grid and one another.
+            O = shapes::Tangle(R, F, R.Whole(5, 30), R.Chance(0.5) ? 0.0 : 32.0);
+    }
+    const auto Some_Place = [&] { return R.Whole(0, static_cast<Long>(O.size()) - 1); };
+    std::rotate(O.begin(), O.begin() + Some_Place(), O.end());
+    if (R.Chance(0.5)) O.resize(std::max<std::size_t>(2, static_cast<std::size_t>(Some_Place())));
+    return O;
+}
+
+// From side to side of the map and some way beyond, never turning back.
+Outline Across(Random& R) {
+    const shapes::Frame F = shapes::Map_Frame();
+    const Double Width = F.High.X - F.Low.X, Height = F.High.Y - F.Low.Y;
+    const Long Nb = R.Whole(2, 60);
+    const bool Level = R.Chance(0.5);
+    const Double Middle = R.Between(0.1, 0.9), Waver = R.Chance(0.5) ? 0.02 : 0.2;
+    Outline O;
+    for (Long I = 0; I <= Nb; ++I) {
+        const Double Along = -0.3 + 1.6 * I / Nb, Off = Middle + R.Between(-Waver, Waver);
+        O.push_back(
+            {F.Low.X + Width * (Level ? Along : Off), F.Low.Y + Height * (Level ? Off : Along)});
+    }
+    return O;
+}
+
+// Strides from line to line of a round map's grid, so that ends lie on edges and the line runs
+// along them.
+Outline Stairs(Random& R) {
+    Outline O;
+    Pix P{128.0 * R.Whole(0, 2), 128.0 * R.Whole(0, 8)};
+    for (Long I = R.Whole(2, 12); I > 0; --I) {
+        O.push_back(P);
+        (R.Chance(0.5) ? P.X : P.Y) += 64.0 * R.Whole(0, 3);
+        if (R.Chance(0.3)) P.Y -= 64.0 * R.Whole(0, 2);
+    }
+    return O;
+}
+
+void Draw_Coasts(std::uint64_t Seed) {
+    Random R(Seed);
+    Model_Reset();
+    shapes::Make_Map(R, R.Whole(1, 8), 0, R.Chance(0.5));
+    for (Long I = R.Chance(0.7) ? 1 : R.Whole(2, 4); I > 0; --I) {
+        const Long Kind = R.Whole(0, 9);
+        Outline O = Kind < 5 ? Part_Of_Ring(R) : Kind < 8 ? Across(R) : Stairs(R);
+        if (R.Chance(0.3)) O = shapes::Snapped_To_Grid(R, O, 0);
+        if (R.Chance(0.2)) O = shapes::With_Points_In_Line(R, O);
+        if (R.Chance(0.2)) O = shapes::With_Repeats(R, O);
+        if (R.Chance(0.5)) std::reverse(O.begin(), O.end());
+        Attr& A = Tab_Obj[shapes::Add_Polygon(O)].Attr;
+        A.SurfShore = R.Chance(0.95) ? 3 : 2;
+        A.LandOnRight = static_cast<Int>(R.Whole(0, 1));
+    }
+}
+
+// Pieces, points and a sum over all places on the scales of their Cells, drawing by drawing.
+TEST_F(Coast_Test, RandomCoastsGiveWhatWasAccepted) {
+    std::string Text;
+    for (std::uint64_t Seed = 1; Seed <= 400; ++Seed) {
+        Draw_Coasts(Seed);
+        Host_Of_Test.Boxes.clear();
+        Coast_Generate();
+        std::uint32_t Sum = 0;
+        const auto Add = [&](Int V) { Sum = Sum * 31 + static_cast<std::uint32_t>(V); };
+        for (const CPoly& P : Tab_CCoast.Rows()) {
+            for (const Int V : {P.AreaLon, P.AreaLat, P.CellLon, P.CellLat, P.Nb}) Add(V);
+            Add(static_cast<Int>(P.Attr - &Tab_Obj[First_Obj].Attr));
         }
+        for (const CPt& P : Tab_CCoastPt.Rows()) {
+            Add(P.LocX);
+            Add(P.LocY);
+        }
+        Text += "seed " + std::to_string(Seed) + ": " + std::to_string(Nb_CCoast) + " pieces, " +
+                std::to_string(Nb_CCoastPt) + " points, " + std::to_string(Sum) + " " +
+                reference::Messages(Host_Of_Test) + "\n";
+    }
+    EXPECT_TRUE(Equals_Golden("random_coasts.txt", Text));
 }
 
 }  // namespace

@@ -3,22 +3,47 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
+#include "drawings.h"
 #include "geometry/exact_turn.h"
+#include "support/rows.h"
 
 namespace {
 
-TEST(Segments, LineCoef) {
-    EXPECT_EQ(Line_Coef({3, 1}, {3, 9}).a, 0.0);
-    EXPECT_EQ(Line_Coef({3, 1}, {3, 9}).b, 0.0) << "a vertical line has neither";
-    EXPECT_EQ(Line_Coef({-2, 7}, {5, 7}).b, 7.0);
-    const Slope L = Line_Coef({0.1, 0.7}, {3.3, 8.9});
-    EXPECT_EQ(L.a, (8.9 - 0.7) / (3.3 - 0.1));
-    EXPECT_EQ(L.b, 0.7 - L.a * 0.1) << "the intercept comes from the first point";
+Pix At(const Row_Cells& C, std::size_t I) {
+    const std::vector<double> V = Cell_Numbers(C[0]);
+    return {V[2 * I], V[2 * I + 1]};
 }
 
-TEST(Segments, CrossZHasNoFusedStep) {
-    EXPECT_EQ(Cross_Z({0.1, 0.7}, {3.3, 8.9}, {3.3, 8.9}), 0.0);
-    EXPECT_GT(Cross_Z({0, 0}, {4, 0}, {4, 4}), 0.0) << "clockwise with Y south";
+std::string Text_Of(Pix P) {
+    return Number_Cell(P.X) + "," + Number_Cell(P.Y);
+}
+
+TEST(Segments, AsInTheRows) {
+    constexpr const char* Meets[] = {"parallel", "miss", "cross", "end"};
+    Expect_Rows(
+        "segments",
+        {{"Line_Coef",
+          [](const Row_Cells& C) {
+              const Slope L = Line_Coef(At(C, 0), At(C, 1));
+              return Text_Of({L.a, L.b});
+          }},
+         {"Cross_Z",
+          [](const Row_Cells& C) { return Number_Cell(Cross_Z(At(C, 0), At(C, 1), At(C, 2))); }},
+         {"Sens_3Pts",
+          [](const Row_Cells& C) {
+              return std::to_string(Sens_3Pts(At(C, 0), At(C, 1), At(C, 2)));
+          }},
+         {"Line_Cross",
+          [](const Row_Cells& C) {
+              const Line_Meet M = Line_Cross(At(C, 0), At(C, 1), At(C, 2), At(C, 3));
+              return M.Found == 1 ? Text_Of(M.At) : "none";
+          }},
+         {"Seg_Cross", [&](const Row_Cells& C) {
+              const Seg_Meet M = Seg_Cross(At(C, 0), At(C, 1), At(C, 2), At(C, 3));
+              return std::string(Meets[static_cast<int>(M.Code)]);
+          }}});
 }
 
 // Every path through a raster of points, so that each branch of the rule is taken in each of
@@ -40,49 +65,19 @@ TEST(Segments, TurnsOnARasterAgreeWithTheExactSide) {
             }
 }
 
-TEST(Segments, TurnsInLineAndOfRepeatedPoints) {
-    EXPECT_EQ(Sens_3Pts({0, 0}, {2, 2}, {4, 4}), 0) << "the foot is the point itself";
-    EXPECT_NE(Sens_3Pts({0, 0}, {2, 2}, {4, 4.0000000000001}), 0) << "almost in line is a turn";
-    EXPECT_EQ(Sens_3Pts({5, 5}, {5, 5}, {6, 0}), 1);
-    EXPECT_EQ(Sens_3Pts({5, 5}, {5, 5}, {4, 0}), 2);
-    EXPECT_EQ(Sens_3Pts({6, 0}, {5, 5}, {5, 5}), 1) << "a repeated corner counts as a turn";
-    EXPECT_EQ(Sens_3Pts({4, 0}, {5, 5}, {5, 5}), 2);
-}
-
-TEST(Segments, LinesMeet) {
-    const auto Meet = [](Pix P1, Pix P2, Pix P3, Pix P4) {
-        const Line_Meet M = Line_Cross(P1, P2, P3, P4);
-        EXPECT_EQ(M.Found, 1);
-        return M.At;
-    };
-    EXPECT_EQ(Meet({0, 0}, {9, 9}, {9, 0}, {0, 9}), (Pix{4.5, 4.5}));
-    EXPECT_EQ(Meet({2, 0}, {2, 9}, {0, 5}, {9, 5}), (Pix{2, 5}));
-    EXPECT_EQ(Meet({2, 0}, {2, 9}, {0, 0}, {8, 4}), (Pix{2, 1}));
-    EXPECT_EQ(Meet({0, 0}, {8, 4}, {2, 0}, {2, 9}), (Pix{2, 1}));
-    EXPECT_EQ(Meet({0, 3}, {9, 3}, {0, 0}, {8, 4}), (Pix{6, 3}));
-    EXPECT_EQ(Meet({0, 0}, {8, 4}, {20, 3}, {29, 3}), (Pix{6, 3})) << "beyond the segments too";
-    EXPECT_EQ(Meet({1, 1}, {5, 1}, {9, 1}, {1, 1}), (Pix{1, 1})) << "a common point comes first";
-    EXPECT_EQ(Meet({1, 1}, {5, 1}, {5, 1}, {9, 1}), (Pix{5, 1}));
-}
-
-TEST(Segments, ParallelLinesDoNotMeet) {
-    EXPECT_EQ(Line_Cross({1, 0}, {1, 5}, {2, 0}, {2, 5}).Found, 0);
-    EXPECT_EQ(Line_Cross({0, 1}, {5, 1}, {0, 2}, {5, 2}).Found, 0);
-    EXPECT_EQ(Line_Cross({0, 0}, {4, 2}, {0, 1}, {4, 3}).Found, 0);
-    EXPECT_EQ(Line_Cross({0, 0}, {1, 1}, {0, 5}, {1, 6.00000000005}).Found, 0);
-    EXPECT_EQ(Line_Cross({0, 0}, {1, 1}, {0, 5}, {1, 6.0000000002}).Found, 1);
-}
-
-TEST(Segments, CodesOfSegments) {
-    const auto Code = [](Pix P1, Pix P2, Pix P3, Pix P4) { return Seg_Cross(P1, P2, P3, P4).Code; };
-    EXPECT_EQ(Code({0, 0}, {4, 2}, {0, 1}, {4, 3}), Meet::Parallel);
-    EXPECT_EQ(Code({0, 0}, {8, 8}, {8, 0}, {5, 3}), Meet::Miss) << "the second stops short in X";
-    EXPECT_EQ(Code({0, 0}, {2, 2}, {8, 0}, {0, 8}), Meet::Miss) << "the first does";
-    EXPECT_EQ(Code({0, 0}, {8, 8}, {4, 5}, {4, 9}), Meet::Miss) << "missed in Y alone";
-    EXPECT_EQ(Code({0, 0}, {8, 8}, {8, 0}, {0, 8}), Meet::Cross);
-    EXPECT_EQ(Code({0, 0}, {8, 8}, {4, 4}, {8, 0}), Meet::Cross) << "an end on the other's inside crosses";
-    EXPECT_EQ(Code({0, 0}, {4, 4}, {4, 4}, {8, 0}), Meet::End);
-    EXPECT_EQ(Code({0, 0}, {4, 4}, {4, 0}, {4, 9}), Meet::End) << "touch: X is an end of both";
+TEST(ExactTurn, SeesTheLastBit) {
+    const Pix B{1e5 / 3, 7.7e4}, On{2 * B.X, 2 * B.Y};
+    EXPECT_EQ(Exact_Turn({0, 0}, B, On), 0);
+    EXPECT_EQ(Exact_Turn({0, 0}, B, {On.X, std::nextafter(On.Y, 1e9)}), 1);
+    EXPECT_EQ(Exact_Turn({0, 0}, B, {On.X, std::nextafter(On.Y, 0)}), -1);
+    drawings::Random R(1);
+    for (int I = 0; I < 2000; ++I) {
+        const Pix P{R.Between(-1, 1), R.Between(-1, 1)}, Q{R.Between(2, 3), R.Between(2, 3)};
+        const Pix S{P.X + (Q.X - P.X) / 3, P.Y + (Q.Y - P.Y) / 3};  // all but in line
+        const int Side = Exact_Turn(P, Q, S);
+        ASSERT_EQ(Exact_Turn(Q, S, P), Side);
+        ASSERT_EQ(Exact_Turn(S, Q, P), -Side);
+    }
 }
 
 }  // namespace

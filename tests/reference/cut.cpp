@@ -1,243 +1,232 @@
-// reference/cut.cpp - every line of the grid taken across all polygons.
+// reference/cut.cpp - every line of a grid taken across all polygons, or all lines.
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "geometry/segments.h"
-#include "grid/terrain_grid.h"
-#include "reference/polygons.h"
+#include "reference/plain.h"
 
 namespace reference {
 
 namespace {
 
+using Outline = std::vector<WPt>;
+
+// A parallel at Y = Where, or a meridian at X = Where.
+struct Line {
+    bool Parallel;
+    Double Where, Tol, Tol_Along;
+
+    Double Of(Pix P) const { return Parallel ? P.Y : P.X; }
+    Double Along(Pix P) const { return Parallel ? P.X : P.Y; }
+    Pix Cross(Pix P1, Pix P2) const {
+        if (Parallel) return Line_Cross(P1, P2, {-100, Where}, {100, Where}).At;
+        return Line_Cross(P1, P2, {Where, -100}, {Where, 100}).At;
+    }
+    // -1 before the line, 0 within the tolerance, ends included, 1 behind it.
+    int Side(const WPt& P) const {
+        const Double V = Of(To_Pix(P));
+        if (V - Tol <= Where && Where <= V + Tol) return 0;
+        return V < Where ? -1 : 1;
+    }
+    Seg_Meet Cut(const WPt& P1, const WPt& P2) const {
+        const Double v1 = Of(To_Pix(P1)), v2 = Of(To_Pix(P2));
+        if (v1 == v2) return {};
+        if (Side(P1) == 0) return {Meet::End, To_Pix(P1)};
+        if (Side(P2) == 0) return {Meet::End, To_Pix(P2)};
+        if (Side(P1) == Side(P2)) return {Meet::Miss, {}};
+        return {Meet::Cross, Cross(To_Pix(P1), To_Pix(P2))};
+    }
+};
+
+// All parallels, then all meridians.
+std::vector<Line> Lines_Of(const Grid_Lines& G) {
+    std::vector<Line> Lines;
+    for (const Double Y : G.Y) Lines.push_back({true, Y, G.TolY, G.TolX});
+    for (const Double X : G.X) Lines.push_back({false, X, G.TolX, G.TolY});
+    return Lines;
+}
+
+WPt As_WPt(Pix P, Byte Tag = 0) {
+    return {.X = P.X, .Y = P.Y, .Tag = Tag};
+}
+
+// On the edge from place From to the next.
 struct CutPt {
-    Long From_Ix = 0;
-    Long To_Ix = 0;
-    Meet Code = Meet::Parallel;
+    std::size_t From, To;
+    Meet Code;
     Pix At;
 };
 
-// A line of the grid: a parallel at Y = Where, or a meridian at X = Where.
-struct Line {
-    bool Parallel;
-    Double Where;
-    Double TolX, TolY;
-
-    Double Tol() const { return Parallel ? TolY : TolX; }
-    Double Of(Pix P) const { return Parallel ? P.Y : P.X; }
-    Line_Meet Cross(Pix P1, Pix P2) const {
-        if (Parallel) return Line_Cross(P1, P2, {-100, Where}, {100, Where});
-        return Line_Cross(P1, P2, {Where, -100}, {Where, 100});
-    }
-    // Within the tolerance, ends included.
-    bool Holds(Pix P) const { return Of(P) - Tol() <= Where && Where <= Of(P) + Tol(); }
-    // -1 before the line, 0 on it, 1 behind it.
-    int Side(Pix P) const {
-        if (Holds(P)) return 0;
-        return Of(P) < Where ? -1 : 1;
-    }
-};
-
-Pix At(Long I) {
-    return Pix_Of(Tab_WPt[I]);
-}
-
-WPt As_WPt(Pix P) {
-    return {.X = P.X, .Y = P.Y};
-}
-
-Long Next(const WPoly& W, Long I) {
-    return I == W.Last ? W.First : I + 1;
-}
-
-// Seg_Cut_Horiz and Seg_Cut_Vert.
-Seg_Meet Seg_Cut(Pix P1, Pix P2, const Line& L) {
-    const Double v1 = L.Of(P1), v2 = L.Of(P2);
-    if (v1 == v2) return {};
-    if (L.Holds(P1)) return {Meet::End, P1};
-    if (L.Holds(P2)) return {Meet::End, P2};
-    const bool Between = (v1 < L.Where && L.Where < v2) || (v2 < L.Where && L.Where < v1);
-    return {Between ? Meet::Cross : Meet::Miss, L.Cross(P1, P2).At};
-}
-
-bool Is_Found_Already(const std::vector<CutPt>& Cuts, const CutPt& New, const Line& L) {
-    for (const CutPt& c : Cuts) {
-        const bool Neighbour = New.From_Ix == c.From_Ix || New.From_Ix == c.To_Ix ||
-                               New.To_Ix == c.From_Ix || New.To_Ix == c.To_Ix;
-        const bool Near = L.Parallel ? std::abs(New.At.X - c.At.X) <= L.TolX
-                                     : std::abs(New.At.Y - c.At.Y) <= L.TolY;
-        if (Neighbour && Near) return true;
-    }
-    return false;
-}
-
-std::vector<CutPt> Find_Cuts(const WPoly& W, const Line& L) {
+std::vector<CutPt> Find_Cuts(const Outline& P, const Line& L) {
     std::vector<CutPt> Cuts;
-    const Long Last_Edge = W.Nb == 2 ? W.First : W.Last;
-    for (Long i = W.First; i <= Last_Edge; ++i) {
-        const Long j = Next(W, i);
-        const Seg_Meet M = Seg_Cut(At(i), At(j), L);
-        if (M.Code < Meet::Cross) continue;
-        const CutPt New{i, j, M.Code, M.At};
-        if (Cuts.empty() || M.Code == Meet::Cross || !Is_Found_Already(Cuts, New, L)) Cuts.push_back(New);
+    for (std::size_t I = 0; I < (P.size() == 2 ? 1 : P.size()); ++I) {
+        const std::size_t J = (I + 1) % P.size();
+        const Seg_Meet M = L.Cut(P[I], P[J]);
+        const auto Is_Same = [&](const CutPt& C) {
+            const bool Neighbour = I == C.From || I == C.To || J == C.From || J == C.To;
+            return Neighbour && std::abs(L.Along(M.At) - L.Along(C.At)) <= L.Tol_Along;
+        };
+        if (M.Code == Meet::Cross || (M.Code == Meet::End && std::ranges::none_of(Cuts, Is_Same)))
+            Cuts.push_back({I, J, M.Code, M.At});
     }
     return Cuts;
 }
 
-using Outline = std::vector<WPt>;
-
-// Fills the two outlines; returns 0, or the number of the failure.
-int Dec_2Poly(const WPoly& W, CutPt First, CutPt Second, Outline& One, Outline& Two) {
-    if (Second.From_Ix < First.From_Ix) std::swap(First, Second);
-    Outline T;
-    Long I = W.First;
-    for (; I != First.From_Ix; ++I) {
-        if (I == W.Last) return 1;
-        T.push_back(Tab_WPt[I]);
-    }
-    T.push_back(Tab_WPt[I]);
-    const auto p1 = static_cast<std::ptrdiff_t>(T.size());
-    T.push_back(As_WPt(First.At));
-    if (First.From_Ix == W.Last) return 2;
-    for (++I; I != Second.From_Ix; ++I) {
-        if (I == W.Last) return 3;
-        T.push_back(Tab_WPt[I]);
-    }
-    T.push_back(Tab_WPt[I]);
-    const auto p2 = static_cast<std::ptrdiff_t>(T.size());
-    T.push_back(As_WPt(Second.At));
-    for (++I; I <= W.Last; ++I) T.push_back(Tab_WPt[I]);
-    One.assign(T.begin() + p1, T.begin() + p2 + 1);
-    Two.assign(T.begin() + p2, T.end());
-    Two.insert(Two.end(), T.begin(), T.begin() + p1 + 1);
-    return 0;
+// One from the first cut to the second, and two from there on round to the first.
+std::pair<Outline, Outline> In_Two(const Outline& P, CutPt First, CutPt Second) {
+    if (Second.From < First.From) std::swap(First, Second);
+    Outline One{As_WPt(First.At)}, Two{As_WPt(Second.At)};
+    for (std::size_t I = First.From + 1; I <= Second.From; ++I) One.push_back(P[I]);
+    for (std::size_t I = Second.From + 1; I < P.size(); ++I) Two.push_back(P[I]);
+    for (std::size_t I = 0; I <= First.From; ++I) Two.push_back(P[I]);
+    One.push_back(As_WPt(Second.At));
+    Two.push_back(As_WPt(First.At));
+    return {One, Two};
 }
 
-bool Has_Both_Sides(const Outline& Points, const Line& L) {
+bool Has_Both_Sides(const Outline& P, const Line& L) {
     bool Before = false, Behind = false;
-    for (const WPt& P : Points) {
-        const int Side = L.Side(Pix_Of(P));
-        Before = Before || Side < 0;
-        Behind = Behind || Side > 0;
+    for (const WPt& W : P) {
+        Before |= L.Side(W) < 0;
+        Behind |= L.Side(W) > 0;
     }
     return Before && Behind;
 }
 
-Outline Points_Of(const WPoly& W) {
-    Outline Points;
-    for (Long I = W.First; I <= W.Last; ++I) Points.push_back(Tab_WPt[I]);
-    return Points;
-}
-
-bool Needs_Second_Look(const WPoly& W, const std::vector<CutPt>& Cuts, const Line& L) {
-    if (W.Nb < 3) return false;
+bool Needs_Second_Look(const Outline& P, const std::vector<CutPt>& Cuts, const Line& L) {
+    if (P.size() < 3) return false;
     if (Cuts.size() > 2) return true;
-    if (!Has_Both_Sides(Points_Of(W), L)) return false;
+    if (!Has_Both_Sides(P, L)) return false;
     if (Cuts.size() != 2) return true;
-    Outline One, Two;
-    Dec_2Poly(W, Cuts[0], Cuts[1], One, Two);
+    const auto [One, Two] = In_Two(P, Cuts[0], Cuts[1]);
     return Has_Both_Sides(One, L) || Has_Both_Sides(Two, L);
 }
 
 // The changes of side on the way round, for a polygon with points on both sides of the line.
-std::vector<CutPt> Find_Passages(const WPoly& W, const Line& L) {
+std::vector<CutPt> Find_Passages(const Outline& P, const Line& L) {
     std::vector<CutPt> Passages;
-    Long Start = W.First;
-    while (L.Side(At(Start)) == 0) Start = Next(W, Start);
-    Long i = Start;
+    const auto Next = [&](std::size_t I) { return (I + 1) % P.size(); };
+    std::size_t Start = 0;
+    while (L.Side(P[Start]) == 0) ++Start;
+    std::size_t I = Start;
     do {
-        Long j = Next(W, i);
-        while (L.Side(At(j)) == 0) j = Next(W, j);
-        if (L.Side(At(i)) != L.Side(At(j))) {
-            const Long Neighbour = Next(W, i);
-            if (Neighbour == j)
-                Passages.push_back({i, j, Meet::Cross, L.Cross(At(i), At(j)).At});
+        const std::size_t N = Next(I);
+        std::size_t J = N;
+        while (L.Side(P[J]) == 0) J = Next(J);
+        if (L.Side(P[I]) != L.Side(P[J])) {
+            if (N == J)
+                Passages.push_back({I, J, Meet::Cross, L.Cross(To_Pix(P[I]), To_Pix(P[J]))});
             else
-                Passages.push_back({i, Neighbour, Meet::End, At(Neighbour)});
+                Passages.push_back({I, N, Meet::End, To_Pix(P[N])});
         }
-        i = j;
-    } while (i != Start);
+        I = J;
+    } while (I != Start);
     return Passages;
 }
 
-void Add_Dec_2Poly(const WPoly& W, const std::vector<CutPt>& Cuts) {
-    Outline One, Two;
-    const int Failure = Dec_2Poly(W, Cuts[0], Cuts[1], One, Two);
-    if (Failure != 0) {
-        Messages.push_back("Anormal " + std::to_string(Failure) + " Dec_2Poly");
-        return;
-    }
-    NPoly_Append(W, One);
-    NPoly_Append(W, Two);
-}
-
-void Split_Two_Points(const WPoly& W, const CutPt& Cut) {
-    NPoly_Append(W, {Tab_WPt[W.First], As_WPt(Cut.At)});
-    NPoly_Append(W, {As_WPt(Cut.At), Tab_WPt[W.Last]});
-}
-
 // False when the cutting of all polygons ends here.
-bool Cut_One(Long K, const Line& L) {
-    const WPoly& W = Tab_WPoly[K];
-    std::vector<CutPt> Cuts = Find_Cuts(W, L);
-    if (Needs_Second_Look(W, Cuts, L)) {
-        if (!Has_Both_Sides(Points_Of(W), L)) {
-            Copy_Run(K, 1, W.Nb - 1);
+bool Cut_One(const Poly& W, const Line& L, Polys& Out) {
+    std::vector<CutPt> Cuts = Find_Cuts(W.P, L);
+    if (Needs_Second_Look(W.P, Cuts, L)) {
+        if (!Has_Both_Sides(W.P, L)) {
+            Out.push_back(W);
             return true;
         }
-        const std::vector<CutPt> Passages = Find_Passages(W, L);
+        const std::vector<CutPt> Passages = Find_Passages(W.P, L);
         if (Passages.size() == 2) Cuts = Passages;
     }
-    if (Cuts.size() > 2) {
-        Messages.push_back(L.Parallel ? "Anormal Lat decoupe LOD13_8"
-                                      : "Anormal Lon decoupe LOD13_8");
-        return false;
+    if (Cuts.size() > 2) return false;
+    Out.push_back(W);
+    if (Cuts.size() == 2) {
+        const auto [One, Two] = In_Two(W.P, Cuts[0], Cuts[1]);
+        Out.back().P = One;
+        Out.push_back(W);
+        Out.back().P = Two;
+    } else if (Cuts.size() == 1 && W.P.size() == 2 && Cuts[0].Code == Meet::Cross) {
+        Out.back().P[1] = As_WPt(Cuts[0].At);
+        Out.push_back(W);
+        Out.back().P[0] = As_WPt(Cuts[0].At);
     }
-    if (Cuts.size() == 2)
-        Add_Dec_2Poly(W, Cuts);
-    else if (Cuts.size() == 1 && W.Nb == 2 && Cuts[0].Code == Meet::Cross)
-        Split_Two_Points(W, Cuts[0]);
-    else
-        Copy_Run(K, 1, W.Nb - 1);
     return true;
 }
 
-bool Line_Pass(const Line& L) {
-    Tab_NPoly.Dimension(Nb_WPoly);
-    Tab_NPt.Dimension(Nb_WPt);
-    for (Long K = 1; K <= Nb_WPoly; ++K)
-        if (!Cut_One(K, L)) return false;
-    WPoly_Commit();
-    return true;
+// A line cut at one grid line; its points from there on are moved as they are passed.
+void Walk(Poly W, const Line& L, bool Tags_Cuts, Polys& Out) {
+    Outline& P = W.P;
+    const std::size_t Last = P.size() - 1;
+    const auto Emit = [&](std::size_t First, std::size_t End) {
+        Out.push_back(W);
+        Out.back().P.assign(P.begin() + static_cast<std::ptrdiff_t>(First),
+                            P.begin() + static_cast<std::ptrdiff_t>(End) + 1);
+    };
+    for (std::size_t Start = 0, I = 0;;) {
+        const Seg_Meet M = L.Cut(P[I], P[I + 1]);
+        if (M.Code == Meet::End && !(M.At == To_Pix(P[I]) && I == Start)) {
+            Emit(Start, I + 1);
+            if (++I == Last) return;
+            Start = I;
+            continue;
+        }
+        if (M.Code == Meet::Cross) {
+            Emit(Start, I);
+            Out.back().P.push_back(As_WPt(M.At, Tag_Cut));
+            Start = I;
+            P[I] = As_WPt(M.At, Tags_Cuts ? Tag_Cut : P[I].Tag);
+        }
+        if (++I == Last) return Emit(Start, Last);
+    }
+}
+
+Polys Cut_Lines_Along(const Polys& List, const Line_Cut_Rule& Rule, bool Rows,
+                      const std::vector<Long>& Whole) {
+    Polys Now = List;
+    for (const Line& L : Lines_Of(Rule.Grid)) {
+        if (L.Parallel != Rows) continue;
+        Polys Out;
+        for (const Poly& W : Now) {
+            if (std::ranges::count(Whole, W.Num) > 0)
+                Out.push_back(W);
+            else
+                Walk(W, L, Rule.Tags_Cuts, Out);
+        }
+        Now = Out;
+    }
+    return Now;
 }
 
 }  // namespace
 
-void Poly_Cut_Cells(Int Mode) {
-    Stages.push_back("Lod8/13 cut");
-    const Double StepLat = Mode == 2 ? Area_StepLat : Cell_StepLat;
-    const Double StepLon = Mode == 2 ? Area_StepLon : Cell_StepLon;
-    const Double TolDiv = Mode == 2 ? 16321.1 : 512.1;
-    const Double PixLat = (YGridSE - YGridNW) / (LatGridNW - LatGridSE) * StepLat;
-    const Double PixLon = (XGridSE - XGridNW) / (LonGridSE - LonGridNW) * StepLon;
-    const Double TolX = PixLon / TolDiv, TolY = PixLat / TolDiv;
-    const Long Row0 = std::max(Fix_Lng((90 - LatGridNW) / StepLat) - 3, 0);
-    const Long Col0 = std::max(Fix_Lng((LonGridNW + 180) / StepLon) - 3, 0);
-
-    const Double Lat0 = 90 - Row0 * StepLat;
-    Double LineY = YGridNW - (Lat0 - LatGridNW) * PixLat / StepLat;
-    for (;; LineY = LineY + PixLat) {
-        if (!Line_Pass({.Parallel = true, .Where = LineY, .TolX = TolX, .TolY = TolY})) return;
-        if (YGridSE + PixLat <= LineY) break;
+std::string Cut(Polys& List, const Grid_Lines& Grid) {
+    for (const Line& L : Lines_Of(Grid)) {
+        Polys Out;
+        for (const Poly& W : List)
+            if (!Cut_One(W, L, Out))
+                return L.Parallel ? "Anormal Lat decoupe LOD13_8" : "Anormal Lon decoupe LOD13_8";
+        List = Out;
     }
+    return "";
+}
 
-    const Double Lon0 = Col0 * StepLon - 180;
-    Double LineX = XGridNW - std::abs(Lon0 - LonGridNW) * PixLon / StepLon;
-    for (;; LineX = LineX + PixLon) {
-        if (!Line_Pass({.Parallel = false, .Where = LineX, .TolX = TolX, .TolY = TolY})) return;
-        if (XGridSE + PixLon <= LineX) break;
+// The lines of objects whose pieces fit after the columns alone skip the rows.
+void Cut_Lines(Polys& List, const Line_Cut_Rule& Rule) {
+    std::vector<Long> Whole;
+    if (Rule.Skips_Rows) {
+        for (const Poly& W : List)
+            if (Rule.Skips_Rows(*W.Attr)) Whole.push_back(W.Num);
+        for (const Poly& W : Cut_Lines_Along(List, Rule, false, {}))
+            if (!Rule.Fits(W.P)) std::erase(Whole, W.Num);
     }
+    List = Cut_Lines_Along(Cut_Lines_Along(List, Rule, true, Whole), Rule, false, {});
+}
+
+void Coast_Crossings(Polys& List, const Grid_Lines& Grid) {
+    for (const Line& L : Lines_Of(Grid))
+        for (Poly& W : List)
+            for (std::size_t I = 0; I + 1 < W.P.size(); ++I) {
+                const Seg_Meet M = L.Cut(W.P[I], W.P[I + 1]);
+                if (M.Code != Meet::Cross) continue;
+                W.P.insert(W.P.begin() + static_cast<std::ptrdiff_t>(++I), As_WPt(M.At));
+            }
 }
 
 }  // namespace reference

@@ -1,4 +1,5 @@
-// reference/shapes.h - drawings made from a seed, for tests that compare and check.
+// reference/shapes.h - awkward drawings made from a seed, for tests that compare and check; those
+// of drawings.h are stretched to a frame.
 //
 // Coordinates are map pixels. The same seed gives the same drawing.
 #pragma once
@@ -9,41 +10,20 @@
 #include <vector>
 
 #include "core/model.h"
+#include "drawings.h"
 #include "geo/calibration.h"
 
 namespace shapes {
 
-class Random {
-public:
-    explicit Random(std::uint64_t Seed) : State(Seed) {}
-
-    std::uint64_t Next();
-    /// 0 to 1, 1 excluded.
-    Double Unit();
-    Double Between(Double Low, Double High) { return Low + Unit() * (High - Low); }
-    /// Low to High, both included.
-    Long Whole(Long Low, Long High);
-    bool Chance(Double P) { return Unit() < P; }
-
-private:
-    std::uint64_t State;
-};
-
-struct Frame {
-    Pix Low, High;
-
-    Pix Centre() const { return {(Low.X + High.X) / 2, (Low.Y + High.Y) / 2}; }
-    /// Half the shorter side.
-    Double Radius() const;
-};
-
+using drawings::Frame;
+using drawings::Random;
 using Outline = std::vector<Pix>;
 
 /// Simple outlines that fill a frame, of either turn.
 Outline Fractal_Ring(Random& R, const Frame& F, Long Points);
 Outline Star(Random& R, const Frame& F, Long Spikes);
 Outline Comb(Random& R, const Frame& F, Long Teeth);
-Outline Spiral(const Frame& F, Long Turns, Long Points_A_Turn);
+Outline Spiral(const Frame& F, Long Points);
 Outline Rectangle(const Frame& F);
 /// Long and thin, from corner to corner of the frame.
 Outline Needle(Random& R, const Frame& F);

@@ -1,21 +1,25 @@
-// test_line_cut.cpp - lines collected and cut: the program against the plain rules to the last
-// bit, and what must hold for the pieces of any line.
+// test_line_cut.cpp - lines collected and cut: worked examples in rows, the program against the
+// plain rules to the last bit, and what must hold for the pieces of any line.
 #include "shapes/line/line_cut.h"
 
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
-#include <cstdlib>
-#include <string>
 
+#include "core/attr_kinds.h"
 #include "core/model_ops.h"
-#include "reference/lines.h"
+#include "geometry/box.h"
+#include "reference/compare.h"
 #include "reference/shapes.h"
+#include "shapes/poly/poly_collect.h"
 #include "support/program_test.h"
+#include "support/rows.h"
 
 namespace {
 
+using reference::Polys;
+using reference::Text_Of;
+using reference::Work_Lists;
 using shapes::Outline;
 using shapes::Random;
 
@@ -35,32 +39,32 @@ struct Output {
     const char* Name;
     Line_Rule Rule;
     Grid_Walk Grid;
-    reference::Line_Grid Plain_Grid;
     bool Tags_Cuts;
     bool (*Skips_Rows)(const Attr&);
+
+    Line_Cut_Rule Cut_Rule() const {
+        return {.Grid = Grid_Lines_Of(Grid),
+                .Tags_Cuts = Tags_Cuts,
+                .Skips_Rows = Skips_Rows,
+                .Fits = Is_Low};
+    }
 };
 
-// The rules of the three outputs that lines go into.
+// The rules of the outputs that lines are cut for.
 const Output Roads{"roads",
-                   {.Takes = [](const Attr& A) { return A.SurfShore != 0 && A.Vtp1_Line != 1; },
-                    .May_Close = [](const Attr& A) { return A.SurfShore != 3 && !Is_Bare(A); },
+                   {.Takes = [](const Attr& A) { return Has_Line(A) && A.Vtp1_Line != 1; },
+                    .May_Close = [](const Attr& A) { return !Is_Coast(A) && !Is_Bare(A); },
                     .Has_Tags = true,
                     .Turns = true},
                    Lines_By_Area,
-                   {0.3515625, 0.46875, 1, 16321.1},
                    true,
                    Is_Bare};
 const Output Night{"night lines",
-                   {.Takes = [](const Attr& A) { return A.SurfShore != 0 && A.Line_Night != 0; },
-                    .May_Close = [](const Attr& A) { return A.SurfShore != 3; }},
+                   {.Takes = [](const Attr& A) { return Has_Line(A) && A.Line_Night != 0; },
+                    .May_Close = [](const Attr& A) { return !Is_Coast(A); }},
                    Lines_By_Half_Lod10,
-                   {0.087890625, 0.1171875, 2, 4080.6},
                    false,
                    nullptr};
-const Output Coasts{
-    "coasts",       {.Takes = [](const Attr& A) { return A.SurfShore == 3; }, .Turns = true},
-    Coasts_By_Cell, {0.010986328125, 0.0146484375, 1, 512.1},
-    false,          nullptr};
 
 // A path over the map and some way beyond it, with long strides and short ones.
 Outline Random_Path(Random& R) {
@@ -123,118 +127,64 @@ void Draw_Lines(std::uint64_t Seed) {
     }
 }
 
-// TERRAFOLD_ROUNDS in the environment asks for a longer run, TERRAFOLD_SEED for other drawings.
-std::uint64_t From_Environment(const char* Name, std::uint64_t Otherwise) {
-    const char* Text = std::getenv(Name);
-    return Text == nullptr ? Otherwise : std::stoull(Text);
-}
-
-std::uint64_t Bits(Double V) {
-    return std::bit_cast<std::uint64_t>(V);
-}
-
-void Expect_Same_Lists() {
-    ASSERT_EQ(Nb_WPoly, reference::Nb_WPoly);
-    ASSERT_EQ(Nb_WPt, reference::Nb_WPt);
-    for (Long I = 1; I <= Nb_WPoly; ++I) {
-        const WPoly &A = Tab_WPoly[I], &B = reference::Tab_WPoly[I];
-        ASSERT_EQ(A.Num, B.Num) << "line " << I;
-        ASSERT_EQ(A.Attr, B.Attr) << "line " << I;
-        ASSERT_EQ(A.First, B.First) << "line " << I;
-        ASSERT_EQ(A.Last, B.Last) << "line " << I;
-        ASSERT_EQ(A.Nb, B.Nb) << "line " << I;
-    }
-    for (Long I = 1; I <= Nb_WPt; ++I) {
-        const WPt &A = Tab_WPt[I], &B = reference::Tab_WPt[I];
-        ASSERT_TRUE(Bits(A.X) == Bits(B.X) && Bits(A.Y) == Bits(B.Y)) << "point " << I;
-        ASSERT_EQ(A.Tag, B.Tag) << "point " << I;
-    }
-}
-
 class Line_Cut_Test : public Program_Test {
 protected:
-    Line_Cut_Test() { Clear(); }
-    ~Line_Cut_Test() override { Clear(); }
+    ~Line_Cut_Test() override { Work_Lists_Reset(); }
 
-    static void Clear() {
-        reference::Reset();
-        Work_Lists_Reset();
-    }
-
-    static Line_Cut_Rule Cut_Rule(const Output& O) {
-        return {.Grid = Grid_Lines_Of(O.Grid),
-                .Tags_Cuts = O.Tags_Cuts,
-                .Skips_Rows = O.Skips_Rows,
-                .Fits = Is_Low};
-    }
-
-    /// One line on a map of 4 by 4 Areas with rows and columns at the multiples of 128.
-    static Attr& Draw_One(const Outline& O) {
+    /// The road of a row, collected: its points, and what it is: "closed", "right" (land),
+    /// "thin" (at its end), "coast", "bare". On a map of 4 by 4 Areas with rows and columns at the
+    /// multiples of 128.
+    static std::string Collected(const Row_Cells& C) {
         Random R(1);
+        Work_Lists_Reset();
         Model_Reset();
-        shapes::Make_Map(R, 4, 2, true);
+        shapes::Make_Map(R, 4, Mode_VTP2, true);
+        Outline O;
+        const std::vector<double> V = Cell_Numbers(C[0]);
+        for (std::size_t I = 0; I + 1 < V.size(); I += 2) O.push_back({V[I], V[I + 1]});
+        const auto Is = [&](const char* Word) {
+            return static_cast<Int>(C[1].find(Word) != std::string::npos);
+        };
         Attr& A = Tab_Obj[shapes::Add_Polygon(O)].Attr;
-        A.SurfShore = 2;
-        A.FermerLine = 0;
-        return A;
-    }
-
-    /// A line as text, "X,Y" and a mark for each point: "" plain, "=" wide, "+" cut.
-    static std::string Text_Of(const WPoly& W) {
-        constexpr const char* Mark[] = {" ", "= ", "+ "};
-        std::string Text;
-        for (Long I = W.First; I <= W.Last; ++I) {
-            const WPt& P = Tab_WPt[I];
-            Text += std::to_string(std::lround(P.X)) + "," + std::to_string(std::lround(P.Y)) +
-                    Mark[P.Tag];
-        }
-        Text.pop_back();
-        return Text;
-    }
-    static std::vector<std::string> Texts() {
-        std::vector<std::string> All;
-        for (const WPoly& W : Tab_WPoly.Rows()) All.push_back(Text_Of(W));
-        return All;
-    }
-    static std::vector<std::string> Collected() {
-        Clear();
+        A.SurfShore = Is("coast") ? Surf_Coast : Surf_Line;
+        A.FermerLine = Is("closed");
+        A.LandOnRight = Is("right");
+        A.Effil_Fin = Is("thin");
+        A.Effil_Deb = Is("tapered");
+        if (Is("bare")) A.LineType = Bare_Kind;
         Line_Collect(Roads.Rule);
-        return Texts();
+        return Text_Of(Work_Lists());
     }
-    static std::vector<std::string> Cut() {
-        Clear();
-        Line_Collect(Roads.Rule);
-        Line_Cut(Cut_Rule(Roads));
-        return Texts();
+    static std::string Cut(const Row_Cells& C) {
+        Collected(C);
+        Line_Cut(Roads.Cut_Rule());
+        return Text_Of(Work_Lists());
     }
 };
 
-using Strings = std::vector<std::string>;
+TEST_F(Line_Cut_Test, AsInTheRows) {
+    Expect_Rows("lines", {{"Collect", Collected}, {"Cut", Cut}});
+}
 
 TEST_F(Line_Cut_Test, AgreesWithThePlainRulesOnRandomLines) {
-    Long Cuts = 0, Bare_Whole = 0;
-    const std::uint64_t Rounds = From_Environment("TERRAFOLD_ROUNDS", 150);
-    const std::uint64_t First = From_Environment("TERRAFOLD_SEED", 1);
-    for (std::uint64_t Seed = First; Seed < First + Rounds; ++Seed)
-        for (const Output* O : {&Roads, &Night, &Coasts}) {
+    std::size_t Cuts = 0, Bare_Whole = 0;
+    for (const std::uint64_t Seed : reference::Seeds(150))
+        for (const Output* O : {&Roads, &Night}) {
             SCOPED_TRACE(std::string(O->Name) + ", seed " + std::to_string(Seed));
-            Clear();
+            Work_Lists_Reset();
             Draw_Lines(Seed);
-            reference::Line_Collect(O->Rule);
             Line_Collect(O->Rule);
-            ASSERT_NO_FATAL_FAILURE(Expect_Same_Lists());
-            if (O == &Coasts) continue;
-            const Long Nb = Nb_WPoly;
-            reference::Line_Cut(O->Plain_Grid, Cut_Rule(*O));
-            Line_Cut(Cut_Rule(*O));
-            ASSERT_NO_FATAL_FAILURE(Expect_Same_Lists());
-            Cuts += Nb_WPoly - Nb;
+            Polys Plain = Work_Lists();
+            Cuts -= Plain.size();
+            reference::Cut_Lines(Plain, O->Cut_Rule());
+            Cuts += Plain.size();
+            Line_Cut(O->Cut_Rule());
+            ASSERT_TRUE(reference::Same_As_Work_Lists(Plain));
             for (const WPoly& W : Tab_WPoly.Rows())
                 Bare_Whole += O == &Roads && Is_Bare(*W.Attr) ? 1 : 0;
         }
-    if (Rounds < 150) return;
-    EXPECT_GT(Cuts, 5000) << "the drawings must meet the grid";
-    EXPECT_GT(Bare_Whole, 100);
+    EXPECT_GT(Cuts, 5000U) << "the drawings must meet the grid";
+    EXPECT_GT(Bare_Whole, 100U);
 }
 
 // The grid lines that lie inside the box of a piece, more than the tolerance from its edges.
@@ -246,84 +196,35 @@ std::size_t Lines_Inside(std::span<const Double> Lines, Double Low, Double High,
 TEST_F(Line_Cut_Test, PiecesLieBetweenGridLinesAndJoinToTheDrawnLine) {
     for (std::uint64_t Seed = 1000; Seed < 1150; ++Seed) {
         SCOPED_TRACE(Seed);
-        Clear();
+        Work_Lists_Reset();
         Draw_Lines(Seed);
         for (Obj& O : Tab_Obj.Rows()) O.Attr.LineType = 1024;
         Line_Collect(Roads.Rule);
-        const Table<WPoly> Drawn = Tab_WPoly;
-        const Table<WPt> Points = Tab_WPt;
-        const Line_Cut_Rule Rule = Cut_Rule(Roads);
-        Line_Cut(Rule);
-        Long K = 1;
-        for (const WPoly& W : Drawn.Rows()) {
-            Long Next = W.First;
-            for (const Long First_Piece = K; K <= Nb_WPoly && Tab_WPoly[K].Num == W.Num; ++K) {
-                const WPoly& Piece = Tab_WPoly[K];
-                Pix Low = To_Pix(Tab_WPt[Piece.First]), High = Low;
-                if (K > First_Piece) {
-                    const WPoly& Before = Tab_WPoly[K - 1];
-                    ASSERT_EQ(Low, To_Pix(Tab_WPt[Before.Last]));
+        const Polys Drawn = Work_Lists();
+        const Grid_Lines G = Grid_Lines_Of(Lines_By_Area);
+        Line_Cut(Roads.Cut_Rule());
+        const Polys Pieces = Work_Lists();
+        std::size_t K = 0;
+        for (const reference::Poly& W : Drawn) {
+            std::size_t Next = 0;
+            for (const std::size_t First = K; K < Pieces.size() && Pieces[K].Num == W.Num; ++K) {
+                const std::vector<WPt>& P = Pieces[K].P;
+                ASSERT_TRUE(K == First || To_Pix(P[0]) == To_Pix(Pieces[K - 1].P.back()));
+                Box_Pix Box;
+                for (std::size_t I = 0; I < P.size(); ++I) {
+                    Box.Add(To_Pix(P[I]));
+                    if (P[I].Tag == Tag_Cut || (I == 0 && K > First)) continue;
+                    ASSERT_LT(Next, W.P.size());
+                    ASSERT_EQ(To_Pix(P[I]), To_Pix(W.P[Next]));
+                    ASSERT_EQ(P[I].Tag, W.P[Next++].Tag);
                 }
-                for (Long I = Piece.First; I <= Piece.Last; ++I) {
-                    const WPt& P = Tab_WPt[I];
-                    Low = {std::min(Low.X, P.X), std::min(Low.Y, P.Y)};
-                    High = {std::max(High.X, P.X), std::max(High.Y, P.Y)};
-                    const bool Joint = I == Piece.First && K > First_Piece;
-                    if (P.Tag == Tag_Cut || Joint) continue;
-                    ASSERT_LE(Next, W.Last);
-                    ASSERT_EQ(To_Pix(P), To_Pix(Points[Next]));
-                    ASSERT_EQ(P.Tag, Points[Next].Tag);
-                    ++Next;
-                }
-                const Grid_Lines& G = Rule.Grid;
-                EXPECT_EQ(Lines_Inside(G.Y, Low.Y, High.Y, G.TolY), 0U) << Text_Of(Piece);
-                EXPECT_EQ(Lines_Inside(G.X, Low.X, High.X, G.TolX), 0U) << Text_Of(Piece);
+                EXPECT_EQ(Lines_Inside(G.Y, Box.LY, Box.HY, G.TolY), 0U) << Text_Of(Pieces[K]);
+                EXPECT_EQ(Lines_Inside(G.X, Box.LX, Box.HX, G.TolX), 0U) << Text_Of(Pieces[K]);
             }
-            ASSERT_EQ(Next, W.Last + 1) << "every drawn point is there";
+            ASSERT_EQ(Next, W.P.size()) << "every drawn point is there";
         }
-        ASSERT_EQ(K, Nb_WPoly + 1);
+        ASSERT_EQ(K, Pieces.size());
     }
-}
-
-TEST_F(Line_Cut_Test, EndsKeepTheirTagsThroughClosingAndTurning) {
-    const Outline Ring{{10, 10}, {50, 10}, {50, 50}, {10, 10}};
-    Draw_One(Ring).FermerLine = 1;
-    EXPECT_EQ(Collected(), (Strings{"10,10= 50,10 50,50 10,10="}));
-    Draw_One(Ring);
-    EXPECT_EQ(Collected(), (Strings{"10,10= 50,10 50,50"})) << "the last end goes with its point";
-    Attr& A = Draw_One({{10, 10}, {10, 10}, {50, 10}, {50, 50}, {20, 60}});
-    A.LandOnRight = 1;
-    A.Effil_Fin = 1;
-    EXPECT_EQ(Collected(), (Strings{"20,60 50,50 50,10 10,10="}));
-    A.SurfShore = 3;
-    A.FermerLine = 1;
-    A.Effil_Deb = 1;
-    EXPECT_EQ(Collected(), (Strings{"20,60 50,50 50,10 10,10"})) << "a coast is not closed";
-    Draw_One({{10, 10}, {10, 10}, {10, 10}});
-    EXPECT_EQ(Collected(), Strings{});
-    Draw_One({{10, 10}, {50, 10}, {90, 10}});
-    EXPECT_EQ(Collected(), (Strings{"10,10= 90,10="}));
-}
-
-TEST_F(Line_Cut_Test, CrossingsVerticesOnTheGridAndRunsAlongIt) {
-    Draw_One({{100, 20}, {300, 40}});
-    EXPECT_EQ(Cut(), (Strings{"100,20= 128,23+", "128,23+ 256,36+", "256,36+ 300,40="}));
-    Draw_One({{100, 20}, {128, 40}, {150, 90}});
-    EXPECT_EQ(Cut(), (Strings{"100,20= 128,40", "128,40 150,90="})) << "cut at the vertex";
-    Draw_One({{128, 40}, {150, 90}});
-    EXPECT_EQ(Cut(), (Strings{"128,40= 150,90="})) << "begins on the grid";
-    Draw_One({{128, 20}, {128, 100}});
-    EXPECT_EQ(Cut(), (Strings{"128,20= 128,100="})) << "along a column";
-    Draw_One({{100, 20}, {128, 40}, {128, 90}, {150, 95}, {180, 20}});
-    EXPECT_EQ(Cut(), (Strings{"100,20= 128,40", "128,40 128,90 150,95", "150,95 180,20="}))
-        << "the first stride off the grid belongs to the run along it";
-}
-
-TEST_F(Line_Cut_Test, BareLinesAreCutAlongRowsOnlyWhenTheyDoNotFit) {
-    Draw_One({{100, 20}, {110, 300}, {140, 310}}).LineType = Bare_Kind;
-    EXPECT_EQ(Cut(), (Strings{"100,20= 110,300 128,306+", "128,306+ 140,310="}));
-    Draw_One({{100, 20}, {110, 330}}).LineType = Bare_Kind;
-    EXPECT_EQ(Cut(), (Strings{"100,20= 103,128+", "103,128+ 108,256+", "108,256+ 110,330="}));
 }
 
 }  // namespace
