@@ -35,9 +35,12 @@ void Begin_Editing() {
     The_Host().Set_Pointer(Pointer_Shape::Normal);
 }
 
-// Ends the open project if there is one; false when the user cancels.
+// Ends the open project, or what an attempt at one left; false when the user cancels.
 bool Leave_Project() {
-    if (Projet_Open == 0) return true;
+    if (Projet_Open == 0) {
+        Call(The_View.Tiles_Remove);
+        return true;
+    }
     if (!Ask_Save()) return false;
     Close_View();
     return true;
@@ -51,6 +54,12 @@ std::optional<std::string> Ask_Project_File(const File_Question& Q) {
         if (!Path || Name_Valid(Path_Name(*Path))) return Path;
         Msg_Show(1);
     }
+}
+
+void End_Failed_Opening() {
+    Call(The_View.Ima_Unload);
+    Projet_Open = 0;
+    The_Host().Set_Pointer(Pointer_Shape::Normal);
 }
 
 void Open_In_View(std::string_view Path) {
@@ -90,14 +99,10 @@ bool Load_Project(std::string_view Path) {
 }
 
 void Open_Project(std::string_view Path) {
-    if (!Load_Project(Path)) {
-        The_Host().Set_Pointer(Pointer_Shape::Normal);
-        return;
-    }
+    if (!Load_Project(Path)) return End_Failed_Opening();
     if (The_View.Tiles_Build && !The_View.Tiles_Build()) {
+        End_Failed_Opening();
         Init_Tables();  // a project without its map can't be worked on
-        Projet_Open = 0;
-        The_Host().Set_Pointer(Pointer_Shape::Normal);
         return;
     }
     Recent_Update(Nom_Projet, 1);

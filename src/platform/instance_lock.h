@@ -4,7 +4,8 @@
 #include <memory>
 
 /// Held by the one running instance of a user. The system releases it when the program ends,
-/// however it ends.
+/// however it ends. TERRAFOLD_LOCK in the environment is the path of another lock in its place:
+/// the tests have one of their own each.
 class Instance_Lock {
 public:
     Instance_Lock();

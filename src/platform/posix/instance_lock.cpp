@@ -19,6 +19,7 @@ namespace fs = std::filesystem;
 namespace {
 
 std::optional<fs::path> Lock_File() {
+    if (const auto Own = Env_Text("TERRAFOLD_LOCK")) return fs::path(*Own);
     std::error_code Error;
     const auto Runtime = Env_Text("XDG_RUNTIME_DIR");
     if (Runtime && Runtime->front() == '/' && fs::is_directory(*Runtime, Error))

@@ -2,18 +2,18 @@
 #include <QApplication>
 #include <QString>
 #include <string>
+#include <vector>
 
 #include "platform/arguments.h"
 #include "qt/program_window.h"
-#include "qt/text.h"
 
 namespace {
 
-// What stood behind the program's name. A shell has taken the quotes off, and one word is the
-// whole path.
-std::string Command_Line(const QStringList& Words) {
-    if (Words.size() < 2) return {};
-    const auto Path = Path_Of_System(Words[1]);
+// What stood behind the program's name, with the quotes that a shell has taken off.
+std::string Command_Line(const QStringList& Arguments) {
+    std::vector<std::string> Words;
+    for (const QString& Word : Arguments.mid(1)) Words.push_back(Word.toStdString());
+    const auto Path = Path_Of_Words(Words);
     return Path ? '"' + *Path + '"' : std::string();
 }
 
