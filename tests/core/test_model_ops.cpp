@@ -1,9 +1,12 @@
 // tests/core/test_model_ops.cpp - adding, changing and deleting what a project holds.
 #include "core/model_ops.h"
 
+#include <random>
 #include <vector>
 
 #include "support/program_test.h"
+
+using Model_Ops = Program_Test;
 
 namespace {
 
@@ -12,96 +15,53 @@ std::vector<Double> Columns(Long I) {
     const Obj& O = Tab_Obj[I];
     std::vector<Double> X;
     Long Before = 0;
-    for (Long P = O.First_Pt, N = 0; N < O.Nb_Pts; Before = P, P = Tab_Pt[P].Next, ++N) {
+    for (Long P = O.First_Pt, N = 0; N < O.Nb_Pts; Before = P, P = Tab_Pt[P].Next, ++N)
         X.push_back(Tab_Pt[P].Prev == Before ? Tab_Pt[P].X : -1.0);
-        if (N + 1 == O.Nb_Pts && (P != O.Last_Pt || Tab_Pt[P].Next != 0)) X.push_back(-1.0);
-    }
+    if (Before != O.Last_Pt || Tab_Pt[Before].Next != 0) X.push_back(-1.0);
     return X;
 }
 
-using List = std::vector<Double>;
-
-class Model_Ops : public Program_Test {
-protected:
-    // Object 2 with points at columns 1 to Nb.
-    void Make_Obj(int Nb) {
-        Obj_Add({}, 1.0, 0.0);
-        for (int N = 2; N <= Nb; ++N) Pt_Append(2, N, 0.0);
-    }
-};
+Long Row_Of(Long I, std::size_t Place) {
+    Long P = Tab_Obj[I].First_Pt;
+    for (; Place > 0; --Place) P = Tab_Pt[P].Next;
+    return P;
+}
 
 }  // namespace
 
-TEST_F(Model_Ops, InitTablesKeepsTheHead) {
-    Make_Obj(30);
-    Carte = "C:\\map.bmp";
-    LatPtNW = 48.5;
-    LodMesh = 4;
-    Mesh_Done = 1;
-    Dialog_Up = 1;
-    The_Edits.Last_Alt_Set = true;
-    Ima_Add({});
-    Init_Tables();
-    EXPECT_EQ(Carte, "C:\\map.bmp");
-    EXPECT_EQ(LatPtNW, 48.5);
-    EXPECT_EQ(Nb_Obj, 1);
-    EXPECT_EQ(Tab_Obj[1].Attr, Attr_Zero());
-    EXPECT_EQ(Tab_Obj[1].First_Pt, 0);
-    EXPECT_EQ(Nb_Pt + Nb_Area + Nb_Lod8 + Nb_Excl + Nb_LC + Nb_WC + Nb_Ima + Nb_PtGrid, 0);
-    EXPECT_EQ(Max_Obj, 10);
-    EXPECT_EQ(Max_Pt, 5);
-    EXPECT_EQ(Last_Num_Obj, 0);
-    EXPECT_EQ(LodMesh, 2);
-    EXPECT_EQ(Mesh_Done, 0);
-    EXPECT_EQ(Dialog_Up, 0);
-    EXPECT_FALSE(The_Edits.Last_Alt_Set);
-}
-
-TEST_F(Model_Ops, ModelResetLeavesNothing) {
-    Carte = "C:\\map.bmp";
-    LatPtNW = 48.5;
-    Cur_Attr.Text_Rt = "left over";
-    Model_Reset();
-    EXPECT_EQ(The_Head, Project_Head());
-    EXPECT_EQ(The_Calibration, Calibration());
-    EXPECT_EQ(Cur_Attr, Attr());
-}
-
-TEST_F(Model_Ops, PointsJoinAtBothEndsAndBetween) {
-    Make_Obj(2);
-    EXPECT_EQ(Pt_Prepend(2, 0.0, 0.0), 3);
-    Pt_Insert(2, Tab_Obj[2].First_Pt, 0.5, 0.0);
-    Pt_Insert(2, Tab_Obj[2].Last_Pt, 2.5, 0.0);
-    EXPECT_EQ(Columns(2), (List{0.0, 0.5, 1.0, 2.0, 2.5}));
-    EXPECT_EQ(Tab_Obj[2].Nb_Pts, 5);
-}
-
-TEST_F(Model_Ops, PointsLeaveFromAnyPlace) {
-    Make_Obj(5);
-    EXPECT_TRUE(Pt_Delete(2, 3));
-    EXPECT_EQ(Columns(2), (List{1.0, 2.0, 4.0, 5.0}));
-    EXPECT_TRUE(Pt_Delete(2, 1));
-    EXPECT_TRUE(Pt_Delete(2, 5));
-    EXPECT_EQ(Columns(2), (List{2.0, 4.0}));
-    EXPECT_EQ(Nb_Pt, 5) << "the pool keeps its holes";
+TEST_F(Model_Ops, PointsJoinAndLeaveAnywhere) {
+    std::mt19937_64 Source(1);
+    Obj_Add({}, 7.0, 0.0);
+    Obj_Add({}, 0.0, 0.0);
+    std::vector<Double> Plain = {0.0};
+    for (int Step = 1; Step < 2000; ++Step) {
+        const std::size_t At = Source() % Plain.size(), Act = Source() % 6;
+        const auto Place = Plain.begin() + static_cast<std::ptrdiff_t>(At);
+        if (Act == 0) Pt_Append(3, Step, 0.0), Plain.push_back(Step);
+        if (Act == 1) Pt_Prepend(3, Step, 0.0), Plain.insert(Plain.begin(), Step);
+        if (Act == 2) Pt_Insert(3, Row_Of(3, At), Step, 0.0), Plain.insert(Place + 1, Step);
+        if (Act > 2 && Plain.size() > 1) Pt_Delete(3, Row_Of(3, At)), Plain.erase(Place);
+        ASSERT_EQ(Columns(3), Plain) << Step;
+        ASSERT_EQ(Tab_Obj[3].Nb_Pts, static_cast<Long>(Plain.size()));
+    }
+    EXPECT_EQ(Columns(2), std::vector<Double>{7.0});
     EXPECT_TRUE(Host_Of_Test.Boxes.empty());
 }
 
 TEST_F(Model_Ops, TheLastPointTakesItsObjectAfterAQuestion) {
-    Make_Obj(1);
+    Obj_Add({}, 1.0, 0.0);
     Obj_Add({}, 7.0, 0.0);
     Host_Of_Test.Box_Answers = {Button_No, Button_Yes};
     EXPECT_FALSE(Pt_Delete(2, 1));
-    EXPECT_EQ(Columns(2), (List{1.0}));
+    EXPECT_EQ(Columns(2), std::vector<Double>{1.0});
     EXPECT_TRUE(Pt_Delete(2, 1));
     EXPECT_EQ(Host_Of_Test.Last_Message(), 20);
     EXPECT_EQ(Nb_Obj, 2);
-    EXPECT_EQ(Columns(2), (List{7.0}));
-    EXPECT_EQ(Nb_Pt, 2);
+    EXPECT_EQ(Columns(2), std::vector<Double>{7.0});
 }
 
 TEST_F(Model_Ops, NumbersAreNeverGivenTwice) {
-    Make_Obj(1);
+    Obj_Add({}, 0.0, 0.0);
     Obj_Add({}, 0.0, 0.0);
     Obj_Delete(3);
     EXPECT_EQ(Tab_Obj[Obj_Add({}, 0.0, 0.0)].Num, 3);
@@ -113,25 +73,38 @@ TEST_F(Model_Ops, NumbersAreNeverGivenTwice) {
     EXPECT_DEATH(Obj_Delete(1), "never deleted");
 }
 
+TEST_F(Model_Ops, InitTablesKeepsTheHead) {
+    Obj_Add({}, 1.0, 0.0);
+    Ima_Add({});
+    Carte = "C:\\map.bmp";
+    LatPtNW = 48.5;
+    LodMesh = 4;
+    Mesh_Done = Dialog_Up = 1;
+    Cur_Attr.Text_Rt = "left over";
+    Init_Tables();
+    EXPECT_EQ(Carte, "C:\\map.bmp");
+    EXPECT_EQ(LatPtNW, 48.5);
+    EXPECT_EQ(Nb_Obj, 1);
+    EXPECT_EQ(Tab_Obj[1].Attr, Attr_Zero());
+    EXPECT_EQ(Nb_Pt + Nb_Ima + Mesh_Done + Dialog_Up + Last_Num_Obj, 0);
+    EXPECT_EQ(LodMesh, 2);
+    Model_Reset();
+    EXPECT_EQ(The_Head, Project_Head());
+    EXPECT_EQ(The_Calibration, Calibration());
+    EXPECT_EQ(Cur_Attr, Attr());
+}
+
 TEST_F(Model_Ops, ACellHasOneRecord) {
-    LC_Cell C;
-    C.AreaLon = 5;
-    C.Num = 1;
+    LC_Cell C{{5, 0, 0, 0}, 1};
     EXPECT_EQ(Cell_Store(Tab_LC, C), 1);
     C.CellLat = 1;
     EXPECT_EQ(Cell_Store(Tab_LC, C), 2);
-    C.CellLat = 0;
-    C.Num = 9;
+    C = {{5, 0, 0, 0}, 9};
     EXPECT_EQ(Cell_Store(Tab_LC, C), 1);
-    EXPECT_EQ(Nb_LC, 2);
     EXPECT_EQ(Tab_LC[1].Num, 9);
     EXPECT_EQ(Cell_Find(Tab_LC, {5, 0, 0, 2}), 0);
-
-    Lod8 L;
-    L.AreaLat = 3;
-    Lod8_Store(L);
-    L.Alti = 100.0;
-    EXPECT_EQ(Lod8_Store(L), 1);
+    EXPECT_EQ(Lod8_Store({0, 3, 0, 0.0}), 1);
+    EXPECT_EQ(Lod8_Store({0, 3, 0, 100.0}), 1);
     EXPECT_EQ(Tab_Lod8[1].Alti, 100.0);
     EXPECT_EQ(Lod8_Find(3, 0), 0);
 }
@@ -139,18 +112,15 @@ TEST_F(Model_Ops, ACellHasOneRecord) {
 TEST_F(Model_Ops, DeletingATextureFreesItsObjects) {
     EXPECT_EQ(Ima_Add({}), 1);
     EXPECT_EQ(Ima_Add({}), 2);
-    Attr A;
-    A.LWM_VTP2 = 2;
-    A.VTP1_SpecNor = 0;
-    A.Link_Ima = 2;
-    Obj_Add(A, 0.0, 0.0);
-    A.Link_Ima = 1;
-    Obj_Add(A, 0.0, 0.0);
+    Attr Other, Linked;
+    Other.Link_Ima = 1, Linked.Link_Ima = 2;
+    Other.LWM_VTP2 = Linked.LWM_VTP2 = 2;
+    Other.VTP1_SpecNor = Linked.VTP1_SpecNor = 0;
+    Obj_Add(Linked, 0.0, 0.0);
+    Obj_Add(Other, 0.0, 0.0);
     Ima_Delete(2);
-    EXPECT_EQ(Tab_Obj[2].Attr.Link_Ima, 0);
-    EXPECT_EQ(Tab_Obj[2].Attr.LWM_VTP2, 0);
-    EXPECT_EQ(Tab_Obj[2].Attr.VTP1_SpecNor, 1);
-    EXPECT_EQ(Tab_Obj[3].Attr, A);
+    EXPECT_EQ(Tab_Obj[2].Attr, Attr());
+    EXPECT_EQ(Tab_Obj[3].Attr, Other);
     EXPECT_EQ(Nb_Ima, 2);
     EXPECT_EQ(Tab_Ima[2].Active, 0);
     EXPECT_EQ(Tab_Ima[Ima_Add({})].Num, 3) << "above that of the deleted one";

@@ -4,30 +4,15 @@
 #include "platform/settings_file.h"
 #include "support/environment.h"
 #include "support/program_test.h"
+#include "support/rows.h"
 
 class Settings : public Program_Test {
 protected:
-    void Ini(std::string_view Lines) {
-        Dir.Write("App/Resource/Terrafold.Ini", "[Terrafold]\r\n" + std::string(Lines));
-    }
-    std::string Kept(std::string_view Key) {
-        return Setting_Read(Ini_File, "Terrafold", Key, "absent");
-    }
-    void Recent(std::array<std::string, 4> Paths) {
-        for (std::size_t I = 4; I-- > 0;) Recent_Update(Paths[I], 1);
+    void Ini(const std::string& Lines) {
+        Dir.Write("App/Resource/Terrafold.Ini", "; mine\r\n[Terrafold]\r\n" + Lines);
     }
     static std::string List() {
         return DerApt[0] + "|" + DerApt[1] + "|" + DerApt[2] + "|" + DerApt[3];
-    }
-    // The list as the next start will see it, and as the menu shows it.
-    std::string List_Kept() {
-        return Kept("DerApt1") + "|" + Kept("DerApt2") + "|" + Kept("DerApt3") + "|" +
-               Kept("DerApt4");
-    }
-    std::string Menu() {
-        auto& C = Host_Of_Test.Caption;
-        return C["Mnu_File_Prec(0)"] + "|" + C["Mnu_File_Prec(1)"] + "|" + C["Mnu_File_Prec(2)"] +
-               "|" + C["Mnu_File_Prec(3)"];
     }
 
 private:
@@ -36,20 +21,14 @@ private:
     Environment_Scope Wine_{"WINEPREFIX", Dir.Native("no wine").string()};
 };
 
-TEST_F(Settings, WithoutAFile) {
-    Language = "??";
-    Dir_Texture = "??";
+TEST_F(Settings, ValuesAndTheirDefaults) {
+    Language = Dir_Texture = "??";
     Read_Settings();
     EXPECT_EQ(Language, "FR");
-    EXPECT_EQ(Fl1Fois, 0);
-    EXPECT_EQ(ShowVTP1L, 0);
-    EXPECT_EQ(DirFS + Dir_Texture + DerRefLu, "");
-    EXPECT_EQ(List(), "|||");
+    EXPECT_EQ(Fl1Fois + ShowVTP1L, 0);
+    EXPECT_EQ(DirFS + Dir_Texture + DerRefLu + List(), "|||");
     EXPECT_FALSE(Dir.Has("App/Resource/Terrafold.Ini")) << "reading writes nothing";
-}
-
-TEST_F(Settings, ValuesAreTrimmedAndShown) {
-    Dir.Write("FS/Scenery/world.txt", "");
+    Dir.Write("FS/file", "");
     Ini("Language= US \r\nFl1Fois= 1 \r\nDerRefLu = C:\\x.Ref\r\nShowVTP1L=1x\r\nDerApt2=  b.LWM "
         "\r\nDirFS=" +
         Dir.Path("FS") + "\r\n");
@@ -61,71 +40,49 @@ TEST_F(Settings, ValuesAreTrimmedAndShown) {
     EXPECT_EQ(DirFS, Dir.Path("FS") + "\\");
     EXPECT_EQ(Dir_Texture, Dir.Path("FS") + "\\Scenery\\world\\Texture");
     EXPECT_EQ(List(), "|b.LWM||");
-    EXPECT_EQ(Menu(), List());
-}
-
-TEST_F(Settings, ADirectoryThatIsGoneIsDropped) {
-    Ini("DirFS=" + Dir.Path("gone") + "\\\r\n");
-    Read_Settings();
-    EXPECT_EQ(DirFS, "");
-    EXPECT_EQ(Dir_Texture, "");
+    EXPECT_EQ(Host_Of_Test.Caption["Mnu_File_Prec(1)"], "b.LWM");
 }
 
 TEST_F(Settings, TheSimulatorIsLookedForAndKept) {
     Dir.Write("Sim/Scenery/world.txt", "");
     Dir.Write("Empty/file.txt", "");
+    Ini("DirFS=" + Dir.Path("gone") + "\\\r\n");
     {
         const Environment_Scope Named("TERRAFOLD_FSDIR", Dir.Native("Empty").string());
         Read_Settings();
-        EXPECT_EQ(DirFS, "") << "no directory Scenery in it";
+        EXPECT_EQ(DirFS + Dir_Texture, "") << "no directory Scenery in it";
     }
     const Environment_Scope Named("TERRAFOLD_FSDIR", Dir.Native("Sim").string());
     Read_Settings();
     EXPECT_EQ(DirFS, Dir.Path("Sim") + "\\");
     EXPECT_EQ(Dir_Texture, Dir.Path("Sim") + "\\Scenery\\world\\Texture");
-    EXPECT_EQ(Kept("DirFS"), DirFS);
+    EXPECT_EQ(Setting_Read(Ini_File, "Terrafold", "DirFS", ""), DirFS);
     Ini("DirFS=" + Dir.Path("Empty") + "\\\r\n");
     Read_Settings();
     EXPECT_EQ(DirFS, Dir.Path("Empty") + "\\") << "what the user has set stays";
 }
 
-TEST_F(Settings, RecentProjectsMoveToTheHead) {
-    Recent({"a.LWM", "b.LWM", "c.LWM", "d.LWM"});
-    EXPECT_EQ(List(), "a.LWM|b.LWM|c.LWM|d.LWM");
-    Recent_Update("C.lwm", 1);
-    EXPECT_EQ(List(), "C.lwm|a.LWM|b.LWM|d.LWM") << "the others keep their order";
-    Recent_Update("c.LWM", 1);
-    EXPECT_EQ(List(), "C.lwm|a.LWM|b.LWM|d.LWM") << "at the head nothing changes";
-    Recent_Update("\xE9.LWM", 1);
-    EXPECT_EQ(List(), "\xE9.LWM|C.lwm|a.LWM|b.LWM") << "a new one pushes the last one out";
-    Recent_Update(DerApt[3], 1);
-    EXPECT_EQ(List(), "b.LWM|\xE9.LWM|C.lwm|a.LWM") << "an entry may be handed in itself";
-    EXPECT_EQ(List_Kept(), List());
-    EXPECT_EQ(Menu(), List());
-}
-
-TEST_F(Settings, RecentProjectsAreTakenOut) {
-    Recent({"a.LWM", "\xE9.LWM", "c.LWM", "d.LWM"});
-    Recent_Update("\xC9.lwm", 2);
-    EXPECT_EQ(List(), "a.LWM|c.LWM|d.LWM|");
-    Recent_Update("x.LWM", 2);
-    EXPECT_EQ(List(), "a.LWM|c.LWM|d.LWM|");
-    Recent_Update(DerApt[0], 2);
-    EXPECT_EQ(List(), "c.LWM|d.LWM||");
-    EXPECT_EQ(List_Kept(), List());
-    EXPECT_EQ(Menu(), List());
-    Recent_Update("", 1);
-    EXPECT_EQ(List(), "c.LWM|d.LWM||") << "a free entry is no path";
-}
-
-TEST_F(Settings, TheListComesBackAtTheNextStart) {
-    Ini("; my notes\r\nOther=1\r\n");
-    Recent({"C:\\My Scenery\\a.LWM", "b.LWM", "", ""});
-    const std::string Before = List();
+TEST_F(Settings, RecentProjects) {
+    Ini("");
+    Expect_Rows(
+        "recent",
+        {{"Recent_Update", [&](const Row_Cells& C) {
+              for (std::size_t I = 0; I < 4; ++I) DerApt[I] = C[I];
+              // An entry may be handed in itself.
+              const bool Entry = C[5].size() == 1;
+              const std::string_view Path = Entry ? std::string_view(DerApt[C[5][0] - '1']) : C[5];
+              Recent_Update(Path, C[4] == "add" ? 1 : 2);
+              const std::string After = List();
+              for (std::size_t I = 0; I < 4 && After != C[0] + "|" + C[1] + "|" + C[2] + "|" + C[3];
+                   ++I)
+                  EXPECT_EQ(Host_Of_Test.Caption["Mnu_File_Prec(" + std::to_string(I) + ")"],
+                            DerApt[I]);
+              return After;
+          }}});
+    const std::string Last = List();
     DerApt = {};
     Read_Settings();
-    EXPECT_EQ(List(), Before);
-    EXPECT_NE(Dir.Read("App/Resource/Terrafold.Ini").find("; my notes\r\nOther=1\r\n"),
-              std::string::npos)
+    EXPECT_EQ(List(), Last) << "it comes back at the next start";
+    EXPECT_TRUE(Dir.Read("App/Resource/Terrafold.Ini").starts_with("; mine\r\n"))
         << "what others wrote stays";
 }

@@ -1,21 +1,33 @@
-// tests/platform/test_clock.cpp - the time that builds ask for.
+// tests/platform/test_clock.cpp - the present time, and the time that builds ask for.
 #include "platform/clock.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <ctime>
+
 #include "support/environment.h"
+#include "support/rows.h"
 
 TEST(Clock, SourceDateEpochIsUtc) {
     const Environment_Scope Zone("TZ", "America/New_York");
-    const struct {
-        const char* Epoch;
-        const char* Text;
-    } Cases[] = {{"0", "1970-01-01 00:00:00"},
-                 {"1065225599", "2003-10-03 23:59:59"},
-                 {"1709210096", "2024-02-29 12:34:56"},
-                 {"253402300799", "9999-12-31 23:59:59"}};
-    for (const auto& Case : Cases) {
-        const Environment_Scope Epoch("SOURCE_DATE_EPOCH", Case.Epoch);
-        EXPECT_EQ(Date_Time_Text(), Case.Text);
+    Expect_Rows("clock", {{"Date_Time_Text", [](const Row_Cells& C) {
+                               const Environment_Scope Epoch("SOURCE_DATE_EPOCH", C[0]);
+                               return Date_Time_Text();
+                           }}});
+}
+
+TEST(Clock, LocalTimeWhenNoWholeNumberIsAsked) {
+    const Environment_Scope Zone("TZ", "XYZ-20");  // no place on earth is 20 hours ahead
+    for (const char* Epoch : {"", "yesterday", "12.5", "12 ", "-1", "253402300800", "1e9"}) {
+        const Environment_Scope Scope("SOURCE_DATE_EPOCH", Epoch);
+        const auto Now = [] {
+            const std::time_t Time = std::time(nullptr);
+            char Text[40];
+            std::strftime(Text, sizeof Text, "%Y-%m-%d %H:%M:%S", std::localtime(&Time));
+            return std::string(Text);
+        };
+        const std::string Before = Now(), Said = Date_Time_Text();
+        EXPECT_TRUE(Before <= Said && Said <= Now()) << Epoch << ": " << Said;
     }
 }

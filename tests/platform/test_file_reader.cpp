@@ -1,9 +1,8 @@
 // tests/platform/test_file_reader.cpp - pieces of a file.
 #include "platform/file_reader.h"
 
-#include <array>
-
 #include <gtest/gtest.h>
+
 #include "support/temp_dir.h"
 
 namespace {
@@ -14,38 +13,27 @@ std::string Piece(File_Reader& File, std::uint64_t At, std::size_t Size) {
     return {Bytes.begin(), Bytes.end()};
 }
 
-TEST(FileReader, PiecesInAnyOrder) {
+}  // namespace
+
+TEST(File_Reader, PiecesInAnyOrderAndNothingBehindTheEnd) {
     const Temp_Dir Dir;
     Dir.Write("Some.bin", "abcdefgh");
     File_Reader File(Dir.Path("SOME.BIN"));
-    ASSERT_TRUE(File.Is_Open());
     EXPECT_EQ(File.Size(), 8u);
     EXPECT_EQ(Piece(File, 2, 3), "cde");
     EXPECT_EQ(Piece(File, 5, 3), "fgh") << "goes on where the last one ended";
     EXPECT_EQ(Piece(File, 0, 8), "abcdefgh");
-    EXPECT_EQ(Piece(File, 8, 0), "") << "nothing is there at the end, and nothing was wanted";
-}
-
-TEST(FileReader, NothingBehindTheEnd) {
-    const Temp_Dir Dir;
-    Dir.Write("Some.bin", "abcdefgh");
-    File_Reader File(Dir.Path("Some.bin"));
+    EXPECT_EQ(Piece(File, 8, 0), "");
     EXPECT_EQ(Piece(File, 6, 3), "nothing");
     EXPECT_EQ(Piece(File, 9, 0), "nothing");
     EXPECT_EQ(Piece(File, ~std::uint64_t{0}, 2), "nothing") << "an end that does not wrap";
     EXPECT_EQ(Piece(File, 6, 2), "gh") << "a refusal does no harm";
-}
-
-TEST(FileReader, AFileCutShortMeanwhile) {
-    const Temp_Dir Dir;
-    Dir.Write("Some.bin", "abcdefgh");
-    File_Reader File(Dir.Path("Some.bin"));
     std::filesystem::resize_file(Dir.Native("Some.bin"), 4);
-    EXPECT_EQ(Piece(File, 2, 4), "nothing");
+    EXPECT_EQ(Piece(File, 2, 4), "nothing") << "cut short meanwhile";
     EXPECT_EQ(Piece(File, 2, 2), "cd");
 }
 
-TEST(FileReader, WhatIsNoFile) {
+TEST(File_Reader, WhatIsNoFile) {
     const Temp_Dir Dir;
     for (const std::string& Path : {Dir.Path("Absent"), Dir.Path(), std::string()}) {
         File_Reader File(Path);
@@ -54,5 +42,3 @@ TEST(FileReader, WhatIsNoFile) {
         EXPECT_EQ(Piece(File, 0, 0), "nothing");
     }
 }
-
-}  // namespace

@@ -17,7 +17,7 @@ TEST(Instance_Lock, DISABLED_Report) {
 
 TEST(Instance_Lock, HeldByOneProcessUntilItEnds) {
     const Temp_Dir Dir;
-    const Environment_Scope Runtime("XDG_RUNTIME_DIR", Dir.Native().string());
+    const Environment_Scope Own("TERRAFOLD_LOCK", Dir.Native("lock").string());
     const Environment_Scope Tell("TERRAFOLD_TELL", Dir.Native("told").string());
     const auto Other = [&Dir] {
         Run_Again("Instance_Lock.DISABLED_Report");
@@ -30,6 +30,8 @@ TEST(Instance_Lock, HeldByOneProcessUntilItEnds) {
         EXPECT_TRUE(Lock.Take()) << "twice";
         EXPECT_EQ(Other(), "refused");
         EXPECT_FALSE(Instance_Lock().Take());
+        const Environment_Scope Another("TERRAFOLD_LOCK", Dir.Native("other").string());
+        EXPECT_EQ(Other(), "taken") << "another lock";
     }
     EXPECT_EQ(Other(), "taken");
 }

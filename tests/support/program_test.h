@@ -4,11 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "core/program.h"
+#include "support/environment.h"
 #include "support/temp_dir.h"
 #include "support/test_host.h"
 
-/// Begins with the program as it starts, a recording host, and an empty directory as App_Path
-/// (with Ini_File and Msg_File in its Resource).
+/// Begins with the program as it starts, a recording host, a one-instance lock of the test's own,
+/// and an empty directory as App_Path (with Ini_File and Msg_File in its Resource).
 class Program_Test : public testing::Test {
 protected:
     Program_Test() {
@@ -24,5 +25,6 @@ protected:
     Test_Host Host_Of_Test;
 
 private:
+    Environment_Scope Lock_{"TERRAFOLD_LOCK", Dir.Native("lock").string()};
     Host_Scope Scope_{Host_Of_Test};
 };

@@ -10,6 +10,7 @@ namespace fs = std::filesystem;
 
 TEST(Instance_Lock, AToolStillRunningDoesNotHoldIt) {
     const Temp_Dir Dir;
+    const Environment_Scope None("TERRAFOLD_LOCK");
     for (const char* Variable : {"XDG_RUNTIME_DIR", "TMPDIR"}) {
         const Environment_Scope No_Runtime("XDG_RUNTIME_DIR");
         const Environment_Scope Place(Variable, Dir.Native().string());
@@ -25,9 +26,9 @@ TEST(Instance_Lock, AToolStillRunningDoesNotHoldIt) {
 
 TEST(Instance_Lock, WhatIsNotOursIsNoLock) {
     const Temp_Dir Dir;
-    const Environment_Scope Runtime("XDG_RUNTIME_DIR", Dir.Native().string());
+    const Environment_Scope Own("TERRAFOLD_LOCK", Dir.Native("lock").string());
     Dir.Write("victim", "kept");
-    fs::create_symlink("victim", Dir.Native("terrafold.lock"));
+    fs::create_symlink("victim", Dir.Native("lock"));
     Instance_Lock First, Second;
     EXPECT_TRUE(First.Take()) << "a link is not followed; the program starts";
     EXPECT_TRUE(Second.Take());
