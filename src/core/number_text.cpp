@@ -171,17 +171,6 @@ void Number_Chars::Put_Decimal(Double X, int Digits) {
     Last_ = static_cast<std::uint32_t>(Out - Text_);
 }
 
-// With a zero before a point that begins the number.
-Number_Chars Number_Chars::With_Zero() const {
-    Number_Chars N = *this;
-    const std::uint32_t At = First_ + (Text_[First_] == '-' ? 1 : 0);
-    if (Text_[At] != '.') return N;
-    std::copy_backward(N.Text_ + At, N.Text_ + Last_, N.Text_ + Last_ + 1);
-    N.Text_[At] = '0';
-    ++N.Last_;
-    return N;
-}
-
 Number_Chars Str(Double X) {
     Number_Chars N;
     N.Put_Decimal(X, 15);
@@ -216,14 +205,6 @@ Number_Chars Num_Text(Long X) {
     Number_Chars N = Str(X);
     N.First_ = N.Text_[0] == ' ';
     return N;
-}
-
-Number_Chars Shown_Text(Double X) {
-    return Num_Text(X).With_Zero();
-}
-
-Number_Chars Shown_Text(Single X) {
-    return Num_Text(X).With_Zero();
 }
 
 Double Val(std::string_view Text) {

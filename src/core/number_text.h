@@ -1,9 +1,8 @@
 // core/number_text.h - numbers as text, and text as numbers.
 //
-// Four forms exist. Str text is that of project, reference and settings files: a blank
+// Three forms exist. Str text is that of project, reference and settings files: a blank
 // stands before a number that is not negative. Num text, that of generated sources, is the
-// same without the blank. Shown text, that of read-outs and dialogs, has a zero before the point
-// as well. Val reads them all. All are independent of the system's locale.
+// same without the blank. Val reads both. All are independent of the system's locale.
 #pragma once
 
 #include <cstddef>
@@ -24,12 +23,9 @@ private:
     friend Number_Chars Num_Text(Double);
     friend Number_Chars Num_Text(Single);
     friend Number_Chars Num_Text(Long);
-    friend Number_Chars Shown_Text(Double);
-    friend Number_Chars Shown_Text(Single);
 
     void Put_Whole(Long X);
     void Put_Decimal(Double X, int Digits);
-    Number_Chars With_Zero() const;
 
     char Text_[48];
     std::uint32_t First_ = 0;  // 1 when the leading blank is left out
@@ -61,11 +57,6 @@ inline Number_Chars Num_Text(Int X) {
 inline Number_Chars Num_Text(Byte X) {
     return Num_Text(Long{X});
 }
-
-/// Shown text: Num text with a zero before the point, "0.5" and "-0.5". For people only; no file
-/// holds it.
-Number_Chars Shown_Text(Double X);
-Number_Chars Shown_Text(Single X);
 
 /// The longest number at the start of Text: a sign, digits, a point, an exponent. Blanks are
 /// skipped wherever they stand. Text that does not start with a number gives 0, one beyond a

@@ -10,6 +10,7 @@
 #include <random>
 #include <string>
 
+#include "core/typed_number.h"
 #include "support/rows.h"
 
 namespace {
@@ -76,9 +77,21 @@ TEST(Number_Text, WorkedExamples) {
          {"Num_Text", Of([](Double X) { return Num_Text(X); })},
          {"Num_Text of a Single", Of([](Double X) { return Num_Text(static_cast<Single>(X)); })},
          {"Num_Text of a Long", Of([](Double X) { return Num_Text(static_cast<Long>(X)); })},
-         {"Shown_Text", Of([](Double X) { return Shown_Text(X); })},
-         {"Shown_Text of a Single",
-          Of([](Double X) { return Shown_Text(static_cast<Single>(X)); })},
+         {"Typed_Number",
+          [](const Row_Cells& C) {
+              Number_Limits L;
+              for (std::size_t At = 1; At + 1 < C.size(); At += 2) {
+                  const Double Value = Cell_Number(C[At + 1]);
+                  if (C[At] == "whole") L.Whole = true;
+                  for (auto [Name, Limit] : {std::pair{"min", &L.Min},
+                                             {"above", &L.Above},
+                                             {"max", &L.Max},
+                                             {"below", &L.Below}})
+                      if (C[At] == Name) *Limit = Value;
+              }
+              const auto X = Typed_Number(C[0], L);
+              return X ? Shown_Number(*X) : "refused";
+          }},
          {"Val", [](const Row_Cells& C) { return Number_Cell(Val(With_Zeros(C[0]))); }},
          {"Fix_Lng", Whole(Fix_Lng)},
          {"Round_Lng", Whole(Round_Lng)},

@@ -3,31 +3,13 @@
 // Besides staying alive: a file that can't be read leaves an empty project after a damage, and
 // one that can be read has sound chains and saves to a file that is read again and saved as the
 // same bytes.
-#include <cstdint>
-#include <cstdlib>
-#include <filesystem>
-#include <string>
-#include <string_view>
-
 #include "core/model_ops.h"
 #include "core/program.h"
 #include "core/project_file.h"
+#include "fuzz/scratch.h"
 #include "platform/files.h"
-#include "platform/paths.h"
 
 namespace {
-
-void Need(bool Holds) {
-    if (!Holds) std::abort();
-}
-
-// A file in memory where the system has such a directory.
-std::string Saved_Path() {
-    std::filesystem::path Dir = "/dev/shm";
-    if (!std::filesystem::is_directory(Dir)) Dir = std::filesystem::temp_directory_path();
-    const auto Own = reinterpret_cast<std::uintptr_t>(&The_Head);
-    return Program_Path(Dir / ("terrafold_fuzz_" + std::to_string(Own) + ".LWM")).value();
-}
 
 void Check_Chains() {
     Long Points = 0;
@@ -51,7 +33,7 @@ std::string Saved() {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
-    static const std::string Path = Saved_Path();
+    static const std::string Path = Program_Path(Scratch_Path(".LWM")).value();
     Program_Reset();
     Read_Project_Text({reinterpret_cast<const char*>(Data), Size});
     Check_Chains();

@@ -2,29 +2,16 @@
 //
 // Besides staying alive: a file that can't be read changes nothing, and one that can be read is
 // written as a file that reads back as the same attributes.
-#include <cstdint>
-#include <cstdlib>
-#include <filesystem>
-#include <string>
-
 #include "core/model.h"
 #include "core/program.h"
 #include "core/reference_file.h"
+#include "fuzz/scratch.h"
 #include "platform/files.h"
-#include "platform/paths.h"
 
 namespace {
 
-void Need(bool Holds) {
-    if (!Holds) std::abort();
-}
-
-// A home in memory where the system has such a directory.
 std::string Home() {
-    std::filesystem::path Dir = "/dev/shm";
-    if (!std::filesystem::is_directory(Dir)) Dir = std::filesystem::temp_directory_path();
-    const auto Own = reinterpret_cast<std::uintptr_t>(&The_References);
-    Dir /= "terrafold_fuzz_" + std::to_string(Own);
+    const std::filesystem::path Dir = Scratch_Path("");
     std::filesystem::create_directories(Dir / "Resource");
     return Program_Path(Dir).value();
 }

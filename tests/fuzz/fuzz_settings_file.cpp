@@ -3,20 +3,15 @@
 // The first line holds a value, the rest is the file. Besides staying alive, what is written
 // must be read back, once written must stay, and must not change another setting.
 #include <algorithm>
-#include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
+#include "fuzz/scratch.h"
 #include "platform/settings_file.h"
 
 namespace {
 
 constexpr std::string_view Sections[] = {"Terrafold", "ERR"};
 constexpr std::string_view Keys[] = {"Language", "00014"};
-
-void Need(bool Holds) {
-    if (!Holds) std::abort();
-}
 
 void Check_Write(std::string_view File, std::string_view Section, std::string_view Key,
                  std::string_view Value) {

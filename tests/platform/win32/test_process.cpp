@@ -1,4 +1,4 @@
-// tests/platform/win32/test_process.cpp - a child's window and its standard streams.
+// tests/platform/win32/test_process.cpp - a child's window.
 #include "platform/process.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 #include "platform/paths.h"
 #include "support/environment.h"
 #include "support/run_again.h"
-#include "support/stand_in.h"
+#include "support/temp_dir.h"
 
 // Not a test: what another process does to tell how its window is to be shown.
 TEST(Win32_Process, DISABLED_Report) {
@@ -29,26 +29,4 @@ TEST(Win32_Process, AHiddenToolShowsNoWindow) {
     EXPECT_EQ(Dir.Read("told"), std::to_string(SW_HIDE));
     ASSERT_TRUE(Process_Run(Line, false));
     EXPECT_EQ(Dir.Read("told"), std::to_string(SW_SHOWNORMAL));
-}
-
-TEST(Win32_Process, StandardOutputStaysOurs) {
-    const Temp_Dir Dir;
-    Put_Stand_In(Dir, "talk.exe", "print printed\n");
-    const auto Open = [&Dir](const char* Name) {
-        return CreateFileW(Dir.Native(Name).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                           CREATE_NEW, 0, nullptr);
-    };
-    const HANDLE Out = Open("out"), Err = Open("err");
-    const HANDLE Former_Out = GetStdHandle(STD_OUTPUT_HANDLE);
-    const HANDLE Former_Err = GetStdHandle(STD_ERROR_HANDLE);
-    SetStdHandle(STD_OUTPUT_HANDLE, Out);
-    SetStdHandle(STD_ERROR_HANDLE, Err);
-    const bool Started = Process_Run(Dir.Path("talk.exe"), true);
-    SetStdHandle(STD_OUTPUT_HANDLE, Former_Out);
-    SetStdHandle(STD_ERROR_HANDLE, Former_Err);
-    CloseHandle(Out);
-    CloseHandle(Err);
-    EXPECT_TRUE(Started);
-    EXPECT_EQ(Dir.Read("out"), "");
-    EXPECT_EQ(Dir.Read("err").substr(0, 7), "printed");
 }

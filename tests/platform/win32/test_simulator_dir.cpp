@@ -18,7 +18,6 @@ constexpr const wchar_t* Simulator_Key =
 class Registered_Simulator : public testing::Test {
 protected:
     Registered_Simulator() {
-        RegDeleteTreeW(HKEY_CURRENT_USER, Stand_In_Key);
         RegCreateKeyExW(HKEY_CURRENT_USER, Stand_In_Key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
                         &Machine_, nullptr);
         EXPECT_EQ(RegOverridePredefKey(HKEY_LOCAL_MACHINE, Machine_), ERROR_SUCCESS);
@@ -30,18 +29,15 @@ protected:
     }
 
     // Writes the value as a 32-bit program does.
-    static void Set(DWORD Type, const void* Bytes, std::size_t Nb_Bytes) {
+    static std::string With(std::wstring_view Text, DWORD Type = REG_SZ) {
         HKEY Key = nullptr;
-        ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, Simulator_Key, 0, nullptr, 0,
-                                  KEY_SET_VALUE | KEY_WOW64_32KEY, nullptr, &Key, nullptr),
-                  ERROR_SUCCESS);
-        EXPECT_EQ(RegSetValueExW(Key, L"exe path", 0, Type, static_cast<const BYTE*>(Bytes),
-                                 static_cast<DWORD>(Nb_Bytes)),
-                  ERROR_SUCCESS);
+        RegCreateKeyExW(HKEY_LOCAL_MACHINE, Simulator_Key, 0, nullptr, 0,
+                        KEY_SET_VALUE | KEY_WOW64_32KEY, nullptr, &Key, nullptr);
+        EXPECT_EQ(
+            RegSetValueExW(Key, L"exe path", 0, Type, reinterpret_cast<const BYTE*>(Text.data()),
+                           static_cast<DWORD>(Text.size() * sizeof(wchar_t))),
+            ERROR_SUCCESS);
         RegCloseKey(Key);
-    }
-    static std::string With(std::wstring_view Text) {
-        Set(REG_SZ, Text.data(), Text.size() * sizeof(wchar_t));
         return Simulator_Dir();
     }
 
@@ -60,15 +56,9 @@ TEST_F(Registered_Simulator, TheTextOfTheValue) {
     EXPECT_EQ(With(std::wstring_view(L"D:\\FS9\0\0x", 9)), "D:\\FS9") << "and with too many";
     EXPECT_EQ(With(L""), "");
     EXPECT_EQ(With(L"C:\\\x3A9"), "") << "a Greek letter";
-    const std::wstring Long(3000, L'x');
-    EXPECT_EQ(With(L"C:\\" + Long), "C:\\" + std::string(3000, 'x'));
-    const DWORD Number = 1;
-    Set(REG_DWORD, &Number, sizeof Number);
-    EXPECT_EQ(Simulator_Dir(), "") << "no text";
-}
-
-TEST_F(Registered_Simulator, TheVariableComesFirst) {
+    EXPECT_EQ(With(std::wstring(3000, L'x')), std::string(3000, 'x'));
+    EXPECT_EQ(With(L"xx", REG_DWORD), "") << "no text";
     EXPECT_EQ(With(L"C:\\FS9"), "C:\\FS9");
     const Environment_Scope Named("TERRAFOLD_FSDIR", "D:/Jeux d'\xC3\xA9t\xC3\xA9/");
-    EXPECT_EQ(Simulator_Dir(), "D:\\Jeux d'\xE9t\xE9\\");
+    EXPECT_EQ(Simulator_Dir(), "D:\\Jeux d'\xE9t\xE9\\") << "the variable comes first";
 }
