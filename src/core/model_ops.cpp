@@ -82,6 +82,21 @@ void Obj_Delete(Long I) {
     ++Model_Changes;
 }
 
+void Obj_Set_Attr(Long I, const Attr& A) {
+    Tab_Obj[I].Attr = A;
+    ++Model_Changes;
+}
+
+void Obj_Move(Long I, Double DX, Double DY) {
+    const Obj& O = Tab_Obj[I];
+    Long P = O.First_Pt;
+    for (Long N = 1; N <= O.Nb_Pts; ++N, P = Tab_Pt[P].Next) {
+        Tab_Pt[P].X += DX;
+        Tab_Pt[P].Y += DY;
+    }
+    ++Model_Changes;
+}
+
 Long Pt_Append(Long I, Double X, Double Y) {
     const Long P = Pt_New(X, Y);
     Obj& O = Tab_Obj[I];
@@ -121,6 +136,12 @@ Long Pt_Insert(Long I, Long After, Double X, Double Y) {
     Tab_Pt[Before].Prev = P;
     ++O.Nb_Pts;
     return P;
+}
+
+void Pt_Move(Long P, Double X, Double Y) {
+    Tab_Pt[P].X = X;
+    Tab_Pt[P].Y = Y;
+    ++Model_Changes;
 }
 
 bool Pt_Delete(Long I, Long P) {

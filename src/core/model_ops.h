@@ -28,11 +28,17 @@ Long Obj_Add_Empty(const Attr& A);
 /// Removes object I; the objects behind it move down, its points stay in the pool.
 void Obj_Delete(Long I);
 
+void Obj_Set_Attr(Long I, const Attr& A);
+/// Moves every point of object I.
+void Obj_Move(Long I, Double DX, Double DY);
+
 /// Adds a point to object I behind its last point, before its first, or behind point After of
 /// its chain. Returns the row of the point in Tab_Pt.
 Long Pt_Append(Long I, Double X, Double Y);
 Long Pt_Prepend(Long I, Double X, Double Y);
 Long Pt_Insert(Long I, Long After, Double X, Double Y);
+
+void Pt_Move(Long P, Double X, Double Y);
 
 /// Takes point P out of the chain of object I. The last point of an object takes the object
 /// with it, after message 20; false when the user said No to that.

@@ -148,9 +148,8 @@ private:
     }
 
     void Paint_Segment(Pic_Px A, Pic_Px B, const Reach& Seen, const Pen& With) {
-        if ((Is_Far(A) || Is_Far(B)) && !Bring_Near(A, B)) return;
-        const Line_Px L{Round_Lng(A.X), Round_Lng(A.Y), Round_Lng(B.X), Round_Lng(B.Y)};
-        if (Seen.Meets(L)) Out_.Add(L, With);
+        const std::optional<Line_Px> L = Line_On_Canvas(A, B);
+        if (L && Seen.Meets(*L)) Out_.Add(*L, With);
     }
 
     static constexpr Double Margin = 8.0;  // more than the width of any pen
@@ -161,6 +160,11 @@ private:
 };
 
 }  // namespace
+
+std::optional<Line_Px> Line_On_Canvas(Pic_Px A, Pic_Px B) {
+    if ((Is_Far(A) || Is_Far(B)) && !Bring_Near(A, B)) return {};
+    return Line_Px{Round_Lng(A.X), Round_Lng(A.Y), Round_Lng(B.X), Round_Lng(B.Y)};
+}
 
 void Objects_Draw(const std::function<std::optional<Pen>(Long Row)>& Pen_Of,
                   Single_Points Singles) {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "ui/canvas/surface.h"
+#include "ui/canvas/view.h"
 
 enum class Single_Points { Left_Out, As_Blocks };
 
@@ -18,3 +19,7 @@ void Objects_Draw(const std::function<std::optional<Pen>(Long Row)>& Pen_Of,
 /// Paints the object in that row of Tab_Obj above what stands on the surface: its segments, or
 /// the block of its single point. Nothing when it has no points. Does not refresh.
 void Object_Paint(Long Row, const Pen& With);
+
+/// A line between two places of the canvas, rounded. Ends too far off for a whole pixel are brought
+/// near along the line; nothing when none of it is near.
+std::optional<Line_Px> Line_On_Canvas(Pic_Px A, Pic_Px B);

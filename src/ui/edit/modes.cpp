@@ -30,6 +30,7 @@ void Take_Mode(const Mode_Row& Row) {
     The_Host().Set_Enabled(Row.Button, false);
     The_Host().Set_Value(Row.Button, 1);
     The_Modes.*Row.Flag = 1;
+    Hint_Show();
     Canvas_Pointer(Pointer_Shape::Cross);
 }
 
@@ -57,6 +58,7 @@ void Mode_Enter(const Mode_Row& Row) {
 void Mode_Clear() {
     The_Modes = {};
     for (const Mode_Row* Row : Mode_Rows) The_Host().Set_Value(Row->Button, 0);
+    Hint_Show();
     Canvas_Pointer(Pointer_Shape::Normal);
 }
 
@@ -96,9 +98,17 @@ void Cmd_Tabul() {
     if (Edit_On != 0 && Row != nullptr && Row->Search != nullptr) Row->Search();
 }
 
+void Hint_Show() {
+    const Mode_Row* Row = Mode_Now();
+    const Wording Hint = Row != nullptr && Row->Hint != nullptr ? Row->Hint() : Wording{};
+    The_Host().Set_Caption("L_Hint", Hint.In(Language));
+}
+
 bool Pic_Key(Key_Event K) {
     const Mode_Row* Row = Mode_Now();
-    return Edit_On != 0 && Row != nullptr && Row->Key != nullptr && Row->Key(K);
+    const bool Used = Edit_On != 0 && Row != nullptr && Row->Key != nullptr && Row->Key(K);
+    if (Used) Hint_Show();
+    return Used;
 }
 
 void Modes_Install() {

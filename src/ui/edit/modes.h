@@ -6,6 +6,7 @@
 
 #include "ui/canvas/edit_state.h"
 #include "ui/form/events.h"
+#include "ui/form/wording.h"
 
 /// What a mode is. Redraw, mouse, keys and tool bar look it up here; what a mode has no use for
 /// stays null.
@@ -29,6 +30,7 @@ struct Mode_Row {
     bool (*Form_Key)(Key_Event) = nullptr;  // without Alt, before the canvas sees it; the same
     void (*Delete)() = nullptr;             // Cmd_Sup_Route_Ou_Pt
     void (*Search)() = nullptr;             // Cmd_Tabul
+    Wording (*Hint)() = nullptr;            // what the next click does
 };
 
 // Each is filled by the file of its mode.
@@ -59,6 +61,9 @@ void Cmd_FSUIPC();
 /// Delete and search, as the mode that is on has them.
 void Cmd_Sup_Route_Ou_Pt();
 void Cmd_Tabul();
+
+/// Tells in L_Hint what the next click does. Called after each act that may change it.
+void Hint_Show();
 
 /// A double click at the mouse's position.
 void Pic_Double_Click();

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/model.h"
+#include "core/model_ops.h"
 #include "ui/canvas/edit_state.h"
 #include "ui/canvas/view.h"
 
@@ -26,12 +27,7 @@ bool Leaves_Its_Texture(const Obj& O, Double DX, Double DY) {
 void Move_Object(Double DX, Double DY) {
     const Obj& O = Tab_Obj[Sel_Obj];
     if (O.Nb_Pts == 0 || Leaves_Its_Texture(O, DX, DY)) return;
-    for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
-        Tab_Pt[P].X += DX;
-        Tab_Pt[P].Y += DY;
-        if (P == O.Last_Pt) break;
-    }
-    Objects_Changed();
+    Obj_Move(Sel_Obj, DX, DY);
     View_Redraw();
 }
 

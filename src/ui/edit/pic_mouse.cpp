@@ -50,6 +50,7 @@ Mouse_Event As_The_Mode_Sees_It(Mouse_Event E) {
 void Pic_Double_Click() {
     const Mode_Row* Row = Mode_Now();
     if (Row != nullptr && Row->Double_Click != nullptr) Row->Double_Click();
+    Hint_Show();
 }
 
 void Pic_Mouse(const Mouse_Event& Told) {
@@ -64,7 +65,8 @@ void Pic_Mouse(const Mouse_Event& Told) {
             return Tell_Mode(&Mode_Row::Move, E);
         case Mouse_Event::Kind::Press:
             Mouse_Click_At(At);
-            return Tell_Mode(&Mode_Row::Press, E);
+            Tell_Mode(&Mode_Row::Press, E);
+            return Hint_Show();
         case Mouse_Event::Kind::Double_Click:
             if (E.Button == Mouse_Left) Pic_Double_Click();
             return;

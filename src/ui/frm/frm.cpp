@@ -70,6 +70,11 @@ constexpr Command Button_Commands[] = {
     {"Cmd_FSUIPC", Cmd_FSUIPC}, {"Cmd_API", Generate_In_View},
     {"Cmd_Help", Cmd_Help},     {"Cmd_Sup_Route_Ou_Pt", Cmd_Sup_Route_Ou_Pt},
     {"Cmd_Tabul", Cmd_Tabul},
+    {"Cmd_New_Route", Cmd_New_Route},
+    {"Cmd_Sel_Route", Cmd_Sel_Route},
+    {"Cmd_Sel_Pt_Route", Cmd_Sel_Pt_Route},
+    {"Cmd_Extr_Pt_Route", Cmd_Extr_Pt_Route},
+    {"Cmd_Ins_Pt_Route", Cmd_Ins_Pt_Route},
 };
 
 void Set_Handlers(Form& F) {
@@ -77,6 +82,7 @@ void Set_Handlers(Form& F) {
     for (const auto& [Name, Run] : Button_Commands)
         F.Handlers(Name).On_Click = [Run = Run] {
             Run();
+            Hint_Show();
             The_Host().Set_Focus("Pic");
         };
     for (const Mode_Row* Row : Mode_Rows)
@@ -169,6 +175,7 @@ void Frm_Remove() {
 
 void Apply_Language() {
     Frm().Set_Language(Language);
+    Hint_Show();
 }
 
 bool Frm_Drop(std::string_view Path) {

@@ -135,6 +135,7 @@ void Add_Canvas(Form& F) {
 
 void Add_Labels(Form& F) {
     for (const Label_Row& L : Read_Outs) F.Add({.Name = L.Name, .Columns = L.Columns});
+    F.Add({.Name = "L_Hint", .Columns = 80});
     for (const Label_Row& L : Progress_Labels) F.Add({.Name = L.Name, .Columns = L.Columns});
     F.Add({.Kind = Control_Kind::Frame,
            .Name = "Fram_Compile",
@@ -208,5 +209,6 @@ void Frm_Add_Controls(Form& F) {
                 Over_Canvas({Frame("Fram_Compile", {"LCompileNom", "LCompile"}),
                              Frame("Fram_Creat_2500", {"LTex2500", Row({"LNbTex", "LPourCent"})})}),
                 Read_Out({"L_MouseBmp", "LLat", "LLon", "LLatDec", "LLonDec", "L_NumCell_Area",
-                          "L_CustomBmp"})}));
+                          "L_CustomBmp"}),
+                Read_Out({"L_Hint"})}));
 }
