@@ -12,6 +12,7 @@ struct Dialog_Flags {
     Int LC_Cancelled = 1;     // Frm_LC
     Int WC_Cancelled = 1;     // Frm_WC
     Int Route_Cancelled = 1;  // Frm_Route
+    Int Ima_Cancelled = 1;    // Frm_Ima
 };
 
 inline Dialog_Flags The_Dialog_Flags;
@@ -21,5 +22,6 @@ inline Int& Excl_Cancelled = The_Dialog_Flags.Excl_Cancelled;
 inline Int& LC_Cancelled = The_Dialog_Flags.LC_Cancelled;
 inline Int& WC_Cancelled = The_Dialog_Flags.WC_Cancelled;
 inline Int& Route_Cancelled = The_Dialog_Flags.Route_Cancelled;
+inline Int& Ima_Cancelled = The_Dialog_Flags.Ima_Cancelled;
 
 inline const bool Dialog_Flags_Are_Reset = At_Reset([] { The_Dialog_Flags = {}; });

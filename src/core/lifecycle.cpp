@@ -114,8 +114,8 @@ void Close_View() {
     Call(The_View.Tiles_Remove);
     Call(The_View.Mode_Leave);
     Call(The_View.View_Clear);
-    for (const char* Label : {"L_MouseBmp", "LLat", "LLon", "LLatDec", "LLonDec", "L_NumCell_Area",
-                              "L_CustomBmp"})
+    for (const char* Label :
+         {"L_MouseBmp", "LLat", "LLon", "LLatDec", "LLonDec", "L_NumCell_Area", "L_CustomBmp"})
         The_Host().Set_Caption(Label, "");
     Disable_Project_Cmds();
     The_Host().Set_Caption("Frm", Program_Title);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <limits>
 #include <utility>
+#include <vector>
 
 #include "core/attr_kinds.h"
 #include "core/messages.h"
@@ -21,6 +22,21 @@ void Chain_Start(Obj& O, Long P) {
     O.First_Pt = P;
     O.Last_Pt = P;
     O.Nb_Pts = 1;
+}
+
+// 0 when every number is taken.
+Int Free_Ima_Num() {
+    constexpr Int Most = std::numeric_limits<Int>::max();
+    std::vector<bool> Taken(std::size_t{Most} + 1);
+    Int Highest = 0;
+    for (const Ima& M : Tab_Ima.Rows()) {
+        Highest = std::max(Highest, M.Num);
+        if (M.Num > 0) Taken[static_cast<std::size_t>(M.Num)] = true;
+    }
+    if (Highest < Most) return static_cast<Int>(Highest + 1);
+    for (Int Num = 1; Num < Most; ++Num)
+        if (!Taken[static_cast<std::size_t>(Num)]) return Num;
+    return 0;
 }
 
 }  // namespace
@@ -183,12 +199,36 @@ Long Lod8_Store(const Lod8& Record) {
 }
 
 Long Ima_Add(Ima Record) {
-    Int Highest = 0;
-    for (const Ima& M : Tab_Ima.Rows()) Highest = std::max(Highest, M.Num);
-    if (Highest == std::numeric_limits<Int>::max()) return 0;
+    const Int Num = Free_Ima_Num();
+    if (Num == 0) return 0;
     Record.Active = 1;
-    Record.Num = static_cast<Int>(Highest + 1);
+    Record.Num = Num;
     return Tab_Ima.Append(std::move(Record));
+}
+
+void Ima_Place(Long I, Double X1, Double Y1, Double X2, Double Y2) {
+    Ima& M = Tab_Ima[I];
+    M.X1 = X1, M.Y1 = Y1, M.X2 = X2, M.Y2 = Y2;
+}
+
+void Ima_Store(Long I, Ima Record) {
+    Record.Num = Tab_Ima[I].Num;
+    Tab_Ima[I] = std::move(Record);
+}
+
+void Ima_Drop(Long I) {
+    Tab_Ima[I].Active = 0;
+}
+
+void Obj_Link(Long I, Int Num) {
+    Attr& A = Tab_Obj[I].Attr;
+    A.Link_Ima = Num;
+    A.LWM_VTP2 = Technique_VTP1;
+    A.VTP1_SpecNor = Vtp1_Special;
+}
+
+void Obj_Unlink(Long I) {
+    Tab_Obj[I].Attr.Link_Ima = 0;
 }
 
 void Ima_Delete(Long I) {

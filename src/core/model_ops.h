@@ -69,8 +69,18 @@ Long Cell_Store(Table<R>& Tab, const R& Record) {
 Long Lod8_Find(Int AreaLon, Int AreaLat);
 Long Lod8_Store(const Lod8& Record);
 
-/// A new texture rectangle, with Active 1 and a Num above all others.
+/// A new texture rectangle, with Active 1 and a Num above all others, deleted ones included; the
+/// lowest that is free once the highest is taken.
 Long Ima_Add(Ima Record);
+/// Moves or sizes texture I, in map pixels.
+void Ima_Place(Long I, Double X1, Double Y1, Double X2, Double Y2);
+/// Texture I becomes Record, but for its Num.
+void Ima_Store(Long I, Ima Record);
+/// Texture I is out of use, and no object is asked whether it was linked to it.
+void Ima_Drop(Long I);
+/// Makes object I a polygon that shows the texture Num, or takes that link away again.
+void Obj_Link(Long I, Int Num);
+void Obj_Unlink(Long I);
 /// Deletes texture I: objects linked to it become plain LWM polygons.
 void Ima_Delete(Long I);
 

@@ -3,6 +3,7 @@
 // It stands below modes and dialogs, since both read it and painting follows it.
 #pragma once
 
+#include "core/host.h"
 #include "core/numbers.h"
 #include "core/resets.h"
 
@@ -41,10 +42,33 @@ struct Route_State {
     Long Last_Obj = 0;  // to be painted plain when another tool is chosen
 };
 
-/// Textures: what is selected. Sel_Ima is a row of Tab_Ima, Ima_Poly one of Tab_Obj.
+/// A rectangle in map pixels.
+struct Rect_Pix {
+    Double Left = 0.0, Top = 0.0, Right = 0.0, Bottom = 0.0;
+    bool operator==(const Rect_Pix&) const = default;
+};
+
+/// Where on a texture's rectangle the mouse is. The first letter is the edge across (H the top, B
+/// the bottom) or II the inside; the second the one along (G the left, D the right).
+enum class Ima_Zones { None, II, HG, BG, GG, HD, BD, DD, HH, BB };
+
+/// What the next left press or Frm_Ima is about.
+enum class Ima_Dialogs { None, Create, Edit };
+
+/// Textures: what is selected, and what is being done to it. Sel_Ima is a row of Tab_Ima,
+/// Ima_Poly one of Tab_Obj.
 struct Ima_State {
+    Int Ima_Pick = 0;       // the next double click chooses a texture,
+    Int Ima_Pick_Poly = 0;  // or, with this one, the polygon to link
     Int Ima_Selected = 0;
     Long Sel_Ima = 0;
+    Ima_Dialogs Ima_Dialog = Ima_Dialogs::None;
+    Int Ima_Hot = 0;  // the mouse is on the selected rectangle
+    Pointer_Shape Ima_Pointer = Pointer_Shape::Cross;
+    Ima_Zones Ima_Zone = Ima_Zones::None;
+    Int Ima_Drag = 0;                             // the rectangle is being dragged,
+    Rect_Pix Drag;                                // to here;
+    Double Drag_Last_X = 0.0, Drag_Last_Y = 0.0;  // where the last step took effect, map pixels
     Int Ima_Poly_Selected = 0;
     Long Ima_Poly = 0;  // the polygon chosen for linking
 };
@@ -80,8 +104,17 @@ inline Long& Pt_Prev = The_Route.Pt_Prev;
 inline Int& Last_Obj_Set = The_Route.Last_Obj_Set;
 inline Long& Last_Obj = The_Route.Last_Obj;
 
+inline Int& Ima_Pick = The_Ima.Ima_Pick;
+inline Int& Ima_Pick_Poly = The_Ima.Ima_Pick_Poly;
 inline Int& Ima_Selected = The_Ima.Ima_Selected;
 inline Long& Sel_Ima = The_Ima.Sel_Ima;
+inline Ima_Dialogs& Ima_Dialog = The_Ima.Ima_Dialog;
+inline Int& Ima_Hot = The_Ima.Ima_Hot;
+inline Pointer_Shape& Ima_Pointer = The_Ima.Ima_Pointer;
+inline Ima_Zones& Ima_Zone = The_Ima.Ima_Zone;
+inline Int& Ima_Drag = The_Ima.Ima_Drag;
+inline Double& Drag_Last_X = The_Ima.Drag_Last_X;
+inline Double& Drag_Last_Y = The_Ima.Drag_Last_Y;
 inline Int& Ima_Poly_Selected = The_Ima.Ima_Poly_Selected;
 inline Long& Ima_Poly = The_Ima.Ima_Poly;
 

@@ -10,6 +10,7 @@ void Forms_Install() {
     Form_Register("Frm_Dir", Make_Frm_Dir);
     Form_Register("Frm_ColourGrid", Make_Frm_ColourGrid);
     Form_Register("Frm_FSUIPC", Make_Frm_FSUIPC);
+    Form_Register("Frm_Ima", Make_Frm_Ima);
     Form_Register("Frm_LBmp", Make_Frm_LBmp);
     Form_Register("Frm_CadBmp", Make_Frm_CadBmp);
     Form_Register("Frm_CenterMap", Make_Frm_CenterMap);

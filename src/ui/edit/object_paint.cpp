@@ -18,14 +18,14 @@ Long Plain_Colour(const Attr& A) {
     return Blue;
 }
 
-Pen Plain_Pen(Long I) {
-    return {.Colour = Plain_Colour(Tab_Obj[I].Attr)};
-}
-
 }  // namespace
 
+Pen Plain_Pen(const Obj& O) {
+    return {.Colour = Plain_Colour(O.Attr)};
+}
+
 void Obj_Paint_Plain(Long I) {
-    Object_Paint(I, Plain_Pen(I));
+    Object_Paint(I, Plain_Pen(Tab_Obj[I]));
     The_Surface().Refresh();
 }
 
@@ -35,8 +35,9 @@ void Obj_Paint_Red(Long I) {
 }
 
 void Obj_Paint_All() {
-    Objects_Draw([](Long I) { return Obj_Selected != 0 && I == Sel_Obj ? Red : Plain_Pen(I); },
-                 Single_Points::As_Blocks);
+    Objects_Draw(
+        [](Long I) { return Obj_Selected != 0 && I == Sel_Obj ? Red : Plain_Pen(Tab_Obj[I]); },
+        Single_Points::As_Blocks);
 }
 
 void Segment_Paint_Laid(Long P) {

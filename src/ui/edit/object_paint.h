@@ -3,6 +3,13 @@
 
 #include "core/numbers.h"
 
+#include "ui/canvas/surface.h"
+
+struct Obj;
+
+/// What an object of that kind is painted with when it is not selected.
+Pen Plain_Pen(const Obj& O);
+
 /// Object I in the colour of its kind, or in red; a small block when it has one point.
 void Obj_Paint_Plain(Long I);
 void Obj_Paint_Red(Long I);

@@ -17,9 +17,11 @@
 #include "gen/driver.h"
 #include "platform/paths.h"
 #include "platform/text1252.h"
+#include "ui/canvas/ima_pictures.h"
 #include "ui/canvas/map_tiles.h"
 #include "ui/canvas/surface.h"
 #include "ui/canvas/view.h"
+#include "ui/edit/ima_tools.h"
 #include "ui/edit/modes.h"
 #include "ui/edit/route_tools.h"
 #include "ui/form/form_list.h"
@@ -63,13 +65,22 @@ constexpr Command Menu_Commands[] = {
 };
 
 constexpr Command Button_Commands[] = {
-    {"Cmd_New", Cmd_New},       {"Cmd_Save", Cmd_Save},
-    {"Cmd_ZPlus", Cmd_ZPlus},   {"Cmd_ZMoins", Cmd_ZMoins},
-    {"Cmd_AffBmp", Cmd_AffBmp}, {"Cmd_AffTexture", Cmd_AffTexture},
-    {"Cmd_Grid", Cmd_Grid},     {"Cmd_ColourGrid", Cmd_ColourGrid},
-    {"Cmd_FSUIPC", Cmd_FSUIPC}, {"Cmd_API", Generate_In_View},
-    {"Cmd_Help", Cmd_Help},     {"Cmd_Sup_Route_Ou_Pt", Cmd_Sup_Route_Ou_Pt},
+    {"Cmd_New", Cmd_New},
+    {"Cmd_Save", Cmd_Save},
+    {"Cmd_ZPlus", Cmd_ZPlus},
+    {"Cmd_ZMoins", Cmd_ZMoins},
+    {"Cmd_AffBmp", Cmd_AffBmp},
+    {"Cmd_AffTexture", Cmd_AffTexture},
+    {"Cmd_Grid", Cmd_Grid},
+    {"Cmd_ColourGrid", Cmd_ColourGrid},
+    {"Cmd_FSUIPC", Cmd_FSUIPC},
+    {"Cmd_API", Generate_In_View},
+    {"Cmd_Help", Cmd_Help},
+    {"Cmd_Sup_Route_Ou_Pt", Cmd_Sup_Route_Ou_Pt},
     {"Cmd_Tabul", Cmd_Tabul},
+    {"Cmd_New_Ima", Cmd_New_Ima},
+    {"Cmd_Sel_Ima", Cmd_Sel_Ima},
+    {"Cmd_Sel_Crb_Ima", Cmd_Sel_Crb_Ima},
     {"Cmd_New_Route", Cmd_New_Route},
     {"Cmd_Sel_Route", Cmd_Sel_Route},
     {"Cmd_Sel_Pt_Route", Cmd_Sel_Pt_Route},
@@ -127,6 +138,9 @@ void Install_View_Calls() {
     The_View.Tiles_Build = Tiles_Build;
     The_View.Tiles_Show = Tiles_Show;
     The_View.Tiles_Remove = Map_Free_Tiles;
+    The_View.Ima_Load = Ima_Load;
+    The_View.Ima_Unload = Ima_Unload;
+    The_View.Ima_Clear = Ima_Leave;
 }
 
 bool Is_Command(const Control& C) {

@@ -45,6 +45,7 @@ constexpr std::array Alt_Keys{
 void Double_Click_At_Mouse() {
     Click_X = Move_X;
     Click_Y = Move_Y;
+    Click_Raw = Move_Raw;
     Pic_Double_Click();
 }
 
