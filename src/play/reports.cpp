@@ -124,6 +124,10 @@ const char* Pointer_Text(Pointer_Shape Shape) {
 void Player::Show(const Act& A) {
     const Form& F = *Front().Shown;
     for (const std::string& Name : A.Words) {
+        if (Name == F.Name()) {
+            Print("show " + Name + " text=" + Quoted(F.Title()) + " value=0 enabled=1 visible=1");
+            continue;
+        }
         if (!F.Has(Name)) return Fail("there is no " + Name + " of " + F.Name());
         const Control& C = F[Name];
         Print("show " + Name + " text=" + Quoted(Text_Shown(C)) +

@@ -19,8 +19,11 @@ std::string Line_At(std::string_view Text, std::size_t Pos) {
 }  // namespace
 
 testing::AssertionResult Equals_Golden(std::string_view Name, std::string_view Text) {
-    const std::filesystem::path File =
-        std::filesystem::path(TEST_DATA_DIR) / "golden" / std::string(Name);
+    return Equals_File(std::filesystem::path(TEST_DATA_DIR) / "golden" / std::string(Name), Text);
+}
+
+testing::AssertionResult Equals_File(const std::filesystem::path& File, std::string_view Text) {
+    const std::string Name = File.filename().string();
     if (std::getenv("TERRAFOLD_ACCEPT") != nullptr) {
         std::filesystem::create_directories(File.parent_path());
         std::ofstream(File, std::ios::binary) << Text;

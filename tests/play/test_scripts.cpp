@@ -1,0 +1,108 @@
+// tests/play/test_scripts.cpp - every script of tests/scripts is played and must print what stands
+// beside it.
+//
+// NAME.txt must print NAME.expected; NAME.2.txt is played after it, in the same home, as the next
+// run of the program. Projects that they write as outNAME.LWM are compared with NAME.outNAME.LWM,
+// but for their first two lines, which hold date and path. @DIR@ and @WDIR@ in scripts, projects
+// and outputs are the test's directory in the system's form and in the program's. It holds the home
+// App, small.LWM and other.LWM with their maps, and a copy of tests/scripts/data. TERRAFOLD_ACCEPT
+// set in the environment takes the output over; read the diff before you commit.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+#include "platform/text1252.h"
+#include "play/play.h"
+#include "support/golden.h"
+#include "support/program_test.h"
+#include "ui_support/small_project.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path Folder = fs::path(TEST_SOURCE_DIR) / "tests" / "scripts";
+
+std::string Bytes_Of(const fs::path& File) {
+    std::ifstream In(File, std::ios::binary);
+    return {std::istreambuf_iterator<char>(In), {}};
+}
+
+std::string Replaced(std::string Text, std::string_view Old, std::string_view New) {
+    for (std::size_t At = 0; (At = Text.find(Old, At)) != std::string::npos; At += New.size())
+        Text.replace(At, Old.size(), New);
+    return Text;
+}
+
+std::vector<std::string> Script_Names() {
+    std::vector<std::string> Names;
+    for (const auto& Entry : fs::directory_iterator(Folder)) {
+        const std::string Stem = Entry.path().stem().string();
+        if (Entry.path().extension() == ".txt" && Stem.find('.') == std::string::npos)
+            Names.push_back(Stem);
+    }
+    std::sort(Names.begin(), Names.end());
+    return Names;
+}
+
+class Scripts : public Program_Test, public testing::WithParamInterface<std::string> {
+protected:
+    void Lay_Out() {
+        for (const auto& Entry : fs::directory_iterator(fs::path(TEST_SOURCE_DIR) / "resource"))
+            if (Entry.is_regular_file())
+                fs::copy(Entry.path(), Dir.Native("App/Resource") / Entry.path().filename());
+        Write_Small_Project(Dir, "small");
+        Write_Small_Project(Dir, "other");
+        Dir.Write("App/Resource/Terrafold.Ini",
+                  "[Terrafold]\r\nLanguage=US\r\nDerApt1=" + Dir.Path("gone.LWM") + "\r\n");
+        for (const auto& Entry : fs::directory_iterator(Folder / "data"))
+            Dir.Write(Entry.path().filename().string(), Filled(Bytes_Of(Entry.path())));
+    }
+    std::string Filled(std::string Text) const {
+        return Replaced(Replaced(std::move(Text), "@WDIR@", Dir.Path()), "@DIR@",
+                        Dir.Native().generic_string());
+    }
+    // What a script prints, and last how it ended if it did not go well.
+    std::string Output_Of(const fs::path& File) {
+        std::string Out;
+        const Play_End End = Play(Script_Read(Filled(Bytes_Of(File))), {.App_Dir = App_Dir_},
+                                  [&](std::string_view Line) { Out += std::string(Line) + "\n"; });
+        if (End.Status != 0)
+            Out += "exit " + std::to_string(End.Status) + " line " + std::to_string(End.Line) +
+                   ": " + End.Reason + "\n";
+        Out = Replaced(Replaced(Out, Dir.Path(), "@WDIR@"), Upper_1252(Dir.Path()), "@WDIR@");
+        return To_Utf8(Replaced(Out, Dir.Native().generic_string(), "@DIR@"));
+    }
+    void Play_And_Compare(const std::string& Name) {
+        EXPECT_TRUE(
+            Equals_File(Folder / (Name + ".expected"), Output_Of(Folder / (Name + ".txt"))));
+    }
+    // The projects that were written, in the form that scripts have them in.
+    void Compare_Projects(const std::string& Name) {
+        for (const auto& Entry : fs::directory_iterator(Dir.Native())) {
+            const std::string File = Entry.path().filename().string();
+            if (!File.starts_with("out")) continue;
+            const std::string Text = Replaced(Dir.Read(File), Dir.Path(), "@WDIR@");
+            EXPECT_TRUE(
+                Equals_File(Folder / (Name + "." + File), Text.substr(Text.find("\r\n0010") + 2)));
+        }
+    }
+
+    const std::string App_Dir_ = App_Path;
+};
+
+TEST_P(Scripts, PrintWhatStandsBesideThem) {
+    Lay_Out();
+    Play_And_Compare(GetParam());
+    if (fs::exists(Folder / (GetParam() + ".2.txt"))) Play_And_Compare(GetParam() + ".2");
+    Compare_Projects(GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Scripts, testing::ValuesIn(Script_Names()),
+                         [](const auto& Info) { return Info.param; });
+
+}  // namespace
