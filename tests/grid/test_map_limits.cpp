@@ -107,6 +107,19 @@ TEST(Map_Limits, TheWorkGridHoldsAnyMapAndServes) {
                    Width - 1 - static_cast<Long>(Random() % 20),
                    Height - 1 - static_cast<Long>(Random() % 20));
         Compute_Map_Limits(Cal, Width, Height);
+        // All limits lie on the line between pixels and degrees.
+        const Geo First = Pixel_To_LatLon({0.0, 0.0}, Cal);
+        const Geo Last = Pixel_To_LatLon({Width - 1.0, Height - 1.0}, Cal);
+        ASSERT_NEAR(Cal.LatMapNW, First.Lat, 1e-11);
+        ASSERT_NEAR(Cal.LonMapNW, First.Lon, 1e-11);
+        ASSERT_NEAR(Cal.LatMapSE, Last.Lat, 1e-11);
+        ASSERT_NEAR(Cal.LonMapSE, Last.Lon, 1e-11);
+        const Pix Grid_First = LatLon_To_Pixel({Cal.LatGridNW, Cal.LonGridNW}, Cal);
+        const Pix Grid_Last = LatLon_To_Pixel({Cal.LatGridSE, Cal.LonGridSE}, Cal);
+        ASSERT_NEAR(Cal.XGridNW, Grid_First.X, 1e-5);
+        ASSERT_NEAR(Cal.YGridNW, Grid_First.Y, 1e-5);
+        ASSERT_NEAR(Cal.XGridSE, Grid_Last.X, 1e-5);
+        ASSERT_NEAR(Cal.YGridSE, Grid_Last.Y, 1e-5);
         ASSERT_LE(Cal.XGridNW, 0.0);
         ASSERT_LE(Cal.YGridNW, 0.0);
         ASSERT_GE(Cal.XGridSE, Width - 1.0);
