@@ -59,6 +59,7 @@ TEST(Safe_Save, IsOnTheDiskBeforeItTakesTheName) {
         if (Step == Save_Step::Rename) Before_Rename = The_Syncs;
     };
     EXPECT_TRUE(Save(Dir.Path("p.LWM")));
+    On_Save_Step = nullptr;
     ASSERT_EQ(Before_Rename.size(), 1U);
     EXPECT_EQ(Before_Rename[0].File, Of(Dir.Native("p.LWM")).st_ino);
     EXPECT_EQ(Before_Rename[0].Size, static_cast<off_t>(New_Text.size())) << "the whole of it";
@@ -69,7 +70,6 @@ TEST(Safe_Save, IsOnTheDiskBeforeItTakesTheName) {
     EXPECT_FALSE(Save(Dir.Path("p.LWM")));
     Sync_Fails = false;
     EXPECT_TRUE(Dir.Read("p.LWM") == Old_Text);
-    On_Save_Step = nullptr;
 }
 
 TEST(Safe_Save, WithoutRoomTheOldFileStays) {
