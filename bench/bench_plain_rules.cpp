@@ -7,7 +7,7 @@
 
 #include "drawings.h"
 #include "measure.h"
-#include "reference/polygons.h"
+#include "reference/plain.h"
 #include "shapes/poly/poly_prepare.h"
 
 namespace {
@@ -28,16 +28,18 @@ int main(int Count, char** Words) {
         return 1;
     }
     drawings::Into_Model(*Drawing);
-    const double Plain = Time_Of([] {
-        reference::Poly_Prepare(0);
-        reference::Poly_To_Cells(0);
+    reference::Polys List;
+    const double Plain = Time_Of([&] {
+        Poly_Collect(Mode_LWM);
+        List = reference::Work_Lists();
+        Long Rounds = 0;
+        if (!Self_Cross(List, true) && Nest(List)) List = reference::Split(List, 60, Rounds);
+        Cut(List, Grid_Lines_Of(Polys_By_Cell));
     });
-    const double Fast = Time_Of([] {
-        Poly_Prepare(0);
-        Poly_To_Cells(0);
-    });
-    const bool Same = Nb_CPoly == reference::Tab_CPoly.Nb() && Nb_CPt == reference::Tab_CPt.Nb();
+    Work_Lists_Reset();
+    const double Fast = Time_Of([] { Poly_Prepare(Mode_LWM); });
+    const bool Same = reference::Work_Lists().size() == List.size();
     std::printf("%s  plain %.3f s  fast %.4f s  %s\n", Words[1], Plain, Fast,
-                Same ? "same number of pieces and points" : "DIFFERENT RESULTS");
+                Same ? "same number of pieces" : "DIFFERENT RESULTS");
     return Same ? 0 : 1;
 }

@@ -23,11 +23,17 @@ protected:
     Gen_Test() {
         Gen_Install();
         Projet_Open = 1;
-        NameBgl = Dir.Path("Out.bgl");
-        NameBglExcl = Dir.Path("Excl.bgl");
+        Set_Outputs();
         Host_Of_Test.Tool = [](std::string_view) { return true; };
     }
     ~Gen_Test() override { Work_Lists_Reset(); }
+
+    void Set_Outputs() const {
+        NameBgl = Dir.Path("Out.bgl");
+        NameBglExcl = Dir.Path("Excl.bgl");
+        Dir_LCWC = Dir.Path("Classes");
+        Dir_Raw = Dir.Path("Raw");
+    }
 
     /// The text of a source in App_Path.
     std::string Source(const std::string& Name) const { return Dir.Read("App/" + Name); }

@@ -10,11 +10,12 @@
 #include "geometry/box.h"
 #include "geometry/segments.h"
 #include "reference/compare.h"
-#include "reference/shapes.h"
+#include "shapes.h"
 #include "shapes/coast/coast_close.h"
 #include "shapes/coast/coast_cut.h"
 #include "shapes/coast/coast_polys.h"
 #include "shapes/coast/coast_to_cells.h"
+#include "shapes/poly/poly_collect.h"
 #include "support/golden.h"
 #include "support/rows.h"
 
@@ -30,10 +31,14 @@ constexpr Double Cell_Px = 255, Map_Px = Side_Cells * Cell_Px;
 class Coast_Test : public Gen_Test {
 protected:
     Coast_Test() {
+        Make_Small_Map();
+        Coast.SurfShore = Surf_Coast;
+    }
+
+    static void Make_Small_Map() {
         Make_Map(Side_Cells);
         Map_Width = Map_Height = XPtSE;
         Compute_Map_Limits(The_Calibration, Map_Width, Map_Height);
-        Coast.SurfShore = Surf_Coast;
     }
 
     void Draw_Coast(const Outline& Line) const { Draw(Line, Coast); }
@@ -344,76 +349,21 @@ TEST_F(Coast_Test, SurfacesOfWholeCellsAreLeftToFills) {
     }
 }
 
-// A simple line that is no graph: part of a ring, from anywhere on it.
-Outline Part_Of_Ring(Random& R) {
-    const shapes::Frame F = shapes::Map_Frame();
-    Outline O;
-    switch (R.Whole(0, 4)) {
-        case 0:
-            O = shapes::Fractal_Ring(R, F, R.Whole(8, 90));
-            break;
-        case 1:
-            O = shapes::Comb(R, F, R.Whole(2, 12));
-            break;
-        case 2:
-            O = shapes::Star(R, F, R.Whole(3, 12));
-            break;
-        case 3:
-            O = shapes::Spiral(F, R.Whole(10, 40));
-            break;
-        default:
-            // Points that share rows and columns with the grid and one another.
-            O = shapes::Tangle(R, F, R.Whole(5, 30), R.Chance(0.5) ? 0.0 : 32.0);
-    }
-    const auto Some_Place = [&] { return R.Whole(0, static_cast<Long>(O.size()) - 1); };
-    std::rotate(O.begin(), O.begin() + Some_Place(), O.end());
-    if (R.Chance(0.5)) O.resize(std::max<std::size_t>(2, static_cast<std::size_t>(Some_Place())));
-    return O;
-}
-
-// From side to side of the map and some way beyond, never turning back.
-Outline Across(Random& R) {
-    const shapes::Frame F = shapes::Map_Frame();
-    const Double Width = F.High.X - F.Low.X, Height = F.High.Y - F.Low.Y;
-    const Long Nb = R.Whole(2, 60);
-    const bool Level = R.Chance(0.5);
-    const Double Middle = R.Between(0.1, 0.9), Waver = R.Chance(0.5) ? 0.02 : 0.2;
-    Outline O;
-    for (Long I = 0; I <= Nb; ++I) {
-        const Double Along = -0.3 + 1.6 * I / Nb, Off = Middle + R.Between(-Waver, Waver);
-        O.push_back(
-            {F.Low.X + Width * (Level ? Along : Off), F.Low.Y + Height * (Level ? Off : Along)});
-    }
-    return O;
-}
-
-// Strides from line to line of a round map's grid, so that ends lie on edges and the line runs
-// along them.
-Outline Stairs(Random& R) {
-    Outline O;
-    Pix P{128.0 * R.Whole(0, 2), 128.0 * R.Whole(0, 8)};
-    for (Long I = R.Whole(2, 12); I > 0; --I) {
-        O.push_back(P);
-        (R.Chance(0.5) ? P.X : P.Y) += 64.0 * R.Whole(0, 3);
-        if (R.Chance(0.3)) P.Y -= 64.0 * R.Whole(0, 2);
-    }
-    return O;
-}
-
+// Open outlines of all kinds, or lines across the map, some with points on the grid.
 void Draw_Coasts(std::uint64_t Seed) {
     Random R(Seed);
-    Model_Reset();
-    shapes::Make_Map(R, R.Whole(1, 8), 0, R.Chance(0.5));
-    for (Long I = R.Chance(0.7) ? 1 : R.Whole(2, 4); I > 0; --I) {
-        const Long Kind = R.Whole(0, 9);
-        Outline O = Kind < 5 ? Part_Of_Ring(R) : Kind < 8 ? Across(R) : Stairs(R);
-        if (R.Chance(0.3)) O = shapes::Snapped_To_Grid(R, O, 0);
-        if (R.Chance(0.2)) O = shapes::With_Points_In_Line(R, O);
-        if (R.Chance(0.2)) O = shapes::With_Repeats(R, O);
-        if (R.Chance(0.5)) std::reverse(O.begin(), O.end());
-        Attr& A = Tab_Obj[shapes::Add_Polygon(O)].Attr;
-        A.SurfShore = R.Chance(0.95) ? 3 : 2;
-        A.LandOnRight = static_cast<Int>(R.Whole(0, 1));
+    if (Seed % 2 == 0) {
+        shapes::Make_Project(Seed / 2, static_cast<shapes::Kind>(Seed / 2 % shapes::Nb_Kind));
+    } else {
+        const Double From = R.Between(0, 4), To = R.Between(0, 4);
+        Outline O = Wavering(R, From, To, R.Whole(1, 60));
+        if (Seed % 5 == 0) O = shapes::Snapped_To_Grid(R, O, Mode_LWM);
+        if (Seed % 7 == 0) O.resize(O.size() - 2);
+        shapes::Add_Polygon(Seed % 3 == 0 ? shapes::With_Repeats(R, O) : O);
+    }
+    for (Obj& O : Tab_Obj.Rows()) {
+        O.Attr.SurfShore = Surf_Coast;
+        O.Attr.LandOnRight = static_cast<Int>(R.Whole(0, 1));
     }
 }
 
@@ -421,6 +371,8 @@ void Draw_Coasts(std::uint64_t Seed) {
 TEST_F(Coast_Test, RandomCoastsGiveWhatWasAccepted) {
     std::string Text;
     for (std::uint64_t Seed = 1; Seed <= 400; ++Seed) {
+        Make_Small_Map();
+        Init_Tables();
         Draw_Coasts(Seed);
         Host_Of_Test.Boxes.clear();
         Coast_Generate();

@@ -7,8 +7,6 @@
 #include <limits>
 
 #include "gen/class_lists.h"
-#include "gen/emit_lines.h"
-#include "gen/lwm_text.h"
 #include "gen/night_offset.h"
 #include "gen/own_lines.h"
 #include "gen/source_frame.h"
@@ -54,6 +52,12 @@ TEST_F(Parts, AsInTheRows) {
           [](const Row_Cells& C) {
               const auto P = Places(C[0]);
               return Text_Of(Night_Mitre(P[0], P[1], P[2], P[3]));
+          }},
+         {"Night_Offset",
+          [](const Row_Cells& C) {
+              const auto P = Places(C[0]);
+              const Lane_Pt L = Night_Offset(P[0], P[1], Cell_Number(C[1]), C[2] == "end");
+              return Text_Of(L.Left) + " " + Text_Of(L.Right);
           }},
          {"Lane_Path",
           [](const Row_Cells& C) {
@@ -103,58 +107,6 @@ TEST_F(Parts, AsInTheRows) {
                   Text += std::to_string(E.Class) + " " + E.Text + ";";
               return Text;
           }}});
-}
-
-TEST_F(Parts, LeftIsLeftForEveryHeading) {
-    const Metres A{30, -20};
-    for (Int Heading = 0; Heading < 360; Heading += 15) {
-        const Double Turn = Heading * std::numbers::pi / 180;
-        const Metres B{A.X + 50 * std::sin(Turn), A.Y + 50 * std::cos(Turn)};
-        for (const bool At_End : {false, true}) {
-            const Metres C = At_End ? B : A;
-            const Lane_Pt P = Night_Offset(A, B, 8, At_End);
-            const Double Side = (B.X - A.X) * (P.Left.Y - A.Y) - (B.Y - A.Y) * (P.Left.X - A.X);
-            EXPECT_NEAR(Side, 50 * 8, 1e-6) << Heading;
-            EXPECT_NEAR(std::hypot(P.Left.X - C.X, P.Left.Y - C.Y), 8, 1e-9) << Heading;
-            EXPECT_NEAR((P.Left.X + P.Right.X) / 2, C.X, 1e-9) << Heading;
-            EXPECT_NEAR((P.Left.Y + P.Right.Y) / 2, C.Y, 1e-9) << Heading;
-        }
-    }
-    EXPECT_EQ(Night_Offset({0, 0}, {0.009, 50}, 4, true).Left, (Metres{-4, 50})) << "as upright";
-    EXPECT_EQ(Night_Offset({0, 0}, {-50, 0.009}, 4, true).Left, (Metres{-50, -4})) << "as level";
-    EXPECT_NE(Night_Offset({0, 0}, {0.011, 50}, 4, true).Left.Y, 50);
-    EXPECT_EQ(Night_Offset({7, 7}, {7.001, 7.001}, 4, true).Left, (Metres{3, 7})) << "no length";
-}
-
-// A cut end overlaps the next piece by one unit, past the edge of its Area; nothing else does.
-TEST_F(Parts, OnlyCutEndsPassTheEdgeOfTheirArea) {
-    Make_Map(64);
-    std::uint64_t State = 5;
-    const auto Next = [&] {
-        return static_cast<Double>((State = State * 25214903917 + 11) >> 17 & 0xFFFFFF);
-    };
-    for (int I = 0; I < 60; ++I) {
-        std::vector<Pix> O;
-        for (int N = 2 + I % 8; N > 0; --N)
-            O.push_back({Next() / 0xFFFFFF * 17320 - 500, Next() / 0xFFFFFF * 17320 - 500});
-        Attr A;
-        A.SurfShore = Surf_Line;
-        A.Effil_Deb = A.Effil_Fin = static_cast<Int>(I % 2);
-        Draw(O, A);
-    }
-    ShoreLines_Generate();
-    const std::string Text = Source("Terrafold$_Lines.ASM");
-    Long Inside = 0, Beyond = 0;
-    for (std::size_t At = 0; (At = Text.find("VTPWidePoint ", At)) != std::string::npos; ++At) {
-        const std::vector<double> V =
-            Cell_Numbers(Text.substr(At + 13, Text.find('\r', At) - At - 13));
-        for (const double Loc : {V[0], V[2]}) {
-            EXPECT_TRUE(4079 <= Loc && Loc <= 12241) << Loc;
-            ++(Loc == 4079 || Loc == 12241 ? Beyond : Inside);
-        }
-    }
-    EXPECT_GT(Inside, 500);
-    EXPECT_GT(Beyond, 100);
 }
 
 std::string Resource(const std::string& Name) {

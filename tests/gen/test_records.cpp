@@ -10,6 +10,7 @@
 //     area LON LAT COL ROW FIELD=VALUE ...    excl LON LAT COL ROW CLASS ...    lod8 LON LAT ATTRIB
 //     lc|wc LON LAT COL ROW CLASS  sample X Y ALTITUDE    samples N X Y    texture X1 Y1 X2 Y2
 //     pieces N POINTS LON LAT COL ROW    finished pieces of so many points
+//     project PATH                 opens a project of the source tree
 //     set NAME VALUE               a scalar of the project
 //     file NAME TEXT               a file, ~ for a line's end; raw NAME CLASS a raster
 //     spoil                        the calibration points change places
@@ -22,6 +23,7 @@
 #include <sstream>
 #include <variant>
 
+#include "core/lifecycle.h"
 #include "gen/emit_classes.h"
 #include "gen/emit_excl.h"
 #include "gen/emit_lines.h"
@@ -30,6 +32,7 @@
 #include "gen/emit_remesh.h"
 #include "gen/emit_vtp2_poly.h"
 #include "gen_test.h"
+#include "platform/paths.h"
 #include "support/golden.h"
 #include "support/rows.h"
 
@@ -84,8 +87,7 @@ protected:
         };
         for (const char* Name : {"Classes", "Raw"})
             std::filesystem::create_directory(Dir.Native(Name));
-        Dir_LCWC = Dir.Path("Classes");
-        Dir_Raw = Dir.Path("Raw");
+        Set_Outputs();
         std::filesystem::copy_file(TEST_SOURCE_DIR "/resource/OwnLines4.txt",
                                    Dir.Native("App/Resource/OwnLines4.txt"));
     }
@@ -269,6 +271,10 @@ void Records::Do(const std::string& Line) {
     } else if (Word == "missing") {
         Missing_.clear();
         In_ >> Missing_;
+    } else if (Word == "project") {
+        In_ >> Name;
+        ASSERT_TRUE(Load_Project(Program_Path(TEST_SOURCE_DIR "/" + Name).value()));
+        Set_Outputs();
     } else if (Word == "spoil") {
         std::swap(XPtNW, XPtSE);
     } else if (Word == "clear") {

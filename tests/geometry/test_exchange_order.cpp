@@ -5,7 +5,7 @@
 
 #include "geometry/exchange_order.h"
 #include "reference/plain.h"
-#include "reference/shapes.h"
+#include "shapes.h"
 
 namespace {
 

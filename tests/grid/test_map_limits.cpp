@@ -1,11 +1,14 @@
 // tests/grid/test_map_limits.cpp - the limits of the map and of the work grid.
 #include "grid/map_limits.h"
 
-#include <limits>
+#include <cmath>
+#include <map>
 #include <random>
 
+#include "grid/grid_lines.h"
 #include "grid/terrain_grid.h"
 #include "support/program_test.h"
+#include "support/rows.h"
 
 namespace {
 
@@ -22,76 +25,52 @@ Calibration Points(Geo NW, Geo SE, Long X_NW, Long Y_NW, Long X_SE, Long Y_SE) {
     return Cal;
 }
 
-// Corner points of a map whose image has 1001 columns and 801 rows.
-Calibration Corner_Points(Geo NW, Geo SE) {
-    return Points(NW, SE, 0, 0, 1000, 800);
-}
 Calibration Limits_Of(Geo NW, Geo SE) {
-    Calibration Cal = Corner_Points(NW, SE);
+    Calibration Cal = Points(NW, SE, 0, 0, 1000, 800);
     Compute_Map_Limits(Cal, 1001, 801);
     return Cal;
 }
 
-Cell_Pos Map_NW(const Calibration& C) {
-    return {C.AreaLonMapNW, C.AreaLatMapNW, C.CellLonMapNW, C.CellLatMapNW};
-}
-Cell_Pos Map_SE(const Calibration& C) {
-    return {C.AreaLonMapSE, C.AreaLatMapSE, C.CellLonMapSE, C.CellLatMapSE};
-}
-Cell_Pos Grid_NW(const Calibration& C) {
-    return {C.AreaLonGridNW, C.AreaLatGridNW, C.CellLonGridNW, C.CellLatGridNW};
-}
-Cell_Pos Grid_SE(const Calibration& C) {
-    return {C.AreaLonGridSE, C.AreaLatGridSE, C.CellLonGridSE, C.CellLatGridSE};
-}
-
-// Values of a saved project, which keeps 15 digits.
-TEST(Map_Limits, OfPointsInsideTheMap) {
-    Calibration Cal = Points({-11.21438091966, 67.4655307699}, {-11.27516933541, 67.57795903309},
-                             122, 92, 777, 614);
-    Compute_Map_Limits(Cal, 853, 754);
-    EXPECT_NEAR(Cal.LatMapNW, -11.2036672525163, 1e-12);
-    EXPECT_NEAR(Cal.LonMapNW, 67.4445899330921, 1e-12);
-    EXPECT_NEAR(Cal.LatMapSE, -11.2913562890293, 1e-12);
-    EXPECT_NEAR(Cal.LonMapSE, 67.5908324983408, 1e-12);
-    EXPECT_EQ(Map_NW(Cal), (Cell_Pos{527, 287, 28, 27}));
-    EXPECT_EQ(Map_SE(Cal), (Cell_Pos{528, 288, 6, 3}));
-    EXPECT_EQ(Grid_NW(Cal), (Cell_Pos{527, 287, 27, 26}));
-    EXPECT_EQ(Grid_SE(Cal), (Cell_Pos{528, 288, 7, 4}));
-    EXPECT_EQ(Cal.LatGridNW, -11.18408203125);
-    EXPECT_EQ(Cal.LonGridNW, 67.4267578125);
-    EXPECT_EQ(Cal.LatGridSE, -11.304931640625);
-    EXPECT_EQ(Cal.LonGridSE, 67.6171875);
-    EXPECT_NEAR(Cal.XGridNW, -103.888814577523, 1e-9);
-    EXPECT_NEAR(Cal.YGridNW, -168.181476271159, 1e-9);
-    EXPECT_NEAR(Cal.XGridSE, 1005.54258437339, 1e-9);
-    EXPECT_NEAR(Cal.YGridSE, 869.573749217666, 1e-9);
+// The two points in degrees and in pixels, and the size of the map; then the Cells of its corners
+// and of the work grid's, and that grid in degrees and in pixels.
+std::string Limits(const Row_Cells& C) {
+    const std::vector<double> D = Cell_Numbers(C[0]), X = Cell_Numbers(C[1]);
+    const auto L = [&](std::size_t I) { return static_cast<Long>(X[I]); };
+    Calibration Cal = Points({D[0], D[1]}, {D[2], D[3]}, L(0), L(1), L(2), L(3));
+    Compute_Map_Limits(Cal, L(4), L(5));
+    EXPECT_EQ(Cal.XPtSE, L(2)) << "the points stay";
+    std::string Text = Calibration_Can_Serve(Cal) ? "" : "no ";
+    for (const Double V :
+         {Cal.LatMapNW, Cal.LonMapNW, Cal.LatMapSE, Cal.LonMapSE, Cal.LatGridNW, Cal.LonGridNW,
+          Cal.LatGridSE, Cal.LonGridSE, Cal.XGridNW, Cal.YGridNW, Cal.XGridSE, Cal.YGridSE})
+        Text += Number_Cell(std::round(V * 1e9) / 1e9) + " ";
+    for (const Int V : {Cal.AreaLonMapNW, Cal.AreaLatMapNW, Cal.CellLonMapNW, Cal.CellLatMapNW,
+                        Cal.AreaLonMapSE, Cal.AreaLatMapSE, Cal.CellLonMapSE, Cal.CellLatMapSE,
+                        Cal.AreaLonGridNW, Cal.AreaLatGridNW, Cal.CellLonGridNW, Cal.CellLatGridNW,
+                        Cal.AreaLonGridSE, Cal.AreaLatGridSE, Cal.CellLonGridSE, Cal.CellLatGridSE})
+        Text += std::to_string(V) + ",";
+    return Text;
 }
 
-TEST(Map_Limits, TheMarginIsOneCellAndPassesIntoTheNextArea) {
-    const Double Near = 0.001;
-    const Calibration Cal = Limits_Of({45.0 - Near, Near},  // just inside the first Cell of an Area
-                                      {44.6484375 + Near, 0.46875 - Near});  // and inside its last
-    EXPECT_EQ(Cal.LatMapNW, Cal.LatPtNW) << "corner points are the corners";
-    EXPECT_EQ(Cal.LonMapNW, Cal.LonPtNW);
-    EXPECT_DOUBLE_EQ(Cal.LatMapSE, Cal.LatPtSE);
-    EXPECT_EQ(Map_NW(Cal), (Cell_Pos{384, 128, 0, 0}));
-    EXPECT_EQ(Map_SE(Cal), (Cell_Pos{384, 128, 31, 31}));
-    EXPECT_EQ(Grid_NW(Cal), (Cell_Pos{383, 127, 31, 31}));
-    EXPECT_EQ(Grid_SE(Cal), (Cell_Pos{385, 129, 0, 0}));
-    EXPECT_EQ(Cal.LatGridNW, 45.0 + Cell_StepLat);
-    EXPECT_EQ(Cal.LonGridSE, 0.46875 + Cell_StepLon);
+// First, second and last line each way, how many there are, and the tolerances.
+std::string Lines(const Row_Cells& C) {
+    const std::map<std::string, Grid_Walk> Walks{{"polygons by area", Polys_By_Area},
+                                                 {"polygons by cell", Polys_By_Cell},
+                                                 {"lines by area", Lines_By_Area},
+                                                 {"coasts by cell", Coasts_By_Cell},
+                                                 {"lights", Lines_By_Half_Lod10}};
+    The_Calibration = Limits_Of({45.3, 10.1}, {44.1, 11.2});
+    const Grid_Lines G = Grid_Lines_Of(Walks.at(C[0]));
+    std::string Text;
+    for (const auto& [L, Tol] : {std::pair(G.X, G.TolX), std::pair(G.Y, G.TolY)})
+        Text += std::to_string(L.size()) + " from " + Number_Cell(L[0]) + ", " + Number_Cell(L[1]) +
+                " to " + Number_Cell(L.back()) + " within " + Number_Cell(Tol) + "; ";
+    return Text.substr(0, Text.size() - 2);
 }
 
-TEST(Map_Limits, NoMarginBeyondTheGlobe) {
-    const Calibration Cal = Limits_Of({89.999, -179.999}, {-89.999, 179.999});
-    EXPECT_EQ(Grid_NW(Cal), (Cell_Pos{0, 0, 0, 0}));
-    EXPECT_EQ(Grid_SE(Cal), (Cell_Pos{767, 511, 31, 31}));
-    EXPECT_EQ(Cal.LatGridNW, 90.0);
-    EXPECT_EQ(Cal.LonGridNW, -180.0);
-    EXPECT_EQ(Cal.LatGridSE, -90.0);
-    EXPECT_EQ(Cal.LonGridSE, 180.0);
-    EXPECT_TRUE(Calibration_Can_Serve(Cal));
+TEST(Map_Limits, AsInTheRows) {
+    Expect_Rows("map_limits", {{"Limits", Limits}, {"Lines", Lines}});
+    The_Calibration = {};
 }
 
 TEST(Map_Limits, TheWorkGridHoldsAnyMapAndServes) {
@@ -128,45 +107,16 @@ TEST(Map_Limits, TheWorkGridHoldsAnyMapAndServes) {
     }
 }
 
-TEST(Map_Limits, PointsThatCannotServeHaveNone) {
-    const Geo NW{45.0, 10.0}, SE{44.0, 11.0};
-    const Calibration All[] = {
-        Points(NW, SE, 5, 5, 5, 90),           // one column
-        Points(NW, SE, 5, 5, 90, 5),           // one row
-        Points(NW, SE, -9, -9, 0, 90),         // south-east point in column 0
-        Points(NW, SE, -9, -9, 90, 0),         // and in row 0
-        Points(NW, {44.0, 10.0}, 0, 0, 9, 9),  // one longitude
-        Points(NW, {45.0, 11.0}, 0, 0, 9, 9),  // one latitude
-        Points({}, {5e-324, 5e-324}, 0, 0, 9, 9),
-        Calibration{},
-    };
-    for (const Calibration& Given : All) {
-        Calibration Cal = Given;
-        Compute_Map_Limits(Cal, 100, 100);
-        EXPECT_EQ(Cal.XPtSE, Given.XPtSE) << "the points stay";
-        EXPECT_EQ(Cal.LatPtNW, Given.LatPtNW);
-        EXPECT_TRUE(Cal.LatMapNW == 0.0 && Cal.LonMapSE == 0.0 && Cal.XGridNW == 0.0 &&
-                    Cal.YGridSE == 0.0 && Cal.LatGridNW == 0.0);
-        EXPECT_EQ(Grid_SE(Cal), Cell_Pos{});
-        EXPECT_FALSE(Calibration_Can_Serve(Cal));
-    }
-}
-
 TEST(Map_Limits, MapDegreesGivenBeforehandAreKept) {
-    Calibration Cal = Corner_Points({45.0, 10.0}, {44.0, 11.0});
-    Cal.LatMapNW = 45.5;
-    Cal.LonMapNW = 10.0;
-    Cal.LatMapSE = 44.0;
-    Cal.LonMapSE = 11.0;
+    Calibration Cal = Points({45.0, 10.0}, {44.0, 11.0}, 0, 0, 1000, 800);
+    Cal.LatMapNW = 45.5, Cal.LonMapNW = 10.0, Cal.LatMapSE = 44.0, Cal.LonMapSE = 11.0;
     Compute_Grid_Limits(Cal);
     EXPECT_EQ(Cal.LatMapNW, 45.5);
-    EXPECT_EQ(Map_NW(Cal), LatLon_To_Cell({45.5, 10.0}));
+    EXPECT_EQ(Cal.AreaLatMapNW, LatLon_To_Cell({45.5, 10.0}).AreaLat);
     EXPECT_DOUBLE_EQ(Cal.YGridNW, 800.0 * (45.5 - Cal.LatGridNW));
-
-    Calibration One_Column = Cal;  // the centre of a map that is one pixel wide
-    One_Column.XPtSE = 0;
-    Compute_Grid_Limits(One_Column);
-    EXPECT_EQ(One_Column.LatMapNW, 0.0);
+    Cal.XPtSE = 0;  // the centre of a map that is one pixel wide
+    Compute_Grid_Limits(Cal);
+    EXPECT_EQ(Cal.LatMapNW, 0.0);
 }
 
 class Cell_Moves : public Program_Test {
@@ -199,12 +149,10 @@ TEST_F(Cell_Moves, RecordsStayOverTheirPixels) {
     Tab_WC.Append(Record_At<WC_Cell>(At));
     Tab_Lod8.Append({At.AreaLon, At.AreaLat});
     Move_Map(-1.0, -1.0);
-    const Cell_Pos South_West{405, 130, 31, 0};
-    EXPECT_EQ(static_cast<Cell_Pos>(Tab_Area[1]), South_West);
+    for (const Cell_Pos& C :
+         {Cell_Pos(Tab_Area[1]), Cell_Pos(Tab_Excl[1]), Cell_Pos(Tab_LC[1]), Cell_Pos(Tab_WC[1])})
+        EXPECT_EQ(C, (Cell_Pos{405, 130, 31, 0}));
     EXPECT_EQ(Tab_Area[1].Texte, "kept");
-    EXPECT_EQ(static_cast<Cell_Pos>(Tab_Excl[1]), South_West);
-    EXPECT_EQ(static_cast<Cell_Pos>(Tab_LC[1]), South_West);
-    EXPECT_EQ(static_cast<Cell_Pos>(Tab_WC[1]), South_West);
     EXPECT_EQ(Tab_Lod8[1].AreaLon, 406) << "one Cell does not move the centre of an Area out of it";
     EXPECT_EQ(Tab_Lod8[1].AreaLat, 129);
 }
@@ -227,25 +175,13 @@ TEST_F(Cell_Moves, TheCentreOfACellAndTheCornerOfAClassDecide) {
 }
 
 TEST_F(Cell_Moves, RecordsThatComeToShareACellAllStay) {
-    Calibration Old = Limits_Of({45.0, 10.0}, {44.0, 11.0});
-    Tab_Area.Append(Record_At<Area>({406, 129, 4, 4}));
-    Tab_Area.Append(Record_At<Area>({406, 129, 4, 5}));
-    Tab_Area.Append(Record_At<Area>({406, 129, 4, 6}));
+    for (const Int Row : {4, 5}) Tab_Area.Append(Record_At<Area>({406, 129, 4, Row}));
     The_Calibration = Limits_Of({45.0, 10.0}, {44.9, 11.0});  // rows a tenth as high
-    Reproject_Cells(Old);
-    EXPECT_EQ(Nb_Area, 3);
-    EXPECT_EQ(static_cast<Cell_Pos>(Tab_Area[1]), static_cast<Cell_Pos>(Tab_Area[2]));
-}
-
-TEST_F(Cell_Moves, WithoutALineRecordsStay) {
-    Tab_Area.Append(Record_At<Area>(At));
-    The_Calibration = Limits_Of({45.0, 10.0}, {44.0, 11.0});
     Reproject_Cells(Calibration{});
-    EXPECT_EQ(static_cast<Cell_Pos>(Tab_Area[1]), At) << "no old pixel";
-    const Calibration Old = The_Calibration;
-    XPtSE = XPtNW;
-    Reproject_Cells(Old);
-    EXPECT_EQ(static_cast<Cell_Pos>(Tab_Area[1]), At) << "no new position";
+    EXPECT_EQ(Tab_Area[2].CellLat, 5) << "without a line records stay";
+    Reproject_Cells(Limits_Of({45.0, 10.0}, {44.0, 11.0}));
+    EXPECT_EQ(Nb_Area, 2);
+    EXPECT_EQ(Cell_Pos(Tab_Area[1]), Cell_Pos(Tab_Area[2]));
 }
 
 }  // namespace

@@ -3,14 +3,12 @@
 
 #include <bit>
 #include <cmath>
-#include <limits>
 #include <random>
 
 #include "support/program_test.h"
+#include "support/rows.h"
 
 namespace {
-
-constexpr Double Infinity = std::numeric_limits<Double>::infinity();
 
 // The plain rule: walk from line to line and stop at the first one strictly beyond the point.
 Long Walk_South(Double Lat, Double& Line, Double Step) {
@@ -88,59 +86,13 @@ TEST(Terrain_Grid, AnyPointAsTheWalkFindsIt) {
         ASSERT_NO_FATAL_FAILURE(Expect_Walked_Cells({Tiny, Tiny}));
 }
 
-TEST(Terrain_Grid, CornersOfTheGlobe) {
-    const Cell_Pos First{0, 0, 0, 0}, Last{767, 511, 31, 31};
-    EXPECT_EQ(LatLon_To_Cell({90.0, -180.0}), First);
-    EXPECT_EQ(LatLon_To_Cell({45.0, 0.0}), (Cell_Pos{384, 128, 0, 0}));
-    EXPECT_EQ(LatLon_To_Cell({-90.0, 180.0}), Last) << "beyond every line: the nearest";
-    EXPECT_EQ(LatLon_To_Cell_Shift({-90.0, 180.0}), Last);
-    EXPECT_EQ(LatLon_To_Cell({-1e300, 1e300}), Last);
-    EXPECT_EQ(LatLon_To_Cell({-Infinity, Infinity}), Last);
-    EXPECT_EQ(LatLon_To_Cell({Infinity, -Infinity}), First);
-    EXPECT_EQ(LatLon_To_Cell({std::nan(""), std::nan("")}), First);
-    EXPECT_EQ(LatLon_To_Lod10({-91.0, 181.0}), (Lod10_Pos{767, 511, 3, 3}));
-    EXPECT_EQ(LatLon_To_Lod5({-91.0, 181.0}), (Lod5_Pos{95, 63, 255, 255}));
+std::string Text_Of(const Cell_Pos& C) {
+    return std::to_string(C.AreaLon) + "," + std::to_string(C.AreaLat) + "," +
+           std::to_string(C.CellLon) + "," + std::to_string(C.CellLat);
 }
 
-TEST(Terrain_Grid, CornersCentresAndNamesOfACell) {
-    std::mt19937 Random(5);
-    std::uniform_real_distribution<Double> Near(-0.499, 0.499);
-    for (int I = 0; I < 5000; ++I) {
-        const Long Col = static_cast<Long>(Random() % 24576),
-                   Row = static_cast<Long>(Random() % 16384);
-        const Cell_Pos C{static_cast<Int>(Col / 32), static_cast<Int>(Row / 32),
-                         static_cast<Int>(Col % 32), static_cast<Int>(Row % 32)};
-        const Geo Corner = Cell_Corner(C);
-        ASSERT_EQ(LatLon_To_Cell(Corner), C) << "a corner belongs to the cell south-east of it";
-        ASSERT_EQ(LatLon_To_Cell(Cell_Centre(C)), C);
-        ASSERT_EQ(Cell_Centre(C).Lat, Corner.Lat - 0.0054931640625);
-        ASSERT_EQ(LatLon_To_Cell_Shift({Corner.Lat + Near(Random) * Cell_StepLat,
-                                        Corner.Lon + Near(Random) * Cell_StepLon}),
-                  C)
-            << "nearest corner";
-        ASSERT_EQ(Cell_To_Lod5(C),
-                  (Lod5_Pos{static_cast<Int>(Col / 256), static_cast<Int>(Row / 256),
-                            static_cast<Int>(Col % 256), static_cast<Int>(Row % 256)}));
-        const std::string Name = Cell_Quad_Name(C);
-        Long X = 0, Y = 0;
-        for (const char Digit : Name) {
-            X = 2 * X + (Digit - '0') % 2;
-            Y = 2 * Y + (Digit - '0') / 2;
-        }
-        ASSERT_TRUE(X == Col && Y == Row && Name.size() == 15) << Name;
-    }
-    EXPECT_EQ(Cell_Quad_Name({0, 0, 0, 0}), "000000000000000");
-    EXPECT_EQ(Cell_Quad_Name({767, 511, 31, 31}), "123333333333333");
-    EXPECT_EQ(Area_Centre(384, 128), (Geo{44.82421875, 0.234375}));
-}
-
-TEST(Terrain_Grid, HeightPairs) {
-    EXPECT_EQ(Height_Pair(-12.5), (Height{-12, 64}));
-    EXPECT_EQ(Height_Pair(-0.5), (Height{0, 64}));
-    EXPECT_EQ(Height_Pair(-9999.0), (Height{-9999, 0}));
-    EXPECT_EQ(Height_Pair(100.999), (Height{100, 127})) << "cut, not rounded";
-    EXPECT_EQ(Height_Pair(-1e300), (Height{std::numeric_limits<Long>::min(), 0}));
-    EXPECT_EQ(Height_Pair(std::nan("")), (Height{0, 0}));
+std::string Text_Of(const auto& L) {
+    return std::to_string(L.LocX) + "," + std::to_string(L.LocY);
 }
 
 // A map where a Cell is 256 pixels wide and high, pixel 0 lies on the corner 45 north, 0 east,
@@ -149,7 +101,6 @@ class Local_Units : public Program_Test {
 protected:
     Local_Units() {
         LatPtNW = 45.0;
-        LonPtNW = 0.0;
         LatPtSE = 45.0 - 64 * Cell_StepLat;
         LonPtSE = 64 * Cell_StepLon;
         XPtSE = YPtSE = 64 * 256;
@@ -157,48 +108,67 @@ protected:
     const Cell_Pos Corner{384, 128, 0, 0};
 };
 
-TEST_F(Local_Units, ThreeScalesOfOnePoint) {
-    Cell_Pos C;
-    EXPECT_EQ(Pixel_To_Cell_Loc({0.0, 0.0}, C), (Loc_Cell{0, 0}));
-    EXPECT_EQ(C, Corner) << "a corner belongs to the cell south-east of it";
-    EXPECT_EQ(Pixel_To_Cell_Loc({128.0, 64.0}, C), (Loc_Cell{128, 64})) << "127.5 and 63.75";
-    EXPECT_EQ(Pixel_To_Cell_Loc({-1.0, -256.0}, C), (Loc_Cell{254, 0}));
-    EXPECT_EQ(C, (Cell_Pos{383, 127, 31, 31}));
-
-    const Pix P{384.0, 640.0};  // half across the second Cell, half down the third
-    EXPECT_EQ(Pixel_To_Cell_Area_Loc(P, C), (Loc_Area{4462, 4718})) << "both halves go to even";
-    EXPECT_EQ(C, (Cell_Pos{384, 128, 1, 2}));
-    EXPECT_EQ(Pixel_To_Area_Loc(P, C), (Loc_Area{4462, 4718}));
-    EXPECT_EQ(C, Corner);
-    EXPECT_EQ(Pixel_To_Area_Loc({8191.9, 0.1}, C), (Loc_Area{12240, 4080}));
-    EXPECT_EQ(Pixel_To_Cell_Shift({128.5, 127.5}), (Cell_Pos{384, 128, 1, 0}));
-    EXPECT_EQ(Pixel_To_Lod10({2048.0, 6144.0}), (Lod10_Pos{384, 128, 1, 3}));
+TEST_F(Local_Units, AsInTheRows) {
+    const auto Pixel = [](const Row_Cells& C) {
+        const std::vector<double> V = Cell_Numbers(C[0]);
+        return Pix{V[0], V[1]};
+    };
+    const auto With_Cell = [&](auto Rule) {
+        return [=](const Row_Cells& C) {
+            Cell_Pos At;
+            const auto L = Rule(Pixel(C), At);
+            return Text_Of(L) + " of " + Text_Of(At);
+        };
+    };
+    Expect_Rows(
+        "terrain_grid",
+        {{"Pixel_To_Cell_Loc", With_Cell(Pixel_To_Cell_Loc)},
+         {"Pixel_To_Cell_Area_Loc", With_Cell(Pixel_To_Cell_Area_Loc)},
+         {"Pixel_To_Area_Loc", With_Cell(Pixel_To_Area_Loc)},
+         {"Pixel_To_Cell_Shift",
+          [&](const Row_Cells& C) { return Text_Of(Pixel_To_Cell_Shift(Pixel(C))); }},
+         {"Pixel_Loc_In_Cell",
+          [&](const Row_Cells& C) { return Text_Of(Pixel_Loc_In_Cell(Pixel(C), Corner)); }},
+         {"Pixel_Loc_In_Area",
+          [&](const Row_Cells& C) { return Text_Of(Pixel_Loc_In_Area(Pixel(C), 384, 128)); }},
+         {"Pixel_Loc_In_Area_Raw",
+          [&](const Row_Cells& C) { return Text_Of(Pixel_Loc_In_Area_Raw(Pixel(C), 384, 128)); }},
+         {"LatLon_To_Cell",
+          [&](const Row_Cells& C) {
+              const Pix G = Pixel(C);
+              return Text_Of(LatLon_To_Cell({G.X, G.Y})) + " " +
+                     Text_Of(LatLon_To_Cell_Shift({G.X, G.Y}));
+          }},
+         {"Cell_Quad_Name",
+          [](const Row_Cells& C) {
+              std::vector<Int> V;
+              for (const double N : Cell_Numbers(C[0])) V.push_back(static_cast<Int>(N));
+              return Cell_Quad_Name({V[0], V[1], V[2], V[3]});
+          }},
+         {"Height_Pair", [](const Row_Cells& C) {
+              const Height H = Height_Pair(Cell_Number(C[0]));
+              return std::to_string(H.H_Int) + " " + std::to_string(H.H_Frac);
+          }}});
 }
 
-TEST_F(Local_Units, PlaceInACellGivenBeforehand) {
-    const Double Unit = 256.0 / 255.0;
-    EXPECT_EQ(Pixel_Loc_In_Cell({128.0, 192.0}, Corner), (Loc_Cell{128, 191})) << "half goes up";
-    EXPECT_EQ(Pixel_Loc_In_Cell({0.9 * Unit, 254.1 * Unit}, Corner), (Loc_Cell{0, 255}));
-    EXPECT_EQ(Pixel_Loc_In_Cell({255.9 * Unit, 1.1 * Unit}, Corner), (Loc_Cell{255, 1}));
-    EXPECT_EQ(Pixel_Loc_In_Cell({-0.9 * Unit, -5.0 * Unit}, Corner), (Loc_Cell{0, 5}))
-        << "outside counts as inside";
-    EXPECT_EQ(Pixel_Loc_In_Cell({900.0, -1e300}, Corner), (Loc_Cell{255, 255}));
-    const Double One_Metre = 0.00001 / Cell_StepLon * 256.0;
-    EXPECT_EQ(Pixel_Loc_In_Cell({256.0 - One_Metre, One_Metre}, Corner), (Loc_Cell{255, 0}));
-}
-
-TEST_F(Local_Units, PlaceInAnAreaGivenBeforehand) {
-    const Double Unit = 8192.0 / 8160.0;
-    EXPECT_EQ(Pixel_Loc_In_Area({384.0, 640.0}, 384, 128), (Loc_Area{4463, 4718}))
-        << "382.5 goes up, and so does 637.5";
-    EXPECT_EQ(Pixel_Loc_In_Area({0.7 * Unit, 8159.3 * Unit}, 384, 128), (Loc_Area{4080, 12240}));
-    EXPECT_EQ(Pixel_Loc_In_Area_Raw({0.7 * Unit, 8159.3 * Unit}, 384, 128),
-              (Loc_Area_Raw{4081, 12239}))
-        << "not snapped";
-    EXPECT_EQ(Pixel_Loc_In_Area({20000.0, -1e300}, 384, 128), (Loc_Area{12240, 12240}));
-    EXPECT_EQ(Pixel_Loc_In_Area_Raw({16384.0, -8192.0}, 384, 128), (Loc_Area_Raw{20400, 12240}))
-        << "not limited";
-    EXPECT_EQ(Pixel_Loc_In_Area_Raw({1e300, 0.0}, 384, 128).LocX, std::numeric_limits<Long>::max());
+TEST(Terrain_Grid, CornersAndCentresOfACell) {
+    for (Long I = 0; I < 5000; ++I) {
+        const Long Col = I * 7919 % 24576, Row = I * 104729 % 16384;
+        const Cell_Pos C{static_cast<Int>(Col / 32), static_cast<Int>(Row / 32),
+                         static_cast<Int>(Col % 32), static_cast<Int>(Row % 32)};
+        const Geo Corner = Cell_Corner(C);
+        ASSERT_EQ(LatLon_To_Cell(Corner), C) << "a corner belongs to the cell south-east of it";
+        ASSERT_EQ(LatLon_To_Cell(Cell_Centre(C)), C);
+        ASSERT_EQ(Cell_Centre(C).Lat, Corner.Lat - 0.0054931640625);
+        const Double Near = (I % 999 - 499) / 1000.0;
+        ASSERT_EQ(LatLon_To_Cell_Shift(
+                      {Corner.Lat + Near * Cell_StepLat, Corner.Lon - Near * Cell_StepLon}),
+                  C)
+            << "nearest corner";
+        ASSERT_EQ(Cell_To_Lod5(C),
+                  (Lod5_Pos{static_cast<Int>(Col / 256), static_cast<Int>(Row / 256),
+                            static_cast<Int>(Col % 256), static_cast<Int>(Row % 256)}));
+    }
 }
 
 // Any bits at all, as a damaged project might hold them.

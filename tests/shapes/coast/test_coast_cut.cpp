@@ -9,7 +9,7 @@
 
 #include "core/model_ops.h"
 #include "reference/plain.h"
-#include "reference/shapes.h"
+#include "shapes.h"
 #include "shapes/coast/coast_fill.h"
 #include "support/program_test.h"
 #include "support/rows.h"

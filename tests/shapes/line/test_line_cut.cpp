@@ -1,5 +1,5 @@
-// test_line_cut.cpp - lines collected and cut: worked examples in rows, the program against the
-// plain rules to the last bit, and what must hold for the pieces of any line.
+// test_line_cut.cpp - lines collected and cut: worked examples in rows, and the program against
+// the plain rules to the last bit.
 #include "shapes/line/line_cut.h"
 
 #include <gtest/gtest.h>
@@ -8,9 +8,8 @@
 
 #include "core/attr_kinds.h"
 #include "core/model_ops.h"
-#include "geometry/box.h"
 #include "reference/compare.h"
-#include "reference/shapes.h"
+#include "shapes.h"
 #include "shapes/poly/poly_collect.h"
 #include "support/program_test.h"
 #include "support/rows.h"
@@ -185,46 +184,6 @@ TEST_F(Line_Cut_Test, AgreesWithThePlainRulesOnRandomLines) {
         }
     EXPECT_GT(Cuts, 5000U) << "the drawings must meet the grid";
     EXPECT_GT(Bare_Whole, 100U);
-}
-
-// The grid lines that lie inside the box of a piece, more than the tolerance from its edges.
-std::size_t Lines_Inside(std::span<const Double> Lines, Double Low, Double High, Double Tol) {
-    const Line_Range R = Lines_Between(Lines, Low + 2 * Tol, High - 2 * Tol);
-    return R.End - R.First;
-}
-
-TEST_F(Line_Cut_Test, PiecesLieBetweenGridLinesAndJoinToTheDrawnLine) {
-    for (std::uint64_t Seed = 1000; Seed < 1150; ++Seed) {
-        SCOPED_TRACE(Seed);
-        Work_Lists_Reset();
-        Draw_Lines(Seed);
-        for (Obj& O : Tab_Obj.Rows()) O.Attr.LineType = 1024;
-        Line_Collect(Roads.Rule);
-        const Polys Drawn = Work_Lists();
-        const Grid_Lines G = Grid_Lines_Of(Lines_By_Area);
-        Line_Cut(Roads.Cut_Rule());
-        const Polys Pieces = Work_Lists();
-        std::size_t K = 0;
-        for (const reference::Poly& W : Drawn) {
-            std::size_t Next = 0;
-            for (const std::size_t First = K; K < Pieces.size() && Pieces[K].Num == W.Num; ++K) {
-                const std::vector<WPt>& P = Pieces[K].P;
-                ASSERT_TRUE(K == First || To_Pix(P[0]) == To_Pix(Pieces[K - 1].P.back()));
-                Box_Pix Box;
-                for (std::size_t I = 0; I < P.size(); ++I) {
-                    Box.Add(To_Pix(P[I]));
-                    if (P[I].Tag == Tag_Cut || (I == 0 && K > First)) continue;
-                    ASSERT_LT(Next, W.P.size());
-                    ASSERT_EQ(To_Pix(P[I]), To_Pix(W.P[Next]));
-                    ASSERT_EQ(P[I].Tag, W.P[Next++].Tag);
-                }
-                EXPECT_EQ(Lines_Inside(G.Y, Box.LY, Box.HY, G.TolY), 0U) << Text_Of(Pieces[K]);
-                EXPECT_EQ(Lines_Inside(G.X, Box.LX, Box.HX, G.TolX), 0U) << Text_Of(Pieces[K]);
-            }
-            ASSERT_EQ(Next, W.P.size()) << "every drawn point is there";
-        }
-        ASSERT_EQ(K, Pieces.size());
-    }
 }
 
 }  // namespace

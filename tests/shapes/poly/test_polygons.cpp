@@ -12,7 +12,7 @@
 #include "grid/map_limits.h"
 #include "grid/terrain_grid.h"
 #include "reference/compare.h"
-#include "reference/shapes.h"
+#include "shapes.h"
 #include "shapes/poly/poly_prepare.h"
 #include "support/program_test.h"
 #include "support/rows.h"
@@ -139,7 +139,6 @@ public:
 
     void Compare(Poly_Mode Mode);
     void Expect_In_Cells(Int Mode) const;
-    void Expect_Same_Areas(const Polys& Drawn) const;
 };
 
 TEST_F(Polygons, AsInTheRows) {
@@ -177,23 +176,6 @@ void Polygons::Expect_In_Cells(Int Mode) const {
     }
 }
 
-// The first fan of a large convex piece and the second share a triangle, which counts twice.
-void Polygons::Expect_Same_Areas(const Polys& Drawn) const {
-    std::map<Long, Double> Now;
-    for (const reference::Poly& W : Work_Lists()) {
-        const Double Area = shapes::Area_2(Outline_Of(W));
-        EXPECT_GT(Area, -1e-6) << "a piece of object " << W.Num;
-        Now[W.Num] += Area;
-    }
-    for (const reference::Poly& W : Drawn) {
-        const Outline O = Outline_Of(W);
-        if (W.Nb > 2 && !shapes::Is_Simple(O)) continue;
-        const Double Area = shapes::Area_2(O), Slack = 1e-6 + 1e-9 * Area;
-        EXPECT_GT(Now[W.Num], Area - Slack) << "object " << W.Num;
-        EXPECT_TRUE(W.Nb >= 60 || Now[W.Num] < Area + Slack) << "object " << W.Num;
-    }
-}
-
 // Both over the drawing in the model.
 void Polygons::Compare(Poly_Mode Mode) {
     Clear();
@@ -226,7 +208,6 @@ void Polygons::Compare(Poly_Mode Mode) {
     ASSERT_EQ(Messages(Host_Of_Test), Failure);
     ASSERT_TRUE(Same_As_Work_Lists(Plain));
     EXPECT_EQ(Host_Of_Test.Caption["LCompile"], std::string(Num_Text(Rounds)));
-    Expect_Same_Areas(Drawn);
     Poly_To_Cells(Mode);
     Expect_In_Cells(Mode);
 }

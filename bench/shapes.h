@@ -1,4 +1,4 @@
-// reference/shapes.h - awkward drawings made from a seed, for tests that compare and check; those
+// bench/shapes.h - awkward drawings made from a seed, for tests that compare and check; those
 // of drawings.h are stretched to a frame.
 //
 // Coordinates are map pixels. The same seed gives the same drawing.

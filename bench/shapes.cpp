@@ -1,5 +1,5 @@
-// reference/shapes.cpp - single outlines, what makes them awkward, and whole drawings.
-#include "reference/shapes.h"
+// bench/shapes.cpp - single outlines, what makes them awkward, and whole drawings.
+#include "shapes.h"
 
 #include <algorithm>
 #include <cmath>
