@@ -254,9 +254,9 @@ struct Edit_Copies {
     LC_Cell Cur_LC;
     WC_Cell Cur_WC;
     Ima Cur_Ima;
-    Single Last_Alt = 0.0F;  // altitude last entered for a PtGrid, in the unit of Meter_Feet
-    bool Last_Alt_Set = false;
-    Int Dialog_Up = 0;  // the altitude dialog is on screen
+    Single Last_Alt_Pt = 0.0F;  // altitude last entered for a PtGrid, in the unit of Meter_Feet
+    Long Sel_Alt_Pt = 0;        // the PtGrid under the mouse or entered last, 0 none
+    Int Dialog_Up = 0;          // the altitude dialog is on screen
 };
 
 inline Edit_Copies The_Edits;
@@ -269,6 +269,8 @@ inline Excl& Cur_Excl = The_Edits.Cur_Excl;
 inline LC_Cell& Cur_LC = The_Edits.Cur_LC;
 inline WC_Cell& Cur_WC = The_Edits.Cur_WC;
 inline Ima& Cur_Ima = The_Edits.Cur_Ima;
+inline Single& Last_Alt_Pt = The_Edits.Last_Alt_Pt;
+inline Long& Sel_Alt_Pt = The_Edits.Sel_Alt_Pt;
 inline Int& Dialog_Up = The_Edits.Dialog_Up;
 
 inline std::string& Nom_Projet = The_Head.Nom_Projet;

@@ -67,8 +67,8 @@ void Init_Tables() {
     Last_Num_Obj = 0;
     LodMesh = 2;
     Mesh_Done = 0;
-    The_Edits.Last_Alt = 0.0F;
-    The_Edits.Last_Alt_Set = false;
+    Last_Alt_Pt = 0.0F;
+    Sel_Alt_Pt = 0;
     Dialog_Up = 0;
 }
 
@@ -185,17 +185,15 @@ bool Pt_Delete(Long I, Long P) {
     return true;
 }
 
-Long Lod8_Find(Int AreaLon, Int AreaLat) {
-    for (Long I = 1; I <= Nb_Lod8; ++I)
-        if (Tab_Lod8[I].AreaLon == AreaLon && Tab_Lod8[I].AreaLat == AreaLat) return I;
-    return 0;
+std::uint64_t Square_Key(const Cell_Pos& Cell) {
+    std::uint64_t Key = 0;
+    for (const Int Part : {Cell.AreaLon, Cell.AreaLat, Cell.CellLon, Cell.CellLat})
+        Key = Key << 16 | static_cast<std::uint16_t>(Part);
+    return Key;
 }
 
-Long Lod8_Store(const Lod8& Record) {
-    const Long I = Lod8_Find(Record.AreaLon, Record.AreaLat);
-    if (I == 0) return Tab_Lod8.Append(Record);
-    Tab_Lod8[I] = Record;
-    return I;
+std::uint64_t Square_Key(const Lod8& Record) {
+    return Square_Key(Cell_Pos{Record.AreaLon, Record.AreaLat});
 }
 
 Long Ima_Add(Ima Record) {
@@ -245,6 +243,12 @@ void Ima_Delete(Long I) {
 
 Long PtGrid_Add(Double X, Double Y, Single Alt) {
     return Tab_PtGrid.Append({.Active = 1, .X = X, .Y = Y, .Alt = Alt});
+}
+
+void PtGrid_Change(Long I, Double X, Double Y, Single Alt) {
+    PtGrid& P = Tab_PtGrid[I];
+    if (P.Active != 1) P = {.Active = 1, .X = X, .Y = Y};
+    P.Alt = Alt;
 }
 
 void PtGrid_Delete(Long I) {

@@ -5,7 +5,11 @@
 // nothing and returns 0.
 #pragma once
 
-#include <concepts>
+#include <cstdint>
+#include <span>
+#include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "core/model.h"
 
@@ -44,30 +48,48 @@ void Pt_Move(Long P, Double X, Double Y);
 /// with it, after message 20; false when the user said No to that.
 bool Pt_Delete(Long I, Long P);
 
-/// A record that hangs on a Cell.
+/// A number that no two squares share: of a Cell, or of the Area of a Lod8.
+std::uint64_t Square_Key(const Cell_Pos& Cell);
+std::uint64_t Square_Key(const Lod8& Record);
+
+/// For each square of Of the row of its first record in Tab, or 0. Walks Tab once, however many
+/// squares are asked for.
+template <typename R, typename K>
+std::vector<Long> Squares_Find(const Table<R>& Tab, std::span<const K> Of) {
+    std::unordered_map<std::uint64_t, Long> Row_Of;
+    for (const K& Square : Of) Row_Of.emplace(Square_Key(Square), 0);
+    for (Long I = 1; I <= Tab.Nb(); ++I) {
+        const auto Asked = Row_Of.find(Square_Key(Tab[I]));
+        if (Asked != Row_Of.end() && Asked->second == 0) Asked->second = I;
+    }
+    std::vector<Long> Rows;
+    for (const K& Square : Of) Rows.push_back(Row_Of[Square_Key(Square)]);
+    return Rows;
+}
+
+/// Stores one record a square: over the first of the square, or behind all others.
 template <typename R>
-concept Cell_Record = std::derived_from<R, Cell_Pos>;
-
-/// The first record of the Cell, or 0.
-template <Cell_Record R>
-Long Cell_Find(const Table<R>& Tab, const Cell_Pos& Cell) {
-    for (Long I = 1; I <= Tab.Nb(); ++I)
-        if (static_cast<const Cell_Pos&>(Tab[I]) == Cell) return I;
-    return 0;
+void Squares_Store(Table<R>& Tab, std::span<const R> Records) {
+    const std::vector<Long> Rows = Squares_Find(Tab, Records);
+    for (std::size_t I = 0; I < Records.size(); ++I)
+        if (Rows[I] == 0)
+            Tab.Append(Records[I]);
+        else
+            Tab[Rows[I]] = Records[I];
 }
 
-/// Overwrites the record of the same Cell, or adds the record. Returns its row.
-template <Cell_Record R>
-Long Cell_Store(Table<R>& Tab, const R& Record) {
-    const Long I = Cell_Find(Tab, Record);
-    if (I == 0) return Tab.Append(Record);
-    Tab[I] = Record;
-    return I;
+/// Removes the first record of each square that has one; the records behind move down.
+template <typename R, typename K>
+void Squares_Delete(Table<R>& Tab, std::span<const K> Of) {
+    std::vector<bool> Goes(static_cast<std::size_t>(Tab.Nb()) + 1);
+    for (const Long Row : Squares_Find(Tab, Of)) Goes[static_cast<std::size_t>(Row)] = true;
+    Long Kept = 0;
+    for (Long I = 1; I <= Tab.Nb(); ++I) {
+        if (Goes[static_cast<std::size_t>(I)]) continue;
+        if (++Kept != I) Tab[Kept] = std::move(Tab[I]);
+    }
+    Tab.Truncate(Kept);
 }
-
-/// The same for the records of an Area.
-Long Lod8_Find(Int AreaLon, Int AreaLat);
-Long Lod8_Store(const Lod8& Record);
 
 /// A new texture rectangle, with Active 1 and a Num above all others, deleted ones included; the
 /// lowest that is free once the highest is taken.
@@ -86,4 +108,6 @@ void Ima_Delete(Long I);
 
 /// A new altitude sample, with Active 1.
 Long PtGrid_Add(Double X, Double Y, Single Alt);
+/// Sample I has another altitude; a deleted one is live again, at (X, Y).
+void PtGrid_Change(Long I, Double X, Double Y, Single Alt);
 void PtGrid_Delete(Long I);

@@ -94,19 +94,20 @@ TEST_F(Model_Ops, InitTablesKeepsTheHead) {
     EXPECT_EQ(Cur_Attr, Attr());
 }
 
-TEST_F(Model_Ops, ACellHasOneRecord) {
-    LC_Cell C{{5, 0, 0, 0}, 1};
-    EXPECT_EQ(Cell_Store(Tab_LC, C), 1);
-    C.CellLat = 1;
-    EXPECT_EQ(Cell_Store(Tab_LC, C), 2);
-    C = {{5, 0, 0, 0}, 9};
-    EXPECT_EQ(Cell_Store(Tab_LC, C), 1);
-    EXPECT_EQ(Tab_LC[1].Num, 9);
-    EXPECT_EQ(Cell_Find(Tab_LC, {5, 0, 0, 2}), 0);
-    EXPECT_EQ(Lod8_Store({0, 3, 0, 0.0}), 1);
-    EXPECT_EQ(Lod8_Store({0, 3, 0, 100.0}), 1);
+TEST_F(Model_Ops, TheFirstRecordOfASquareCounts) {
+    using Cells = std::vector<LC_Cell>;
+    const auto Rows = [] { return Cells{Tab_LC.Rows().begin(), Tab_LC.Rows().end()}; };
+    const LC_Cell A{{5, 0, 0, 0}, 1}, B{{5, 0, 0, 1}, 2}, Again{{5, 0, 0, 0}, 3},
+        Odd{{-1, 0, 0, 0}, 4}, New{{9, 0, 0, 0}, 8}, Other{{5, 0, 0, 0}, 9};
+    for (const LC_Cell& C : {A, B, Again, Odd}) Tab_LC.Append(C);
+    Squares_Store<LC_Cell>(Tab_LC, Cells{New, Other});
+    EXPECT_EQ(Rows(), (Cells{Other, B, Again, Odd, New}));
+    Squares_Delete<LC_Cell, LC_Cell>(Tab_LC, Cells{A, New, {{7, 7, 7, 7}, 0}});
+    EXPECT_EQ(Rows(), (Cells{B, Again, Odd}));
+    for (const Double Alti : {0.0, 100.0})
+        Squares_Store<Lod8>(Tab_Lod8, std::vector<Lod8>{{0, 3, 0, Alti}});
+    ASSERT_EQ(Nb_Lod8, 1);
     EXPECT_EQ(Tab_Lod8[1].Alti, 100.0);
-    EXPECT_EQ(Lod8_Find(3, 0), 0);
 }
 
 TEST_F(Model_Ops, DeletingATextureFreesItsObjects) {

@@ -99,7 +99,7 @@ TEST_F(View, ZoomStepsAndLimits) {
 
 TEST_F(View, AnyNumberOfStepsOutIsHarmless) {
     Mode_Area = 1;
-    Cell_Store(Tab_Area, Record_At<Area>(3, 3));
+    Tab_Area.Append(Record_At<Area>(3, 3));
     for (int I = 0; I < 6000; ++I) Cmd_ZMoins();
     EXPECT_GT(Zoom, 0.0);
     Mouse_Read_Out({150.0, 125.0});
@@ -208,7 +208,7 @@ TEST_F(View, ARedrawWaitsClearsAndShows) {
 
 TEST_F(View, ACalibrationWithoutSenseIsHarmless) {
     Mode_Area = 1;
-    Cell_Store(Tab_Area, Record_At<Area>(3, 3));
+    Tab_Area.Append(Record_At<Area>(3, 3));
     const auto Use = [] {
         View_Center_Map();
         View_Redraw();
