@@ -8,6 +8,7 @@
 
 #include "core/number_text.h"
 #include "core/program.h"
+#include "gen/emitter.h"
 #include "platform/files.h"
 
 namespace {
@@ -55,6 +56,23 @@ std::vector<LC_Entry> LC_List_Read() {
 std::vector<WC_Entry> WC_List_Read() {
     std::vector<WC_Entry> Tab_WC_List;
     for (const std::string& Line : Class_Lines("WC.txt"))
-        if (const auto Class = Byte_Of(Columns(Line, 1, 3))) Tab_WC_List.push_back({*Class, Line});
+        if (const auto Class = Byte_Of(Columns(Line, 1, 3)))
+            Tab_WC_List.push_back({*Class, *Class, Line});
     return Tab_WC_List;
+}
+
+std::vector<Class_Entry> Class_List_Read(Class_Sort Sort) {
+    return Sort == Class_Sort::Land ? LC_List_Read() : WC_List_Read();
+}
+
+std::optional<std::size_t> Class_Place(const std::vector<Class_Entry>& List, Long Class) {
+    const auto Found = std::ranges::find(List, Class, &Class_Entry::Class);
+    if (Found == List.end()) return {};
+    return static_cast<std::size_t>(Found - List.begin());
+}
+
+std::string Class_Texture_Path(Class_Sort Sort, Byte Texture) {
+    if (!Dir_Exists(Dir_Texture)) return {};
+    const char* Season = Sort == Class_Sort::Land ? "b2su1.bmp" : "b2wa1.bmp";
+    return Dir_Texture + "\\" + Mask_000(Texture) + Season;
 }

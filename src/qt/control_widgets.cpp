@@ -114,7 +114,10 @@ public:
     void Follow(const Control& C) override {
         Follow_Common(*this, C);
         Box_->setText(Literal_Caption(C.Caption));
-        Box_->setChecked(C.Value != 0);
+        Box_->setTristate(C.Value == Mixed_Check);
+        Box_->setCheckState(C.Value == Mixed_Check ? Qt::PartiallyChecked
+                            : C.Value != 0         ? Qt::Checked
+                                                   : Qt::Unchecked);
     }
 
 private:

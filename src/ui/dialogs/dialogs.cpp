@@ -10,7 +10,14 @@ void Forms_Install() {
     Form_Register("Frm_Dir", Make_Frm_Dir);
     Form_Register("Frm_ColourGrid", Make_Frm_ColourGrid);
     Form_Register("Frm_FSUIPC", Make_Frm_FSUIPC);
+    Form_Register("Frm_Excl", Make_Frm_Excl);
     Form_Register("Frm_Ima", Make_Frm_Ima);
+    Form_Register("Frm_LC", Make_Frm_LC);
+    Form_Register("Frm_LOD", Make_Frm_LOD);
+    Form_Register("Frm_LOD8", Make_Frm_LOD8);
+    Form_Register("Frm_Mesh", Make_Frm_Mesh);
+    Form_Register("Frm_PtGrid", Make_Frm_PtGrid);
+    Form_Register("Frm_WC", Make_Frm_WC);
     Form_Register("Frm_LBmp", Make_Frm_LBmp);
     Form_Register("Frm_CadBmp", Make_Frm_CadBmp);
     Form_Register("Frm_CenterMap", Make_Frm_CenterMap);

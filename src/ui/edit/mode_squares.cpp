@@ -2,8 +2,13 @@
 #include "core/dialog_flags.h"
 #include "core/host.h"
 #include "gen/driver.h"
+#include "grid/terrain_grid.h"
+#include "ui/canvas/grid_marks.h"
+#include "ui/canvas/square_block.h"
 #include "ui/canvas/view.h"
+#include "ui/edit/class_grid.h"
 #include "ui/edit/modes.h"
+#include "ui/edit/square_drag.h"
 
 namespace {
 
@@ -12,15 +17,28 @@ bool In_Work_Grid() {
            YGridNW <= Mouse_Map_Y && Mouse_Map_Y <= YGridSE;
 }
 
+using Square_At = Cell_Pos (*)(Pix);
+
 // Flag is set before the dialog and cleared by its Ok.
-void Square_Dialog(const char* Form, Int& Flag) {
+void Square_Dialog(const char* Form, Int& Flag, const Square_Block& Squares) {
+    The_Squares = Squares;
     Flag = 1;
     The_Host().Run_Form(Form);
     if (Flag == 0) View_Redraw();
 }
 
-void Dialog_On_Grid(const char* Form, Int& Flag) {
-    if (In_Work_Grid()) Square_Dialog(Form, Flag);
+void Dialog_At_Mouse(const char* Form, Int& Flag, Square_At Find = Cell_Of_Pixel) {
+    const Cell_Pos At = Find({static_cast<Double>(Mouse_Map_X), static_cast<Double>(Mouse_Map_Y)});
+    Square_Dialog(Form, Flag, {.NW = At});
+}
+
+void Dialog_On_Grid(const char* Form, Int& Flag, Square_At Find = Cell_Of_Pixel) {
+    if (In_Work_Grid()) Dialog_At_Mouse(Form, Flag, Find);
+}
+
+// Opens the dialog for all squares that were dragged over.
+void Drag_End(const Mouse_Event& E, const char* Form, Int& Flag, Square_At Find = Cell_Of_Pixel) {
+    if (const auto Squares = Square_Drag_Release(E, Find)) Square_Dialog(Form, Flag, *Squares);
 }
 
 void Paint_Marked(Grid_Marks Marks) {
@@ -28,21 +46,32 @@ void Paint_Marked(Grid_Marks Marks) {
     Objects_Draw_Backdrop();
 }
 
-void Paint_Classes() {
-    Grid_Draw();
+void Paint_Classes(Class_Sort Sort) {
+    Class_Grid_Draw(Sort);
     Objects_Draw_Backdrop();
+}
+
+void Enter_Classes() {
+    Square_Drag_Cancel();
+    Class_Pictures_Forget();
 }
 
 constexpr const char* Class_Tools[] = {"Cmd_AffTexture"};
 
 }  // namespace
 
-const Mode_Row Row_Of_Area{.Name = "Mode_Area",
-                           .Flag = &Mode_Flags::Mode_Area,
-                           .Button = "Cmd_TrtArea",
-                           .Leave_Former = Mode_Leave,
-                           .Paint = [] { Paint_Marked(Grid_Marks::Areas); },
-                           .Double_Click = [] { Dialog_On_Grid("Frm_LOD", Area_Cancelled); }};
+const Mode_Row Row_Of_Area{
+    .Name = "Mode_Area",
+    .Flag = &Mode_Flags::Mode_Area,
+    .Button = "Cmd_TrtArea",
+    .Leave_Former = Mode_Leave,
+    .On_Enter = Square_Drag_Cancel,
+    .Paint = [] { Paint_Marked(Grid_Marks::Areas); },
+    .Press = Square_Drag_Press,
+    .Move = Square_Drag_Move,
+    .Release = [](const Mouse_Event& E) { Drag_End(E, "Frm_LOD", Area_Cancelled); },
+    .Double_Click = [] { Dialog_On_Grid("Frm_LOD", Area_Cancelled); },
+    .Key = Square_Drag_Key};
 
 const Mode_Row Row_Of_Cell{.Name = "Mode_Cell",
                            .Flag = &Mode_Flags::Mode_Cell,
@@ -52,25 +81,45 @@ const Mode_Row Row_Of_Cell{.Name = "Mode_Cell",
                            .Double_Click = [] { Dialog_On_Grid("Frm_LOD8", Area_Cancelled); }};
 
 // A whole area may be excluded from beyond the grid as well.
-const Mode_Row Row_Of_Excl{.Name = "Mode_Excl",
-                           .Flag = &Mode_Flags::Mode_Excl,
-                           .Button = "Cmd_Excl_Areas",
-                           .Leave_Former = Mode_Leave,
-                           .Paint = [] { Paint_Marked(Grid_Marks::Excls); },
-                           .Double_Click = [] { Square_Dialog("Frm_Excl", Excl_Cancelled); }};
+const Mode_Row Row_Of_Excl{
+    .Name = "Mode_Excl",
+    .Flag = &Mode_Flags::Mode_Excl,
+    .Button = "Cmd_Excl_Areas",
+    .Leave_Former = Mode_Leave,
+    .On_Enter = Square_Drag_Cancel,
+    .Paint = [] { Paint_Marked(Grid_Marks::Excls); },
+    .Press = Square_Drag_Press,
+    .Move = Square_Drag_Move,
+    .Release = [](const Mouse_Event& E) { Drag_End(E, "Frm_Excl", Excl_Cancelled); },
+    .Double_Click = [] { Dialog_At_Mouse("Frm_Excl", Excl_Cancelled); },
+    .Key = Square_Drag_Key};
 
-const Mode_Row Row_Of_LC{.Name = "Mode_LC",
-                         .Flag = &Mode_Flags::Mode_LC,
-                         .Button = "Cmd_LandClass",
-                         .Tools = Class_Tools,
-                         .Leave_Former = Mode_Leave,
-                         .Paint = Paint_Classes,
-                         .Double_Click = [] { Dialog_On_Grid("Frm_LC", LC_Cancelled); }};
+const Mode_Row Row_Of_LC{
+    .Name = "Mode_LC",
+    .Flag = &Mode_Flags::Mode_LC,
+    .Button = "Cmd_LandClass",
+    .Tools = Class_Tools,
+    .Leave_Former = Mode_Leave,
+    .On_Enter = Enter_Classes,
+    .Paint = [] { Paint_Classes(Class_Sort::Land); },
+    .Press = Square_Drag_Press,
+    .Move = Square_Drag_Move,
+    .Release =
+        [](const Mouse_Event& E) { Drag_End(E, "Frm_LC", LC_Cancelled, Pixel_To_Cell_Shift); },
+    .Double_Click = [] { Dialog_On_Grid("Frm_LC", LC_Cancelled, Pixel_To_Cell_Shift); },
+    .Key = Square_Drag_Key};
 
-const Mode_Row Row_Of_WC{.Name = "Mode_WC",
-                         .Flag = &Mode_Flags::Mode_WC,
-                         .Button = "Cmd_WaterClass",
-                         .Tools = Class_Tools,
-                         .Leave_Former = Mode_Leave,
-                         .Paint = Paint_Classes,
-                         .Double_Click = [] { Dialog_On_Grid("Frm_WC", WC_Cancelled); }};
+const Mode_Row Row_Of_WC{
+    .Name = "Mode_WC",
+    .Flag = &Mode_Flags::Mode_WC,
+    .Button = "Cmd_WaterClass",
+    .Tools = Class_Tools,
+    .Leave_Former = Mode_Leave,
+    .On_Enter = Enter_Classes,
+    .Paint = [] { Paint_Classes(Class_Sort::Water); },
+    .Press = Square_Drag_Press,
+    .Move = Square_Drag_Move,
+    .Release =
+        [](const Mouse_Event& E) { Drag_End(E, "Frm_WC", WC_Cancelled, Pixel_To_Cell_Shift); },
+    .Double_Click = [] { Dialog_On_Grid("Frm_WC", WC_Cancelled, Pixel_To_Cell_Shift); },
+    .Key = Square_Drag_Key};

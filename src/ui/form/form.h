@@ -26,8 +26,8 @@ struct Picture;
 enum class Control_Kind {
     Label,
     Button,
-    Check,       // Value 0 or 1
-    Options,     // Items, one of which is chosen: Value
+    Check,       // Value 0 or 1, or Mixed_Check
+    Options,     // Items, one of which is chosen: Value, -1 none
     Text,        // a line to type into
     Number,      // the same for a number
     List,        // Items; Value is the chosen one, -1 none
@@ -59,6 +59,8 @@ struct Field_Rule {
     std::function<bool(const std::string& Text)> Accept = {};
     std::function<std::string()> Held = {};
 };
+
+inline constexpr Long Mixed_Check = 2;  // a Check that stands for several which differ
 
 inline constexpr Long Usual_Colour = -1;  // what the desktop has there
 

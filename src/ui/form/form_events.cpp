@@ -165,7 +165,7 @@ bool Form_Click(Form& F, std::string_view Name) {
     Control& C = Access::At(F, Name);
     if (!Reach(F, C)) return false;
     if (C.Kind == Control_Kind::Check) {
-        F.Set_Value(Name, C.Value == 0 ? 1 : 0);
+        F.Set_Value(Name, C.Value == 1 ? 0 : 1);
         Run(F, C.On_Change);
     }
     Run(F, C.On_Click);
