@@ -5,6 +5,7 @@
 #include "core/host.h"
 #include "core/number_text.h"
 #include "core/program.h"
+#include "core/typed_number.h"
 #include "geo/latlon_text.h"
 #include "grid/terrain_grid.h"
 #include "ui/canvas/view.h"
@@ -59,7 +60,7 @@ std::string Plain(Long X) {
 }
 
 std::string Seven_Decimals(Double X) {
-    return std::string(Num_Text(std::floor(X * 1e7) / 1e7));
+    return Shown_Number(std::floor(X * 1e7) / 1e7);
 }
 
 void Fill_Labels(Long X, Long Y, Geo G) {
