@@ -58,6 +58,10 @@ Own_Line Own_Lines::Kind(Int Code) const {
 }
 
 std::string Own_Lines::Line_First_Texture(Int Code) const {
-    const std::string Names = Value(Code, "Textures", "");
+    const std::string Names = Line_Textures(Code);
     return Names.empty() ? "RiverSu.bmp" : Names.substr(0, Names.find('|'));
+}
+
+std::string Own_Lines::Line_Textures(Int Code) const {
+    return Value(Code, "Textures", "");
 }

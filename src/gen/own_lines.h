@@ -31,6 +31,9 @@ public:
     Own_Line Kind(Int Code) const;
     /// The first texture file of a kind, "RiverSu.bmp" when the file names none.
     std::string Line_First_Texture(Int Code) const;
+    /// The texture files of a kind as the file has them, "|" between them; empty when it names
+    /// none.
+    std::string Line_Textures(Int Code) const;
 
 private:
     std::string Value(Int Code, const char* Key, const char* Default) const;

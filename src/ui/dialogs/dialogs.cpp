@@ -25,6 +25,8 @@ void Forms_Install() {
     Form_Register("Frm_ModCad", Make_Frm_ModCad);
     Form_Register("Frm_PPro", Make_Frm_PPro);
     Form_Register("Frm_V24", Make_Frm_V24);
+    Form_Register("Frm_Route", Make_Frm_Route);
+    Form_Register("Frm_Ref", Make_Frm_Ref);
 }
 
 void Add_Ok_Cancel(Form& F, std::function<void()> Ok, std::function<void()> Cancel) {

@@ -25,6 +25,8 @@ std::unique_ptr<Form> Make_Frm_CvLL1();
 std::unique_ptr<Form> Make_Frm_ModCad();
 std::unique_ptr<Form> Make_Frm_PPro();
 std::unique_ptr<Form> Make_Frm_V24();
+std::unique_ptr<Form> Make_Frm_Route();
+std::unique_ptr<Form> Make_Frm_Ref();
 
 /// Registers every dialog of this folder. Called once at the start of the program.
 void Forms_Install();
