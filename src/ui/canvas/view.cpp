@@ -20,7 +20,7 @@ void Set_Bar(const char* Bar, Long Value) {
     The_Host().Set_Value(Bar, Value);
 }
 
-// The scroll bars run over twice the work grid.
+// The scroll bars run over twice the work grid, as it was when they were last set.
 void Find_Scroll_Ranges() {
     Scroll_Range_X = (XGridSE - XGridNW) * 2.0;
     Scroll_Range_Y = (YGridSE - YGridNW) * 2.0;
@@ -75,7 +75,6 @@ void Toggle(bool& Flag) {
 
 void Scroll_To(Double& Pan, const Double& Range, Long Value) {
     if (Scroll_Guard) return;
-    Find_Scroll_Ranges();
     Pan = (Scroll_Middle - Value) * Range / Scroll_Max;
     Redraw_And_Focus();
 }
