@@ -119,25 +119,20 @@ TEST(Edge_Boxes, EdgesOfNoExtentAtAll) {
     Expect_All_Found(Shrinking(std::move(Upright)), 6);
 }
 
-// An edge all but in line with the segment, as the roundings of Single push its box away most: the
-// margin of a query covers them. Each stroke lies in boxes of its own, far from the origin.
-TEST(Edge_Boxes, RoundedBoxesHideNoEdge) {
-    shapes::Random R(7);
-    std::size_t Crossed = 0;
-    for (int Round = 0; Round < 40000; ++Round) {
-        const Pix A{R.Between(100, 1000), R.Between(100, 1000)};
-        const Pix Way{R.Between(-1, 1), R.Between(-1, 1)};
-        const Double Near = R.Between(1e-8, 1e-4), Aside = R.Between(-1, 1) * 2e-5;
-        const auto On = [&](Double T, Double Off) {
-            return Pix{A.X + T * Way.X - Off * Way.Y, A.Y + T * Way.Y + Off * Way.X};
-        };
-        const Shrinking One({On(0.5, Aside), On(0.5 + Near, -Aside * R.Unit())});
-        const Pix B = On(1, 0);
-        const auto Plain = One.Plainly_Found(A, B, {0, 0});
-        ASSERT_EQ(One.Found(A, B, {0, 0}), Plain) << "round " << Round;
-        Crossed += Plain.size();
+// Beside a diagonal, so many times 2 ^ -15 to the east: the margin covers what the rounding of
+// boxes and of meeting points can hide, and ends at 16.
+TEST(Edge_Boxes, LooksAsFarAsTheMarginReaches) {
+    constexpr Double Step = 0x1p-15, Half = 0x1p-11;
+    for (const int Off : {0, 13, 15, 17}) {
+        const Pix Middle{256 + Off * Step, 256 - Off * Step};
+        Edge_Boxes Boxes;
+        Boxes.Reset(1);
+        Boxes.Put(0, {Middle.X - Half, Middle.Y}, {Middle.X + Half, Middle.Y});
+        Boxes.Settle();
+        const bool Seen =
+            Boxes.Any_Near({0, 0}, {512, 512}, 1024, {0, 0}, [](Long) { return true; });
+        EXPECT_EQ(Seen, Off < 16) << Off;
     }
-    EXPECT_GT(Crossed, 10000U) << "else the test says little";
 }
 
 }  // namespace
