@@ -7,7 +7,6 @@
 #include "core/project_file.h"
 #include "core/settings.h"
 #include "core/view_calls.h"
-#include "platform/text1252.h"
 #include "support/program_test.h"
 
 class Lifecycle : public Program_Test {
@@ -44,32 +43,6 @@ protected:
     std::string Calls;
 };
 
-TEST_F(Lifecycle, CancelInTheQuestionKeepsEverything) {
-    const std::string Path = Make_Open("\xE9t\xE9.LWM");
-    const std::string On_Disk = Dir.Read("\xC3\xA9t\xC3\xA9.LWM");
-    const std::function<void()> Commands[] = {Cmd_New, Mnu_File_Open, [] { Mnu_File_Prec(0); },
-                                              Mnu_File_Close,
-                                              [] { EXPECT_FALSE(Mnu_File_Quit()); }};
-    for (std::size_t I = 0; I < std::size(Commands); ++I) {
-        Host_Of_Test.Events.clear();
-        Host_Of_Test.Box_Answers = {Button_Cancel};
-        Commands[I]();
-        EXPECT_EQ(Host_Of_Test.Events,
-                  (std::vector<std::string>{"message 0 Voulez-vous enregistrer les modifications "
-                                            "apport\xE9"
-                                            "es \xE0 " +
-                                            Upper_1252(Path) + " ?"}))
-            << I;
-        EXPECT_EQ(Host_Of_Test.Boxes.back().Style % 16, Box_Yes_No_Cancel);
-        EXPECT_EQ(Calls, "") << I;
-        EXPECT_EQ(Projet_Open + Edit_On, 2) << I;
-        EXPECT_EQ(Nb_Obj, 2) << I;
-        EXPECT_EQ(Nom_Projet, Path) << I;
-        EXPECT_EQ(Host_Of_Test.Caption["Frm"], "Terrafold V5.0 04/10/2003  " + Path) << I;
-        EXPECT_EQ(Dir.Read("\xC3\xA9t\xC3\xA9.LWM"), On_Disk) << I;
-    }
-}
-
 TEST_F(Lifecycle, WorkIsNotLostWhenTheSaveFails) {
     Make_Open("one.LWM");
     Nom_Projet = Dir.Path("no such dir") + "\\one.LWM";
@@ -81,18 +54,6 @@ TEST_F(Lifecycle, WorkIsNotLostWhenTheSaveFails) {
         EXPECT_EQ(Host_Of_Test.Boxes.size(), 2U) << "the question, and why it failed";
         EXPECT_EQ(Projet_Open, 1);
         EXPECT_EQ(Nb_Obj, 2);
-    }
-}
-
-TEST_F(Lifecycle, YesSavesAndNoDoesNot) {
-    const std::string Path = Make_Open("one.LWM");
-    for (const Int Answer : {Button_Yes, Button_No}) {
-        Open_Project(Path);
-        NameBgl = "C:\\" + std::to_string(Answer) + ".bgl";
-        Host_Of_Test.Box_Answers = {Answer};
-        Mnu_File_Close();
-        Expect_Empty_State();
-        EXPECT_EQ(Dir.Read("one.LWM").find(NameBgl) != std::string::npos, Answer == Button_Yes);
     }
 }
 
@@ -155,40 +116,4 @@ TEST_F(Lifecycle, AFileThatCannotBeOpenedLeavesNoProjectAndNoPictures) {
         EXPECT_EQ(Calls, "tiles pictures ") << Name;
         EXPECT_TRUE(!Map_Refused || Nb_Obj == 1) << "nothing of it is left";
     }
-}
-
-TEST_F(Lifecycle, SaveAsWritesACopyAndKeepsTheProject) {
-    const std::string Path = Make_Open("one.LWM");
-    Host_Of_Test.File_Answers = {Dir.Path("copy.jpeg"), Dir.Path("copy.LWM")};
-    Mnu_File_Enreg_Sous();
-    EXPECT_EQ(Host_Of_Test.Last_Message(), 1) << "a refused name brings the dialog back";
-    EXPECT_FALSE(Dir.Has("copy.jpeg"));
-    EXPECT_TRUE(Dir.Has("copy.LWM"));
-    EXPECT_EQ(Nom_Projet, Path);
-    const std::array<std::string, 4> Recent = {Dir.Path("copy.LWM"), Path};
-    EXPECT_EQ(DerApt, Recent);
-    Host_Of_Test.File_Answers = {Dir.Path("no such dir") + "\\copy.LWM"};
-    Mnu_File_Enreg_Sous();
-    EXPECT_EQ(DerApt, Recent) << "one that failed stays out of the list";
-    for (const auto& Command : {Cmd_Save, Mnu_File_Enreg}) {
-        NameBgl += "x.bgl";
-        Command();
-        EXPECT_NE(Dir.Read("one.LWM").find('"' + NameBgl + '"'), std::string::npos);
-    }
-}
-
-TEST_F(Lifecycle, InitializingAsksAndKeepsTheMap) {
-    const std::string Path = Make_Open("one.LWM");
-    Mnu_Reinit();
-    EXPECT_EQ(Host_Of_Test.Boxes.back().Style % 16, Box_Yes_No);
-    EXPECT_EQ(Nb_Obj, 2) << "No is the answer";
-    Ima_Add({});
-    Host_Of_Test.Box_Answers = {Button_Yes};
-    Mnu_Reinit();
-    EXPECT_EQ(Nb_Obj, 1);
-    EXPECT_EQ(Nb_Ima, 0);
-    EXPECT_EQ(Calls, "pictures ");
-    EXPECT_EQ(Carte, "C:\\maps\\isle.bmp");
-    EXPECT_EQ(Nom_Projet, Path);
-    EXPECT_EQ(Projet_Open, 1);
 }

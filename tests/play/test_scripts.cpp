@@ -2,7 +2,7 @@
 // beside it.
 //
 // NAME.txt must print NAME.expected; NAME.2.txt is played after it, in the same home, as the next
-// run of the program. Projects that they write as outNAME.LWM are compared with NAME.outNAME.LWM,
+// run of the program. Projects that they write as out_X.LWM are compared with NAME.out_X.LWM,
 // but for their first two lines, which hold date and path. @DIR@ and @WDIR@ in scripts, projects
 // and outputs are the test's directory in the system's form and in the program's. It holds the home
 // App, small.LWM and other.LWM with their maps, and a copy of tests/scripts/data. TERRAFOLD_ACCEPT
@@ -57,6 +57,7 @@ protected:
                 fs::copy(Entry.path(), Dir.Native("App/Resource") / Entry.path().filename());
         Write_Small_Project(Dir, "small");
         Write_Small_Project(Dir, "other");
+        fs::create_directory(Dir.Native("\xC3\xA9t\xC3\xA9"));
         Dir.Write("App/Resource/Terrafold.Ini",
                   "[Terrafold]\r\nLanguage=US\r\nDerApt1=" + Dir.Path("gone.LWM") + "\r\n");
         for (const auto& Entry : fs::directory_iterator(Folder / "data"))
@@ -85,7 +86,7 @@ protected:
     void Compare_Projects(const std::string& Name) {
         for (const auto& Entry : fs::directory_iterator(Dir.Native())) {
             const std::string File = Entry.path().filename().string();
-            if (!File.starts_with("out")) continue;
+            if (!File.starts_with("out_")) continue;
             const std::string Text = Replaced(Dir.Read(File), Dir.Path(), "@WDIR@");
             EXPECT_TRUE(
                 Equals_File(Folder / (Name + "." + File), Text.substr(Text.find("\r\n0010") + 2)));

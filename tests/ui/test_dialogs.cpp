@@ -1,12 +1,7 @@
-// tests/ui/test_dialogs.cpp - the dialogs of the program's settings.
+// tests/ui/test_dialogs.cpp - what all forms have in common, and what a script cannot bring about.
 #include <filesystem>
 
-#include "core/lifecycle.h"
-#include "core/settings.h"
-#include "core/view_calls.h"
 #include "platform/files.h"
-#include "platform/paths.h"
-#include "platform/settings_file.h"
 #include "ui/dialogs/frm_dir.h"
 #include "ui/form/form_list.h"
 #include "ui/form/mnemonics.h"
@@ -15,21 +10,7 @@
 
 namespace {
 
-class Dialogs : public Ui_Test {
-protected:
-    void Run(const char* Name, std::function<void(Form_Driver&)> Work) {
-        const Modal_Script Script(std::move(Work));
-        The_Host().Run_Form(Name);
-    }
-    std::string Setting(const char* Key) {
-        return Setting_In_Text(File_Read(Ini_File).value_or(""), "Terrafold", Key).value_or("none");
-    }
-    // A directory of this test's own.
-    std::string Make_Dir(const std::string& Name) {
-        EXPECT_TRUE(Dir_Create(Dir.Path(Name)));
-        return Dir.Path(Name);
-    }
-};
+class Dialogs : public Ui_Test {};
 
 void Expect_Both(const Wording& W, const std::string& Where) {
     EXPECT_EQ(*W.US == '\0', *W.FR == '\0') << Where << ": " << W.US << " / " << W.FR;
@@ -91,79 +72,6 @@ TEST_F(Dialogs, MenuLettersKeepOutOfTheWay) {
     }
 }
 
-TEST_F(Dialogs, GeneralParametersAreKept) {
-    const std::string FS = Make_Dir("FS9");
-    ASSERT_TRUE(Setting_Put("Language", "FR"));
-    Run("Frm_PGen", [&](Form_Driver& D) {
-        EXPECT_EQ(D.Title(), "Param\xE8tres g\xE9n\xE9raux");
-        EXPECT_FALSE(D.Type("DirFS", Dir.Path("nowhere")) && D.Click("Cmd_Ok"));
-        EXPECT_EQ(D.Last_Message(), 1);
-        EXPECT_EQ(D.Has_Focus(), "DirFS");
-        D.Type("DirFS", FS);
-        D.Choose("Opt_Lang", 1);
-        EXPECT_EQ(D.Title(), "Main parameters") << "reworded while it is open";
-        EXPECT_EQ(D.Caption("DirFS"), "FS9 Directory :");
-        EXPECT_EQ(D.Text("DirFS"), FS + "\\");
-        EXPECT_EQ(Language, "FR") << "not before Ok";
-        D.Click("Cmd_Help");
-        D.Click("Cmd_Ok");
-    });
-    EXPECT_EQ(Language, "US");
-    EXPECT_EQ(DirFS, FS + "\\");
-    EXPECT_EQ(Dir_Texture, FS + "\\Scenery\\world\\Texture");
-    EXPECT_EQ(Fl1Fois, 1);
-    EXPECT_EQ(Setting("DirFS"), FS + "\\");
-    EXPECT_EQ(Setting("Language"), "US");
-    EXPECT_EQ(Setting("Fl1Fois"), "1");
-    EXPECT_EQ(Frm()["Mnu_File"].Caption, "Files") << "the main form is reworded at once";
-}
-
-TEST_F(Dialogs, CancelledParametersStay) {
-    const std::string FS = Make_Dir("FS9");
-    Fl1Fois = 1;
-    Run("Frm_PGen", [&](Form_Driver& D) {
-        D.Choose("Opt_Lang", 1);
-        D.Type("DirFS", FS);
-        D.Click("Cmd_Cancel");
-    });
-    EXPECT_EQ(Language, "FR");
-    EXPECT_EQ(DirFS, "");
-    EXPECT_EQ(Setting("Language"), "none");
-}
-
-TEST_F(Dialogs, ADirectoryIsChosenByWalking) {
-    Make_Dir("top");
-    Make_Dir("top\\inner");
-    const std::string Other = Make_Dir("top\\Other");
-    Make_Dir("top\\.hidden");
-    std::string Path = Dir.Path("top");
-    Int Cancelled = 1;
-    Dir_Title = "Where to";
-    const Modal_Script Walks([&](Form_Driver& D) {
-        EXPECT_EQ(D.Title(), "Where to");
-        EXPECT_EQ(D.Items("Dir1"), (std::vector<std::string>{"..", "inner", "Other"}));
-        D.Choose("Dir1", "inner");
-        D.Double_Click("Dir1");
-        EXPECT_EQ(D.Text("Path"), Dir.Path("top\\inner"));
-        D.Choose("Dir1", "..");
-        EXPECT_TRUE(D.Enter()) << "the keyboard goes in as well";
-        D.Choose("Dir1", "Other");
-        D.Enter();
-        EXPECT_TRUE(D.Enter()) << "with nothing chosen it takes the directory shown";
-    });
-    Choose_Dir(Path, Cancelled);
-    EXPECT_EQ(Cancelled, 0);
-    EXPECT_EQ(Path, Other);
-    const Modal_Script Cancels([&](Form_Driver& D) {
-        D.Choose("Drive1", 0);
-        EXPECT_EQ(D.Text("Path"), Drive_List().front());
-        D.Click("Cmd_Cancel");
-    });
-    Choose_Dir(Path, Cancelled);
-    EXPECT_EQ(Cancelled, 1);
-    EXPECT_EQ(Path, Other);
-}
-
 TEST_F(Dialogs, TheChooserBeginsWhereItCan) {
     const std::pair<std::string, std::string> Starts[] = {
         {"", App_Path},
@@ -183,52 +91,16 @@ TEST_F(Dialogs, TheChooserBeginsWhereItCan) {
     }
 }
 
-TEST_F(Dialogs, TheSimulatorsDirectoryIsChosenByADoubleClick) {
-    const std::string FS = Make_Dir("FS9");
-    Run("Frm_PGen", [&](Form_Driver& D) {
-        const Modal_Script Leaves([](Form_Driver& Chooser) { Chooser.Click("Cmd_Cancel"); });
-        D.Type("DirFS", "half a path");
-        D.Double_Click("DirFS");
-        EXPECT_EQ(D.Text("DirFS"), "half a path");
-        D.Choose("Opt_Lang", 1);
-        EXPECT_EQ(D.Last_Message(), 1) << "still to be read";
-        D.Escape();
-        D.Choose("Opt_Lang", 1);
-        const Modal_Script Chooses([&](Form_Driver& Chooser) {
-            EXPECT_EQ(Chooser.Title(), "FS9 directory") << "in the language just chosen";
-            Dir_Path = FS;
-            Chooser.Click("Cmd_Ok");
-        });
-        D.Double_Click("DirFS");
-        EXPECT_EQ(D.Text("DirFS"), FS + "\\");
-        D.Click("Cmd_Ok");
-    });
-    EXPECT_EQ(DirFS, FS + "\\");
-}
-
 TEST_F(Dialogs, SettingsThatCannotBeKeptAreTold) {
     File_Delete(App_Path + "\\Resource\\.keep");
     std::filesystem::remove(Dir.Native("App/Resource"));
-    Run("Frm_PGen", [](Form_Driver& D) {
+    const Modal_Script Chooses([](Form_Driver& D) {
         D.Choose("Opt_Lang", 1);
         D.Click("Cmd_Ok");
     });
+    The_Host().Run_Form("Frm_PGen");
     ASSERT_EQ(Host_Of_Test.Boxes.size(), 1U);
     EXPECT_EQ(Host_Of_Test.Boxes[0].Text, "The settings could not be saved");
     EXPECT_EQ(Language, "US") << "they hold for this run";
     EXPECT_EQ(Fl1Fois, 1);
-}
-
-TEST_F(Dialogs, TheGridColourIsChosenByAClick) {
-    Run("Frm_ColourGrid", [](Form_Driver& D) {
-        EXPECT_EQ(D.Value("Opt_ColourGrid"), 2);
-        D.Choose("Opt_ColourGrid", 5);
-    });
-    EXPECT_EQ(Grid_Colour, 0x404040);
-    EXPECT_EQ(Grid_Colour_Index, 5);
-    Run("Frm_ColourGrid", [](Form_Driver& D) {
-        EXPECT_EQ(D.Value("Opt_ColourGrid"), 5);
-        EXPECT_TRUE(D.Escape());
-    });
-    EXPECT_EQ(Grid_Colour_Index, 5);
 }
