@@ -130,8 +130,8 @@ void Player::Show(const Act& A) {
         }
         if (!F.Has(Name)) return Fail("there is no " + Name + " of " + F.Name());
         const Control& C = F[Name];
-        Print("show " + Name + " text=" + Quoted(Text_Shown(C)) +
-              " value=" + std::to_string(Value_Shown(C)) + " enabled=" + (F.Is_Enabled(Name) ? "1" : "0") +
+        Print("show " + Name + " text=" + Quoted(Text_Shown(C)) + " value=" +
+              std::to_string(Value_Shown(C)) + " enabled=" + (F.Is_Enabled(Name) ? "1" : "0") +
               " visible=" + (F.Is_Shown(Name) && F.Is_Visible(Name) ? "1" : "0"));
     }
 }

@@ -199,8 +199,8 @@ struct Named_Key {
 };
 
 constexpr Named_Key Named_Keys[] = {
-    {"Enter", Key_Enter},   {"Esc", Key_Escape},    {"Tab", Key_Tab}, {"Delete", Key_Delete},
-    {"Left", Key_Left},     {"Right", Key_Right},   {"Up", Key_Up},   {"Down", Key_Down},
+    {"Enter", Key_Enter},   {"Esc", Key_Escape},     {"Tab", Key_Tab}, {"Delete", Key_Delete},
+    {"Left", Key_Left},     {"Right", Key_Right},    {"Up", Key_Up},   {"Down", Key_Down},
     {"Pad+", Key_Pad_Plus}, {"Pad-", Key_Pad_Minus}, {"F4", Key_F4}};
 
 constexpr std::pair<std::string_view, Int> Key_Modifiers[] = {
