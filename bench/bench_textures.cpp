@@ -3,7 +3,7 @@
 //     bench_textures [RUNS]
 //
 // Files stand in the page cache. Rates are bytes of the picture that comes out, beside memcpy of
-// as many bytes into memory of its own; the median of RUNS runs.
+// as many bytes into memory of its own; the median processor time of RUNS runs.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -78,9 +78,9 @@ void Write(const fs::path& To, const std::string& Bytes) {
 double Seconds(int Runs, const std::function<void()>& Job) {
     std::vector<double> All;
     for (int Run = 0; Run < Runs; ++Run) {
-        const double Start = measure::Wall_Seconds();
+        const double Start = measure::Cpu_Seconds();
         Job();
-        All.push_back(measure::Wall_Seconds() - Start);
+        All.push_back(measure::Cpu_Seconds() - Start);
     }
     return measure::Median(All);
 }
@@ -110,15 +110,15 @@ void Read_One(const char* Name, const fs::path& File, int Runs) {
 // The user opens the picker and holds the arrow key down.
 void Go_Through(const fs::path& Dir) {
     LBmp_Dir = Program_Path(Dir).value();
-    const double Start = measure::Wall_Seconds();
+    const double Start = measure::Cpu_Seconds();
     const auto Picker = Make_Frm_LBmp();
     Form_Load(*Picker);
-    const double Opened = measure::Wall_Seconds();
+    const double Opened = measure::Cpu_Seconds();
     for (Long I = 1; I < Nb_In_Directory; ++I) {
         Form_Choose(*Picker, "File1", I);
         Stop_Unless(LBmp_Width > 0, "a texture was not shown");
     }
-    const double End = measure::Wall_Seconds();
+    const double End = measure::Cpu_Seconds();
     std::printf("picker: %d textures, open %.1f ms, then %.0f a second\n", Nb_In_Directory,
                 (Opened - Start) * 1e3, (Nb_In_Directory - 1) / (End - Opened));
 }

@@ -95,7 +95,6 @@ Texture_Fault Read_R8(File_Reader& File, const Palette& Pal, Texture& T) {
 }
 
 Texture_Fault Read(std::string_view Path, const Palette& Pal, Texture& T) {
-    const Hourglass Waits;
     File_Reader File(Path);
     if (!File.Is_Open()) return Texture_Fault::Not_There;
     if (File.Size() < Bitmap_Headers_Size) return Texture_Fault::Too_Short;
@@ -157,6 +156,7 @@ Int Texture_Error(Texture_Fault Fault) {
 
 Texture_Fault Texture_Read(std::string_view Path, const Palette& Pal, Picture& P,
                            std::string& Description) {
+    const Hourglass Waits;
     Texture T;
     const Texture_Fault Fault = Read(Path, Pal, T);
     const bool Is_Good = Fault == Texture_Fault::None;
@@ -167,6 +167,7 @@ Texture_Fault Texture_Read(std::string_view Path, const Palette& Pal, Picture& P
 
 Texture_Fault Texture_To_Bmp(std::string_view Source, const Palette& Pal, std::string_view Output,
                              std::string& Description, Int& Error) {
+    const Hourglass Waits;
     Texture T;
     const Texture_Fault Fault = Convert(Source, Pal, Output, T);
     if (Is_R8(T)) File_Delete(Tex_Temp.empty() ? App_Path + "\\Temp\\$Tex$.bmp" : Tex_Temp);
