@@ -84,6 +84,14 @@ protected:
         if (!Told_ && At != nullptr && E->button() == Qt::LeftButton) Tell(row(At));
     }
 
+    // Qt makes the first row the current one of a list without one that gets the focus.
+    void focusInEvent(QFocusEvent* E) override {
+        const int Row = currentRow();
+        const QSignalBlocker Quiet(this);
+        QListWidget::focusInEvent(E);
+        if (currentRow() != Row) setCurrentRow(Row);
+    }
+
 private:
     void Tell(int Row) {
         Told_ = true;
@@ -185,8 +193,7 @@ public:
         if (Box_ != nullptr) Box_->setTitle(Literal_Caption(C.Caption));
         const auto Wanted = static_cast<int>(std::max(C.Items.size(), C.Colours.size()));
         while (Group_->buttons().size() > Wanted && !In_Parts_) delete Group_->button(Nb() - 1);
-        while (Group_->buttons().size() < Wanted && !In_Parts_)
-            static_cast<QBoxLayout*>(Widget->layout())->insertWidget(Nb(), Make(Nb(), Widget));
+        while (Group_->buttons().size() < Wanted && !In_Parts_) Add(Nb());
         for (QAbstractButton* Option : Group_->buttons()) {
             Word(*Option, C, static_cast<std::size_t>(Group_->id(Option)));
             if (In_Parts_) Option->setEnabled(C.Enabled);
@@ -206,6 +213,10 @@ public:
 
 private:
     int Nb() const { return static_cast<int>(Group_->buttons().size()); }
+
+    void Add(int I) {  // before the room that is left
+        static_cast<QBoxLayout*>(Widget->layout())->insertWidget(I, Make(I, Widget));
+    }
 
     QWidget* Make(int I, QWidget* Parent) {
         auto* Option = new QRadioButton(Parent);
