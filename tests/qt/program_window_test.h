@@ -3,10 +3,8 @@
 
 #include <filesystem>
 #include <memory>
-#include <set>
 #include <string>
 
-#include "qt/canvas_widget.h"
 #include "qt/form_widget.h"
 #include "qt/form_window.h"
 #include "qt/program_window.h"
@@ -42,18 +40,6 @@ protected:
         return Runs;
     }
     void Open_Example() { ASSERT_TRUE(Start('"' + Dir.Path("Island.LWM") + '"')); }
-    bool Enabled(const std::string& Name) { return Find<QWidget>(*W, Name).isEnabled(); }
-    std::size_t Colours_Shown() {
-        const QImage& Image = W->Shown().Canvas()->Image();
-        std::set<QRgb> Seen;
-        for (int Y = 0; Y < Image.height(); Y += 7)
-            for (int X = 0; X < Image.width(); X += 7) Seen.insert(Image.pixel(X, Y));
-        return Seen.size();
-    }
-    bool Close(const char* Button) {
-        Dialog_Script Script({Answer(Button)});
-        return W->close();
-    }
 
     Window_Host Host;
     Host_Scope Above{Host};

@@ -36,7 +36,7 @@ void Add_Entries(Sample& S) {
            .Words = {"Path:", "Chemin:"},
            .Read_Only = true,
            .On_Click = Note("path "),
-           .On_Double_Click = Note("path-twice ")});
+           .On_Choose = Note("chooser ")});
     F.Add({.Kind = Kind::Check,
            .Name = "Chk",
            .Words = {"Check", "Cocher"},
@@ -47,9 +47,14 @@ void Add_Entries(Sample& S) {
            .Item_Words = {{"One", "Un"}, {"Two", "Deux"}, {"Three", "Trois"}},
            .On_Click = Note("option ")});
     F.Add({.Kind = Kind::Options, .Name = "Opt_Colour", .Colours = {0xFF0000, 0x00FF00}});
+    F.Add({.Kind = Kind::Options,
+           .Name = "Opt_Part",
+           .Item_Words = {{"Class", "Classe"}, {"Other", "Autre"}},
+           .On_Click = Note("part ")});
     F.Add({.Kind = Kind::List,
            .Name = "List",
            .Items = {"first", "second", "third"},
+           .On_Click = Note("row "),
            .On_Change = Note("list "),
            .On_Double_Click = Note("list-twice ")});
     F.Add({.Kind = Kind::Combo,
@@ -67,6 +72,8 @@ void Add_Rest(Sample& S) {
     F.Add({.Kind = Kind::Tab, .Name = "Tab_1", .Words = {"Page 1", "Page 1"}});
     F.Add({.Kind = Kind::Tab, .Name = "Tab_2", .Words = {"Page 2", "Page 2"}});
     F.Add({.Kind = Kind::Image, .Name = "Image", .On_Click = Note("image ")});
+    F.Add({.Kind = Kind::Image, .Name = "Preview", .Width = 64, .Height = 48, .Stretched = true});
+    F.Add({.Kind = Kind::Lamp, .Name = "Lamp", .Colour = 0xFF0000});
     F.Add({.Kind = Kind::Scroll_Bar,
            .Name = "Scroll",
            .Max = 100,
@@ -105,8 +112,9 @@ Sample::Sample() {
     Add_Entries(*this);
     Add_Rest(*this);
     F.Set_Layout(Column(
-        {Menu_Bar({Menu("Mnu", {"Mnu_Item"})}), Fields({"Number", "Field", Row({"Path", "Cbo"})}),
-         Row({"Lab", "Chk", Space()}), "Opt", "Opt_Colour",
+        {Menu_Bar({Menu("Mnu", {"Mnu_Item"})}), Fields({"Number", "Field", "Path"}),
+         Grid(2, {"Lab", "Chk", "Lamp", "Preview"}), "Opt", "Opt_Colour",
+         Fields({Row({Option("Opt_Part", 0), "Cbo"}), Option("Opt_Part", 1)}),
          Tabs("Tabs", {Tab("Tab_1", {"List"}), Tab("Tab_2", {Frame("Fram", {"Image", "Scroll"})})}),
          Buttons({"Cmd_Plain", "Cmd_Ok", "Cmd_Cancel", "Cmd_Help"})}));
 }

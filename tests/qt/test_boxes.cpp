@@ -56,29 +56,6 @@ TEST_F(Boxes_Test, EachButtonGivesItsNumber) {
     EXPECT_EQ(Press_In(Box_Yes_No_Cancel, "Annuler"), Button_Cancel);
 }
 
-TEST_F(Boxes_Test, DismissingABoxChangesNothing) {
-    EXPECT_EQ(Dismiss(Box_Ok), Button_Ok);
-    EXPECT_EQ(Dismiss(Box_Yes_No_Cancel), Button_Cancel);
-    EXPECT_EQ(Dismiss(Box_Yes_No), Button_No);
-}
-
-TEST_F(Boxes_Test, TheTextIsPlainAndKeepsItsLines) {
-    Dialog_Script Script({[](QDialog& D) {
-        auto& Box = static_cast<QMessageBox&>(D);
-        EXPECT_EQ(Box.text(), QStringLiteral("<b>\u00E9</b>\nline"));
-        EXPECT_EQ(Box.textFormat(), Qt::PlainText);
-        EXPECT_EQ(Box.icon(), QMessageBox::Warning);
-        EXPECT_EQ(Box.windowTitle(), "Title");
-        EXPECT_EQ(Box.defaultButton()->text(), "Yes");
-        QTest::keyClick(&Box, Qt::Key_Return);
-    }});
-    EXPECT_EQ(Show_Message_Box({.Text = "<b>\xE9</b>\r\nline",
-                                .Style = Box_Warning + Box_Yes_No_Cancel,
-                                .Title = "Title"},
-                               nullptr),
-              Button_Yes);
-}
-
 TEST_F(Boxes_Test, AFileIsAskedForInTheDirectoryGiven) {
     Dir.Write("b.lwm", "");
     Dialog_Script Script({[this](QDialog& D) {
@@ -103,6 +80,11 @@ TEST_F(Boxes_Test, ANameWithoutAnExtensionGetsThatOfTheFilter) {
 
 TEST_F(Boxes_Test, AFileIsReplacedOnlyAfterAQuestion) {
     Dir.Write("old.LWM", "");
+    {
+        const Dialog_Script Unasked({Typed("old")});
+        EXPECT_EQ(Ask_For_File(Question(File_Question::Kind::Any_Name), nullptr),
+                  Dir.Path("old.LWM"));
+    }
     Dialog_Script Script({Typed("old"), [](QDialog& Question) {
                               auto* Asked = static_cast<QDialog*>(Question.parentWidget());
                               QMetaObject::invokeMethod(Asked, &QDialog::reject,

@@ -1,6 +1,5 @@
 // tests/qt/test_canvas.cpp - the canvas on the screen, at the screen's fineness.
 #include <QImage>
-#include <QMouseEvent>
 #include <QWheelEvent>
 
 #include "qt/canvas_widget.h"
@@ -45,10 +44,6 @@ protected:
         return Shot.pixel(static_cast<int>((X + 0.5) * Fine()),
                           static_cast<int>((Y + 0.5) * Fine()));
     }
-    void Send(QEvent::Type What, Qt::MouseButton Button, Qt::MouseButtons Held) {
-        QMouseEvent E(What, QPointF(11, 12), QPointF(11, 12), Button, Held, Qt::ShiftModifier);
-        QCoreApplication::sendEvent(&Pic(), &E);
-    }
 
     Form F{"Frm_Canvas"};
     std::unique_ptr<Form_Window> W;
@@ -85,50 +80,27 @@ TEST_F(Canvas_Test, WhatIsPaintedIsSeen) {
     EXPECT_NE(On_Screen(20, 31), 0xFF00FF00U);
 }
 
-TEST_F(Canvas_Test, AFinePixelIsNotBlurred) {
-    Pic().Line({20, 0, 20, 60}, {.Colour = 0xFF0000});
-    const QImage& Image = Pic().Image();
-    int Red = 0;
-    for (int X = 0; X < Image.width(); ++X) Red += Image.pixel(X, 10) == 0xFFFF0000U;
-    EXPECT_EQ(Red, std::lround(Fine()));
-}
-
 TEST_F(Canvas_Test, TheOverlayLiesAboveAndLeavesTheImage) {
     const QRgb Before = On_Screen(40, 40);
     The_Overlay.Ln1 = {.At = {30, 40, 60, 40}, .Colour = 0x0000FF, .Visible = true};
     The_Overlay.Cercle = {.X = 100, .Y = 100, .Visible = true};
-    The_Overlay.LPtGrid = {.X = 150, .Y = 20, .Text = "123 m", .Visible = true};
+    The_Overlay.LPtGrid = {.X = 150, .Y = 20, .Visible = true, .Back_Colour = 0xFFC0FF};
+    The_Overlay.Croix1 = {.At = {150, 30, 260, 30}, .Colour = 0x00FF00, .Visible = true};
     Pic().Overlay_Changed();
     EXPECT_EQ(On_Screen(40, 40), 0xFF0000FFU);
     EXPECT_GT(qRed(On_Screen(105, 100)), 200) << "11 pixels across";
     EXPECT_EQ(On_Screen(100, 100), Before) << "the circle is hollow";
-    EXPECT_NE(On_Screen(152, 22), Before);
+    EXPECT_EQ(On_Screen(245, 33), 0xFFFFC0FFU) << "the label has its size without a text too";
+    EXPECT_EQ(Pic().Label_Size(The_Overlay.LPtGrid), (Size_Px{100, 17}));
+    EXPECT_EQ(On_Screen(160, 30), 0xFF00FF00U) << "the cross lies above the label";
     EXPECT_EQ(Pic().Image().pixel(static_cast<int>(40 * Fine()), static_cast<int>(40 * Fine())),
               Before);
-    The_Overlay.Ln1.Visible = false;
-    Pic().Overlay_Changed();
-    EXPECT_EQ(On_Screen(40, 40), Before);
-}
-
-TEST_F(Canvas_Test, TheMouseIsToldInCanvasPixels) {
-    using Kind = Mouse_Event::Kind;
-    Send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
-    Send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton | Qt::RightButton);
-    Send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
-    Send(QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton);
-    Send(QEvent::MouseButtonPress, Qt::MiddleButton, Qt::MiddleButton);
-    ASSERT_EQ(Seen.size(), 5U);
-    EXPECT_EQ(Seen[0].What, Kind::Press);
-    EXPECT_EQ(Seen[0].Button, Mouse_Left);
-    EXPECT_EQ(Seen[0].Shift, Shift_Key);
-    EXPECT_EQ(Seen[0].X, 11.0);
-    EXPECT_EQ(Seen[0].Y, 12.0);
-    EXPECT_EQ(Seen[1].What, Kind::Move);
-    EXPECT_EQ(Seen[1].Button, Mouse_Left + Mouse_Right);
-    EXPECT_EQ(Seen[2].What, Kind::Release);
-    EXPECT_EQ(Seen[3].What, Kind::Double_Click);
-    EXPECT_EQ(Seen[4].Button, Mouse_Middle);
-    EXPECT_EQ(F.Focus(), "");
+    const Overlay_Items None;
+    Pic().Set_Overlay(None);
+    EXPECT_EQ(On_Screen(40, 40), Before) << "another canvas has another overlay";
+    Pic().Set_Overlay(The_Overlay);
+    EXPECT_EQ(F.View->Surface_Of("Pic"), &Pic());
+    EXPECT_EQ(F.View->Surface_Of("Up"), nullptr);
 }
 
 TEST_F(Canvas_Test, SmallTurnsOfTheWheelAddUpToSteps) {

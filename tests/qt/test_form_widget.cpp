@@ -3,17 +3,15 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QMenuBar>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScrollBar>
 #include <QTabWidget>
+#include <algorithm>
 
 #include "qt/form_widget.h"
 #include "qt/form_window.h"
@@ -56,33 +54,6 @@ protected:
 
 }  // namespace
 
-TEST_F(Form_Widget_Test, EveryControlIsThereUnderItsNameAndReadsWell) {
-    for (const Control& C : S.F.Controls()) {
-        if (C.Kind == Control_Kind::Menu || C.Kind == Control_Kind::Menu_Item) {
-            EXPECT_NE(W->findChild<QObject*>(Qt_Text(C.Name)), nullptr) << C.Name;
-            continue;
-        }
-        auto* Widget = W->findChild<QWidget*>(Qt_Text(C.Name));
-        ASSERT_NE(Widget, nullptr) << C.Name;
-        const std::string Said = C.Caption.empty() ? C.Name : C.Caption;
-        EXPECT_EQ(Program_Text(Widget->accessibleName()), Said) << C.Name;
-    }
-    EXPECT_EQ(W->windowTitle(), "Sample");
-    EXPECT_EQ(Get<QAbstractButton>("Opt(1)").text(), "Two");
-    EXPECT_EQ(Get<QTabWidget>("Tabs").tabText(1), "Page 2");
-    EXPECT_EQ(Get<QAction>("Mnu_Item").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_I));
-}
-
-TEST_F(Form_Widget_Test, AnAmpersandIsALetter) {
-    S.F.Set_Caption("Cmd_Plain", "Roads & rails");
-    Turn();
-    EXPECT_EQ(Get<QPushButton>("Cmd_Plain").text(), "Roads && rails") << "Qt shows one of them";
-    EXPECT_TRUE(Get<QPushButton>("Cmd_Plain").shortcut().isEmpty());
-    S.F.Set_Caption("Lab", "Roads & rails");
-    Turn();
-    EXPECT_EQ(Get<QLabel>("Lab").text(), "Roads & rails");
-}
-
 TEST_F(Form_Widget_Test, ChangesOfTheFormAreFollowed) {
     Form& F = S.F;
     Picture Shown = Picture_Make(30, 20, 24);
@@ -92,6 +63,7 @@ TEST_F(Form_Widget_Test, ChangesOfTheFormAreFollowed) {
     F.Set_Items("List", {"a", "b", "c", "d"}, 3);
     F.Set_Items("Cbo", {"x"}, 0);
     F.Set_Value("Tabs", 1);
+    F.Set_Enabled("Tab_2", false);
     F.Set_Value("Scroll", 40);
     F.Set_Shown("Image", &Shown);
     F.Set_Enabled("Cmd_Ok", false);
@@ -108,9 +80,9 @@ TEST_F(Form_Widget_Test, ChangesOfTheFormAreFollowed) {
     EXPECT_EQ(Get<QListWidget>("List").count(), 4);
     EXPECT_EQ(Get<QListWidget>("List").currentRow(), 3);
     EXPECT_EQ(Get<QComboBox>("Cbo").currentText(), "x");
-    EXPECT_EQ(Get<QTabWidget>("Tabs").currentIndex(), 1);
     EXPECT_EQ(Get<QScrollBar>("Scroll").value(), 40);
     EXPECT_EQ(Get<QWidget>("Image").size(), QSize(30, 20));
+    EXPECT_EQ(Get<QTabWidget>("Tabs").currentIndex(), 1) << "though the page is disabled";
     EXPECT_FALSE(Get<QWidget>("Cmd_Ok").isEnabled());
     EXPECT_FALSE(Get<QWidget>("Number").isVisible());
     EXPECT_FALSE(Get<QWidget>("Scroll").isEnabled()) << "its frame is disabled";
@@ -120,6 +92,37 @@ TEST_F(Form_Widget_Test, ChangesOfTheFormAreFollowed) {
     EXPECT_EQ(S.Log, "") << "no handler has run";
 }
 
+TEST_F(Form_Widget_Test, AListThatIsEnteredChoosesNothing) {
+    S.F.Set_Value("List", -1);
+    Turn();
+    Get<QListWidget>("List").setFocus(Qt::TabFocusReason);
+    Turn();
+    EXPECT_EQ(S.F.Focus(), "List");
+    EXPECT_EQ(S.F["List"].Value, -1);
+    Press(*W, Qt::Key_Down);
+    EXPECT_EQ(S.F["List"].Value, 0);
+    EXPECT_LT(Get<QWidget>("Opt(0)").x(), Get<QWidget>("Opt").width() / 4) << "to the left";
+}
+
+TEST_F(Form_Widget_Test, ColoursAndSizesOfTheirOwn) {
+    const auto Middle = [&](const char* Name) {
+        const QImage Shot = Get<QWidget>(Name).grab().toImage();
+        return Shot.pixel(Shot.width() / 2, Shot.height() / 2);
+    };
+    EXPECT_EQ(Middle("Lamp"), 0xFFFF0000U);
+    S.F.Set_Colour("Lamp", 0x00FF00);
+    S.F.Set_Colour("Lab", 0xFF0000, 0xFFFFC0);
+    EXPECT_EQ(Get<QWidget>("Preview").size(), QSize(64, 48)) << "empty as it is";
+    Picture White = Picture_Make(2, 2, 24);
+    std::ranges::fill(White.Bytes, 255);
+    S.F.Set_Shown("Preview", &White);
+    Turn();
+    EXPECT_EQ(Middle("Lamp"), 0xFF00FF00U);
+    EXPECT_EQ(Get<QLabel>("Lab").palette().color(QPalette::WindowText), QColor(Qt::red));
+    EXPECT_EQ(Get<QWidget>("Preview").grab().toImage().pixel(60, 44), 0xFFFFFFFFU);
+    EXPECT_EQ(Get<QWidget>("Preview").size(), QSize(64, 48));
+}
+
 TEST_F(Form_Widget_Test, WhatTheUserDoesReachesTheForm) {
     Click(*W, "Cmd_Plain");
     Click(*W, "Chk");
@@ -127,9 +130,13 @@ TEST_F(Form_Widget_Test, WhatTheUserDoesReachesTheForm) {
     auto& List = Get<QListWidget>("List");
     const QPoint Second = List.visualItemRect(List.item(1)).center();
     QTest::mouseClick(List.viewport(), Qt::LeftButton, {}, Second);
+    QTest::mouseClick(List.viewport(), Qt::LeftButton, {}, Second);
     QTest::mouseDClick(List.viewport(), Qt::LeftButton, {}, Second);
     Click(*W, "Path");
     QTest::mouseDClick(&Get<QLineEdit>("Path"), Qt::LeftButton);
+    Press(*W, Qt::Key_F4);
+    Get<QAction>("Path.choose").trigger();
+    Click(*W, "Opt_Part(1)");
     Get<QComboBox>("Cbo").setFocus(Qt::TabFocusReason);
     QTest::keyClick(&Get<QComboBox>("Cbo"), Qt::Key_Down);
     auto& Bar = *Get<QTabWidget>("Tabs").tabBar();
@@ -137,22 +144,15 @@ TEST_F(Form_Widget_Test, WhatTheUserDoesReachesTheForm) {
     Turn();
     Get<QScrollBar>("Scroll").triggerAction(QAbstractSlider::SliderPageStepAdd);
     Get<QAction>("Mnu_Item").trigger();
-    EXPECT_EQ(S.Log, "plain check option list list-twice path path-twice combo tab scroll item ");
+    EXPECT_EQ(S.Log,
+              "plain check option list row row list-twice path chooser chooser chooser part "
+              "combo tab scroll item ");
     EXPECT_EQ(S.F["Chk"].Value, 1);
     EXPECT_EQ(S.F["Opt"].Value, 1);
     EXPECT_EQ(S.F["List"].Value, 1);
     EXPECT_EQ(S.F["Cbo"].Value, 1);
     EXPECT_EQ(S.F["Tabs"].Value, 1);
     EXPECT_EQ(S.F["Scroll"].Value, 10);
-}
-
-TEST_F(Form_Widget_Test, TypedTextIsOfTheCodePage) {
-    Get<QLineEdit>("Field").setFocus(Qt::TabFocusReason);
-    Turn();
-    QKeyEvent Typed(QEvent::KeyPress, 0, Qt::NoModifier, QStringLiteral("\u00E9\u20AC\u4E2D"));
-    QCoreApplication::sendEvent(&Get<QLineEdit>("Field"), &Typed);
-    EXPECT_EQ(S.F["Field"].Text, "\xE9\x80?");
-    EXPECT_EQ(S.Log, "typed ");
 }
 
 TEST_F(Form_Widget_Test, AFieldIsSelectedOnEntryAndReadOnEnter) {
@@ -211,25 +211,6 @@ TEST_F(Form_Widget_Test, AClickOnAControlReadsTheFieldOnce) {
     EXPECT_EQ(S.F.End(), Form_End::Ok);
 }
 
-TEST_F(Form_Widget_Test, CancelAndTheCloseButtonReadNoField) {
-    Bad_Number();
-    Click(*W, "Cmd_Cancel");
-    EXPECT_EQ(Messages(), 0U);
-    EXPECT_EQ(S.F.End(), Form_End::Closed);
-    EXPECT_TRUE(S.F.Is_Closed());
-    EXPECT_TRUE(W->close());
-}
-
-TEST_F(Form_Widget_Test, ClosingTheWindowIsTheFormsDecision) {
-    bool Lets = false;
-    S.F.On_Close = [&] { return Lets; };
-    EXPECT_FALSE(W->close());
-    EXPECT_FALSE(S.F.Is_Closed());
-    Lets = true;
-    EXPECT_TRUE(W->close());
-    EXPECT_TRUE(S.F.Is_Closed());
-}
-
 TEST_F(Form_Widget_Test, TheFormSeesAKeyBeforeFieldsAndMenus) {
     std::vector<Key_Event> Seen;
     bool Takes = true;
@@ -253,48 +234,6 @@ TEST_F(Form_Widget_Test, TheFormSeesAKeyBeforeFieldsAndMenus) {
     EXPECT_EQ(Get<QLineEdit>("Number").text(), "5");
 }
 
-TEST_F(Form_Widget_Test, ALetterThatTheFormLeavesOpensItsMenu) {
-    QMenu& Menu = Get<QMenu>("Mnu");
-    ASSERT_EQ(Menu.title(), "&Menu");
-    Press(*W, Qt::Key_M, Qt::AltModifier);
-    EXPECT_TRUE(Menu.isVisible());
-    Menu.close();
-    Turn();
-    S.F.On_Key = [](Key_Event K) { return K.Shift == Alt_Key; };
-    Press(*W, Qt::Key_M, Qt::AltModifier);
-    EXPECT_FALSE(Menu.isVisible());
-    Press(*W, Qt::Key_I, Qt::ControlModifier);
-    EXPECT_EQ(S.Log, "item ");
-}
-
-TEST_F(Form_Widget_Test, AFieldFilledByAClickIsReachedByKeys) {
-    Get<QLineEdit>("Path").setFocus(Qt::TabFocusReason);
-    Turn();
-    Press(*W, Qt::Key_Space);
-    EXPECT_EQ(S.Log, "path ");
-}
-
-TEST_F(Form_Widget_Test, ButtonsStandByTheirRoles) {
-    const auto& Box = *W->findChild<QDialogButtonBox*>();
-    const auto Role = [&](const char* Name) { return Box.buttonRole(&Get<QPushButton>(Name)); };
-    EXPECT_EQ(Role("Cmd_Ok"), QDialogButtonBox::AcceptRole);
-    EXPECT_EQ(Role("Cmd_Cancel"), QDialogButtonBox::RejectRole);
-    EXPECT_EQ(Role("Cmd_Help"), QDialogButtonBox::HelpRole);
-    EXPECT_EQ(Role("Cmd_Plain"), QDialogButtonBox::ActionRole);
-    EXPECT_TRUE(Get<QPushButton>("Cmd_Ok").isDefault());
-    Press(*W, Qt::Key_Return);
-    EXPECT_EQ(S.F.End(), Form_End::Ok) << "Enter presses the default button";
-}
-
-TEST_F(Form_Widget_Test, FieldsAreAlignedUnderTheirLabels) {
-    const auto Left = [&](const char* Name) {
-        return Get<QWidget>(Name).mapTo(W.get(), QPoint()).x();
-    };
-    EXPECT_EQ(Left("Number"), Left("Field"));
-    EXPECT_EQ(Left("Number"), Left("Path"));
-    EXPECT_GT(Left("Number"), 0);
-}
-
 TEST(Form_Dialog_Test, DialogsRunOneAboveTheOther) {
     Sample Outer, Inner;
     Outer.F.Handlers("Cmd_Plain").On_Click = [&] { Run_Dialog(Inner.F, nullptr); };
@@ -309,15 +248,4 @@ TEST(Form_Dialog_Test, DialogsRunOneAboveTheOther) {
     EXPECT_EQ(Outer.F.End(), Form_End::Ok);
     EXPECT_EQ(Outer.Log, "check ") << "the outer one worked on after the inner";
     EXPECT_EQ(Outer.F.View, nullptr);
-}
-
-TEST(Form_Dialog_Test, ATimerTicksWhileTheFormIsShown) {
-    Sample S;
-    int Ticks = 0;
-    S.F.Tick_Ms = 1;
-    S.F.On_Tick = [&] {
-        if (++Ticks == 3) S.F.Close(Form_End::Ok);
-    };
-    Run_Dialog(S.F, nullptr);
-    EXPECT_EQ(Ticks, 3);
 }

@@ -2,6 +2,7 @@
 #include "ui/form/form_events.h"
 
 #include "platform/text1252.h"
+#include "ui/form/field_rules.h"
 #include "ui_support/ui_test.h"
 
 namespace {
@@ -188,20 +189,6 @@ TEST_F(Form_Events, AHandlerMayChangeWhatFollows) {
     EXPECT_EQ(F.Log, "entry ") << "nothing runs once the form is closed";
 }
 
-TEST_F(Form_Events, AFieldFilledByAClick) {
-    Form Chooser("Chooser");
-    int Nb = 0;
-    Chooser.Add({.Kind = Control_Kind::Text, .Name = "File", .Read_Only = true, .On_Click = [&] {
-                     Chooser.Set_Text("File", std::to_string(++Nb));
-                 }});
-    Chooser.Set_Layout(Column({"File"}));
-    Form_Driver Of_Chooser(Chooser);
-    EXPECT_FALSE(Of_Chooser.Type("File", "typed"));
-    EXPECT_TRUE(Of_Chooser.Click("File"));
-    EXPECT_TRUE(Of_Chooser.Enter()) << "by keyboard";
-    EXPECT_EQ(Of_Chooser.Text("File"), "2");
-}
-
 TEST_F(Form_Events, ScrollBarsHoldTheirRange) {
     Form Bars("Bars");
     std::vector<Long> Told;
@@ -250,12 +237,111 @@ TEST_F(Form_Events, AWindowIsToldOfChangesOnly) {
     EXPECT_EQ(F.End(), Form_End::Ok) << "a form ends once";
 }
 
-TEST_F(Form_Events, TheWindowsOwnButton) {
+TEST_F(Form_Events, AFieldIsFilledByAClickOrItsChooser) {
+    Form Chooser("Chooser");
+    std::string Log;
+    Chooser.Add({.Kind = Control_Kind::Text, .Name = "File", .Read_Only = true, .On_Click = [&] {
+                     Log += "click ";
+                 }});
+    Chooser.Add({.Kind = Control_Kind::Text, .Name = "Tex", .No_Quotes = true, .On_Choose = [&] {
+                     Log += "choose ";
+                 }});
+    Chooser.Set_Layout(Column({"File", "Tex"}));
+    Form_Driver Of_Chooser(Chooser);
+    EXPECT_FALSE(Of_Chooser.Type("File", "typed"));
+    EXPECT_TRUE(Of_Chooser.Click("File"));
+    EXPECT_TRUE(Of_Chooser.Enter()) << "by keyboard";
+    EXPECT_FALSE(Of_Chooser.Key({Key_F4, 0})) << "it has no chooser";
+    Of_Chooser.Double_Click("Tex");
+    EXPECT_TRUE(Of_Chooser.Key({Key_F4, 0}));
+    EXPECT_EQ(Log, "click click choose choose ");
+    Of_Chooser.Type("Tex", "the \"best\"");
+    EXPECT_EQ(Of_Chooser.Text("Tex"), "the 'best'");
+}
+
+TEST_F(Form_Events, EscapeClosesWhatIsModalAndHasNoCancel) {
+    for (const bool Modal : {true, false}) {
+        Form Bare("Bare");
+        int Unloaded = 0;
+        Bare.Modal = Modal;
+        Bare.On_Unload = [&] { ++Unloaded; };
+        EXPECT_EQ(Form_Key(Bare, {Key_Escape, 0}), Modal);
+        EXPECT_EQ(Bare.Is_Closed(), Modal);
+        EXPECT_TRUE(Form_User_Close(Bare));
+        EXPECT_EQ(Unloaded, 1);
+    }
     bool May_Close = false;
     F.On_Close = [&] { return May_Close; };
     EXPECT_FALSE(D.Close());
     May_Close = true;
     EXPECT_TRUE(D.Close());
-    Form Bare("Bare");
-    EXPECT_TRUE(Form_User_Close(Bare));
+}
+
+TEST_F(Form_Events, APageIsBroughtToTheFrontUnlessAFieldHoldsOn) {
+    Form Paged("Paged");
+    Long Width = 5;
+    Paged.Add({.Kind = Control_Kind::Tabs, .Name = "SSTb"});
+    for (const char* Name : {"Tab_0", "Tab_1", "Tab_2"})
+        Paged.Add({.Kind = Control_Kind::Tab, .Name = Name});
+    Paged.Add({.Kind = Control_Kind::Number, .Name = "Width", .Rule = Number_Rule(Width)});
+    Paged.Add({.Kind = Control_Kind::Frame, .Name = "Fram"});
+    for (const char* Name : {"Chk_1", "Chk_2"})
+        Paged.Add({.Kind = Control_Kind::Check, .Name = Name});
+    Paged.Set_Layout(Tabs("SSTb", {Tab("Tab_0", {"Width"}), Tab("Tab_1", {"Chk_1"}),
+                                   Tab("Tab_2", {Frame("Fram", {"Chk_2"})})}));
+    Paged.Set_Enabled("Tab_1", false);
+    EXPECT_FALSE(Form_Click(Paged, "Chk_2")) << "it is on a page behind";
+    Form_Type(Paged, "Width", "x");
+    EXPECT_FALSE(Form_Bring_To_Front(Paged, "Chk_2"));
+    EXPECT_EQ(Paged["SSTb"].Value, 0);
+    Form_Type(Paged, "Width", "6");
+    EXPECT_TRUE(Form_Bring_To_Front(Paged, "Chk_2"));
+    EXPECT_EQ(Width, 6);
+    EXPECT_EQ(Paged.Focus(), "") << "the field has gone to the back";
+    EXPECT_TRUE(Form_Click(Paged, "Chk_2"));
+    EXPECT_FALSE(Form_Bring_To_Front(Paged, "Chk_1")) << "its page is disabled";
+    EXPECT_FALSE(Form_Choose(Paged, "SSTb", 3));
+    EXPECT_EQ(Paged["SSTb"].Value, 2);
+}
+
+TEST_F(Form_Events, NumbersAreTakenAsTheirTargetsHoldThem) {
+    Int Whole = 5;
+    Single Altitude = 0.5F;
+    const Field_Rule Of_Whole = Number_Rule(Whole, {.Min = 0, .Max = 63});
+    const Field_Rule Of_Altitude = Number_Rule(Altitude, {.Min = -9999, .Below = 10000});
+    EXPECT_EQ(Of_Altitude.Held(), "0.5");
+    EXPECT_TRUE(Of_Altitude.Accept("100,1"));
+    EXPECT_EQ(Of_Altitude.Held(), "100.1") << "with the digits of a Single";
+    EXPECT_FALSE(Of_Altitude.Accept("10000"));
+    EXPECT_TRUE(Of_Whole.Accept("2.5"));
+    EXPECT_EQ(Whole, 2) << "half to even";
+    EXPECT_FALSE(Of_Whole.Accept("63.5"));
+    EXPECT_FALSE(Number_Rule(Whole).Accept("32768")) << "more than it holds";
+    EXPECT_EQ(Whole, 2);
+}
+
+TEST_F(Form_Events, FormsThatAreNotModalAreOpenUntilTheyClose) {
+    static int Ticks;
+    Ticks = 0;
+    Form_Register("Frm_Free", [] {
+        auto Made = std::make_unique<Form>("Frm_Free", Wording{"Free", "Libre"});
+        Made->On_Tick = [F = Made.get()] {
+            if (++Ticks == 2) F->Close(Form_End::Closed);
+        };
+        return Made;
+    });
+    for (int Round = 0; Round < 2; ++Round) {
+        EXPECT_TRUE(Form_Open("Frm_Free", Host_Of_Test));
+        EXPECT_TRUE(Form_Open("Frm_Free", Host_Of_Test)) << "it is there already";
+        ASSERT_EQ(Forms_Open().size(), 1U);
+        const std::shared_ptr<Form> Free = Forms_Open().front();
+        EXPECT_FALSE(Free->Modal);
+        Form_Tick(*Free);
+        Form_Tick(*Free);
+        if (Round == 1) Forms_Close();
+        EXPECT_TRUE(Free->Is_Closed());
+        EXPECT_TRUE(Forms_Open().empty());
+    }
+    EXPECT_FALSE(Form_Open("Frm_Nowhere", Host_Of_Test));
+    Form_Register("Frm_Free", {});
 }

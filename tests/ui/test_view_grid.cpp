@@ -4,6 +4,8 @@
 
 #include "core/program.h"
 #include "grid/terrain_grid.h"
+#include "ui/canvas/grid_marks.h"
+#include "ui/canvas/own_canvas.h"
 #include "ui/canvas/view.h"
 #include "ui/edit/modes.h"
 #include "ui_support/view_test.h"
@@ -102,6 +104,51 @@ TEST_F(View_Grid, AGridThatIsHiddenIsStillWorkedOut) {
 }
 
 // A map of the whole globe shrunk to a few pixels has 41,000 lines.
+TEST_F(View_Grid, SquaresRoundCornersStandHalfACellFurther) {
+    Tab_LC.Append(Record_At<LC_Cell>(1, 1));  // its north-west corner is the map's
+    Grid_Find(Grid_Place::On_Corners);
+    EXPECT_TRUE(Canvas.Ops.empty());
+    Grid_Draw_Lines();
+    EXPECT_EQ(Canvas.Lines_With(Red),
+              (std::vector<Line_Px>{{-10, 30, 210, 30}, {10, -10, 10, 170}}))
+        << "with the colours that they have at home";
+    std::vector<Square_Px> Seen;
+    Squares_In_View(Pixel_To_Cell_Shift)
+        .For_Each_Record(Tab_LC, [&](const Square_Px& S, const LC_Cell&) {
+            Seen.push_back(S);
+            Hatching().Paint(S, Hatch_Grey);
+        });
+    ASSERT_EQ(Seen.size(), 1U);
+    EXPECT_EQ(Seen[0].Left, -10);
+    EXPECT_EQ(Seen[0].Bottom, 10);
+    const Pen Grey{.Colour = Hatch_Grey, .Style = Line_Style::Dotted};
+    EXPECT_EQ(Canvas.Lines_With(Grey), (std::vector<Line_Px>{{-3, -10, -3, 10}, {3, -10, 3, 10}}));
+}
+
+TEST_F(View_Grid, ADialogsCanvasHasItsOwnViewAndOverlay) {
+    struct Drawn final : Form_View {
+        Recorded_Surface Pic;
+        void Control_Changed(const Control&) override {}
+        void Title_Changed(const Form&) override {}
+        void Focus_Changed(const Control&, bool) override {}
+        void Form_Closed(const Form&) override {}
+        Surface* Surface_Of(std::string_view) override { return &Pic; }
+    } Window;
+    Form F("Frm_CadBmp");
+    Own_Canvas Own;
+    Zoom = 3.0;
+    for (Form_View* View : {static_cast<Form_View*>(nullptr), static_cast<Form_View*>(&Window)}) {
+        F.View = View;
+        const Canvas_Scope On(F, "Pic", Own);
+        Zoom += 1.0;
+        The_Surface().Refresh();
+    }
+    EXPECT_EQ(Zoom, 3.0);
+    EXPECT_EQ(Own.View.Zoom, 3.0) << "1, and twice 1 more";
+    EXPECT_EQ(Window.Pic.Ops.size(), 1U);
+    EXPECT_TRUE(Canvas.Ops.empty());
+}
+
 TEST_F(View_Grid, LinesThatFallOnOneAnotherArePaintedOnce) {
     Lay_Grid(128, 3);
     LatGridNW = 90.0, LatGridSE = -90.0, LonGridNW = -180.0, LonGridSE = 180.0;

@@ -54,6 +54,17 @@ TEST_F(View_Objects, APenForEach) {
     EXPECT_EQ(Canvas.Ops, (std::vector{Line_Op({10, 20, 50, 20}, {.Colour = 0x00FF00})}));
 }
 
+TEST_F(View_Objects, OneByItselfBeItAPoint) {
+    Add({{10.0, 10.0}, {50.0, 10.0}});
+    const Long Point = Add({{100.0, 60.0}});
+    const Pen Green{.Colour = 0x00FF00};
+    const Lines Block{{99, 59, 101, 59}, {99, 60, 101, 60}, {99, 61, 101, 61}};
+    Object_Paint(Point, Green);
+    EXPECT_EQ(Canvas.Lines_With(Green), Block);
+    Objects_Draw([](Long) { return Backdrop; }, Single_Points::As_Blocks);
+    EXPECT_EQ(Canvas.Lines_With(Backdrop).size(), 4U);
+}
+
 // Whether a line of width 2 reaches the canvas, told from many places of it.
 bool Reaches_Canvas(const Line_Px& L, Double Margin) {
     constexpr int Places = 4000;
