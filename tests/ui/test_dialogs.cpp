@@ -1,7 +1,9 @@
 // tests/ui/test_dialogs.cpp - what all forms have in common, and what a script cannot bring about.
 #include <filesystem>
 
+#include "core/typed_number.h"
 #include "platform/files.h"
+#include "ui/canvas/edit_state.h"
 #include "ui/dialogs/frm_dir.h"
 #include "ui/form/form_list.h"
 #include "ui/form/mnemonics.h"
@@ -43,6 +45,8 @@ void Expect_Whole(const Form& F) {
             Expect_Both(W, Where);
             EXPECT_TRUE(W.Is_Set()) << Where;
         }
+        const bool Is_Number = !C.Caption.empty() && Typed_Number(C.Caption).has_value();
+        if (Is_Number) continue;  // which every language reads
         EXPECT_TRUE(!Needs_Words(C) || C.Words.Is_Set() || C.Tip_Words.Is_Set()) << Where;
         EXPECT_TRUE(C.Caption.empty() || C.Words.Is_Set()) << Where << ": in one language only";
         EXPECT_TRUE(C.Kind != Control_Kind::Options || !C.Item_Words.empty() || !C.Colours.empty())
@@ -53,6 +57,7 @@ void Expect_Whole(const Form& F) {
 }  // namespace
 
 TEST_F(Dialogs, EveryTextHasBothWordings) {
+    Ima_Dialog = Ima_Dialogs::Create;
     Expect_Whole(Frm());
     for (const std::string& Name : Form_Names()) Expect_Whole(*Form_Make(Name));
     EXPECT_GE(Form_Names().size(), 3U);

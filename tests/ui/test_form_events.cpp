@@ -343,5 +343,4 @@ TEST_F(Form_Events, FormsThatAreNotModalAreOpenUntilTheyClose) {
         EXPECT_TRUE(Forms_Open().empty());
     }
     EXPECT_FALSE(Form_Open("Frm_Nowhere", Host_Of_Test));
-    Form_Register("Frm_Free", {});
 }

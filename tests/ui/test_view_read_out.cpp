@@ -43,9 +43,9 @@ TEST_F(View_Read_Out, SouthAndWestAreCutDownwards) {
     Lay_Grid(0, 0);
     Mouse_Read_Out({10.0, 170.0});
     EXPECT_EQ(Label("LLat"), "S00:04:17.0801");
-    EXPECT_EQ(Label("LLatDec"), "-.0714112") << "-0.0714111328125";
+    EXPECT_EQ(Label("LLatDec"), "-0.0714112") << "-0.0714111328125";
     EXPECT_EQ(Label("LLon"), "W000:00:26.3672");
-    EXPECT_EQ(Label("LLonDec"), "-.0073243") << "-0.00732421875";
+    EXPECT_EQ(Label("LLonDec"), "-0.0073243") << "-0.00732421875";
     EXPECT_EQ(Label("L_NumCell_Area"), "C: 383-256  A: 31-6  x,y 128-128");
 }
 
