@@ -56,18 +56,6 @@ TEST_F(Boxes_Test, EachButtonGivesItsNumber) {
     EXPECT_EQ(Press_In(Box_Yes_No_Cancel, "Annuler"), Button_Cancel);
 }
 
-TEST_F(Boxes_Test, AFileIsAskedForInTheDirectoryGiven) {
-    Dir.Write("b.lwm", "");
-    Dialog_Script Script({[this](QDialog& D) {
-        auto& Asked = static_cast<QFileDialog&>(D);
-        EXPECT_EQ(Asked.windowTitle(), "Loading a file");
-        EXPECT_EQ(Asked.directory().absolutePath().toStdString(), Dir.Native().string());
-        EXPECT_TRUE(Asked.nameFilters().front().contains(QLatin1String("*.LWM *.lwm")));
-        Typed("b.lwm")(D);
-    }});
-    EXPECT_EQ(Ask_For_File(Question(File_Question::Kind::Open), nullptr), Dir.Path("b.lwm"));
-}
-
 TEST_F(Boxes_Test, ANameWithoutAnExtensionGetsThatOfTheFilter) {
     Dir.Write("old.LWM", "");
     {

@@ -23,10 +23,7 @@ protected:
                    }});
         F.Add({.Kind = Control_Kind::Scroll_Bar, .Name = "Up", .Max = 10});
         F.Add({.Kind = Control_Kind::Scroll_Bar, .Name = "Flat", .Max = 10});
-        F.Add({.Kind = Control_Kind::Frame, .Name = "Fram", .Visible = false});
-        F.Add({.Name = "Progress", .Caption = "42 %"});
-        F.Set_Layout(
-            Column({Canvas("Pic", {"Up", "Flat"}), Over_Canvas({Frame("Fram", {"Progress"})})}));
+        F.Set_Layout(Column({Canvas("Pic", {"Up", "Flat"})}));
         W = std::make_unique<Form_Window>(F, nullptr, Qt::Window);
         W->resize(400, 300);
         W->show();
@@ -58,9 +55,6 @@ TEST_F(Canvas_Test, TheImageIsAsFineAsTheScreen) {
     EXPECT_EQ(Size.first, Pic().width());
     EXPECT_EQ(Size.second, Pic().height());
     EXPECT_EQ(Pic().Image().width(), std::lround(Pic().width() * Fine()));
-    if (!qEnvironmentVariableIsEmpty("QT_SCALE_FACTOR")) {
-        EXPECT_EQ(Fine(), qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
-    }
     W->resize(520, 444);
     Turn();
     EXPECT_EQ(Size.first, Pic().width());
@@ -117,19 +111,4 @@ TEST_F(Canvas_Test, SmallTurnsOfTheWheelAddUpToSteps) {
     EXPECT_EQ(Seen[0].What, Mouse_Event::Kind::Wheel);
     EXPECT_EQ(Seen[0].Steps, 1);
     EXPECT_EQ(Seen[1].Steps, -2);
-    EXPECT_EQ(Seen[1].Y, 6.0);
-}
-
-TEST_F(Canvas_Test, APanelLiesOverTheMiddleWhileItIsVisible) {
-    QWidget& Panel = Find<QWidget>(*W, "Fram");
-    EXPECT_FALSE(Panel.isVisible());
-    F.Set_Visible("Fram", true);
-    Turn();
-    ASSERT_TRUE(Panel.isVisible());
-    const QPoint Middle = Panel.mapTo(&Pic(), Panel.rect().center());
-    EXPECT_NEAR(Middle.x(), Pic().width() / 2, 2);
-    EXPECT_NEAR(Middle.y(), Pic().height() / 2, 2);
-    F.Set_Visible("Fram", false);
-    Turn();
-    EXPECT_FALSE(Panel.isVisible());
 }

@@ -172,19 +172,6 @@ TEST_F(Form_Widget_Test, AFieldIsSelectedOnEntryAndReadOnEnter) {
     EXPECT_TRUE(S.F.Is_Closed()) << "with nothing typed it is the dialog's";
 }
 
-TEST_F(Form_Widget_Test, ABadFieldKeepsTheFocusAfterOneMessage) {
-    Bad_Number();
-    Press(*W, Qt::Key_Tab);
-    EXPECT_EQ(Messages(), 1U);
-    EXPECT_EQ(Host_Of_Test.Last_Message(), 1);
-    EXPECT_EQ(Focus(), "Number");
-    EXPECT_EQ(Get<QLineEdit>("Number").selectedText(), "x");
-    QTest::mouseClick(&Get<QLineEdit>("Field"), Qt::LeftButton);
-    Turn();
-    EXPECT_EQ(Messages(), 2U);
-    EXPECT_EQ(Focus(), "Number");
-}
-
 TEST_F(Form_Widget_Test, AClickOnAControlReadsTheFieldOnce) {
     Bad_Number();
     for (const char* Name : {"Cmd_Ok", "Chk", "Opt(1)"}) {
@@ -232,20 +219,4 @@ TEST_F(Form_Widget_Test, TheFormSeesAKeyBeforeFieldsAndMenus) {
     Takes = false;
     Press(*W, Qt::Key_5);
     EXPECT_EQ(Get<QLineEdit>("Number").text(), "5");
-}
-
-TEST(Form_Dialog_Test, DialogsRunOneAboveTheOther) {
-    Sample Outer, Inner;
-    Outer.F.Handlers("Cmd_Plain").On_Click = [&] { Run_Dialog(Inner.F, nullptr); };
-    Dialog_Script Script({[](QDialog& D) {
-                              Click(D, "Cmd_Plain");
-                              Click(D, "Chk");
-                              Click(D, "Cmd_Ok");
-                          },
-                          [](QDialog& D) { Click(D, "Cmd_Cancel"); }});
-    Run_Dialog(Outer.F, nullptr);
-    EXPECT_EQ(Inner.F.End(), Form_End::Closed);
-    EXPECT_EQ(Outer.F.End(), Form_End::Ok);
-    EXPECT_EQ(Outer.Log, "check ") << "the outer one worked on after the inner";
-    EXPECT_EQ(Outer.F.View, nullptr);
 }

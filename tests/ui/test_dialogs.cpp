@@ -49,7 +49,7 @@ void Expect_Whole(const Form& F) {
         if (Is_Number) continue;  // which every language reads
         EXPECT_TRUE(!Needs_Words(C) || C.Words.Is_Set() || C.Tip_Words.Is_Set()) << Where;
         EXPECT_TRUE(C.Caption.empty() || C.Words.Is_Set()) << Where << ": in one language only";
-        EXPECT_TRUE(C.Kind != Control_Kind::Options || !C.Item_Words.empty() || !C.Colours.empty())
+        EXPECT_TRUE(C.Kind != Control_Kind::Options || !C.Items.empty() || !C.Colours.empty())
             << Where;
     }
 }
