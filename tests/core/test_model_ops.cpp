@@ -126,5 +126,5 @@ TEST_F(Model_Ops, DeletingATextureFreesItsObjects) {
     EXPECT_EQ(Tab_Ima[2].Active, 0);
     EXPECT_EQ(Tab_Ima[Ima_Add({})].Num, 3) << "above that of the deleted one";
     Tab_Ima[1].Num = std::numeric_limits<Int>::max();
-    EXPECT_EQ(Ima_Add({}), 0) << "no number is left";
+    EXPECT_EQ(Tab_Ima[Ima_Add({})].Num, 1) << "a free one, once the highest is taken";
 }

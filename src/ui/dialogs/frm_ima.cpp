@@ -30,7 +30,7 @@ public:
         : Form("Frm_Ima", {"Texture modification/creation",
                            "Modification/cr\xE9"
                            "ation de texture"}) {
-        Cur_Ima = Ima_Dialog == Ima_Dialogs::Create ? Ima() : Tab_Ima[Sel_Ima];
+        Cur_Ima = Ima_Dialog == Ima_Dialogs::Edit ? Tab_Ima[Sel_Ima] : Ima();
         Add({.Kind = Control_Kind::Text,
              .Name = "DirFic",
              .Words = {"Texture:", "Texture :"},
