@@ -5,7 +5,8 @@
 // run of the program. Projects that they write as out_X.LWM are compared with NAME.out_X.LWM,
 // but for their first two lines, which hold date and path. @DIR@ and @WDIR@ in scripts, projects
 // and outputs are the test's directory in the system's form and in the program's. It holds the home
-// App, small.LWM and other.LWM with their maps, and a copy of tests/scripts/data. TERRAFOLD_ACCEPT
+// App, small.LWM and other.LWM with their maps, and a copy of tests/scripts/data, whose reference
+// files are among the home's. TERRAFOLD_ACCEPT
 // set in the environment takes the output over; read the diff before you commit.
 #include <gtest/gtest.h>
 
@@ -61,7 +62,10 @@ protected:
         Dir.Write("App/Resource/Terrafold.Ini",
                   "[Terrafold]\r\nLanguage=US\r\nDerApt1=" + Dir.Path("gone.LWM") + "\r\n");
         for (const auto& Entry : fs::directory_iterator(Folder / "data"))
-            Dir.Write(Entry.path().filename().string(), Filled(Bytes_Of(Entry.path())));
+            Dir.Write(Place_Of(Entry.path().filename()), Filled(Bytes_Of(Entry.path())));
+    }
+    static std::string Place_Of(const fs::path& File) {
+        return (File.extension() == ".Ref" ? "App/Resource/" : "") + File.string();
     }
     std::string Filled(std::string Text) const {
         return Replaced(Replaced(std::move(Text), "@WDIR@", Dir.Path()), "@DIR@",
