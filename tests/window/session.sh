@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
-# session.sh PROGRAM EXAMPLE_DIR
+# session.sh PROGRAM EXAMPLE_DIR CLI
 #
 # Works the built program on a virtual screen with real keys and clicks: opens the example,
-# looks about, switches modes, generates, quits. Fails when a picture of the window is empty, a
-# key or click has no effect, a dialog is left over or the program doesn't end with 0.
+# draws, looks about, switches modes, generates, quits. Fails when a picture of the window is empty, a
+# key or click has no effect, what was drawn is not what the player draws, a dialog is left over or the program doesn't end with 0.
 set -euo pipefail
 
 program=$1
 example=$2
+cli=$3
 limit=${TERRAFOLD_WINDOW_TEST_LIMIT:-60} # seconds to wait for anything
 
 scratch=$(mktemp -d)
@@ -84,6 +85,66 @@ await "one window" has_windows 1
 xdotool windowfocus --sync "$main"
 await "a picture of the map" is_painted
 keep opened
+
+# --- drawing an object with mouse and keys; the player draws the same ----------------------------
+at() { xdotool mousemove --window "$main" "$1" "$2"; }
+press() { does "a press at $1 $2" xdotool mousemove --window "$main" "$1" "$2" click 1; }
+does "Alt+R" key alt+r
+at 300 300
+key alt+n
+await "the dialog of the object" has_windows 2
+keep attributes
+await "the focus in the dialog" titled '^Polygons/Lines$'
+xdotool windowfocus --sync "$(head -n 1 "$scratch/found")"
+key Return
+await "the end of the dialog" has_windows 1
+xdotool windowfocus --sync "$main"
+press 420 310
+press 500 260
+press 560 380
+keep drawing
+does "Escape" key Escape
+at 428 305
+does "Alt+O" key alt+o
+press 428 305
+press 410 350
+does "Alt+I" key alt+i
+press 440 450
+keep drawn
+rm "$scratch/Island.LWM"
+key ctrl+s
+await "the saved project" test -s "$scratch/Island.LWM"
+
+cp "$example"/Island.LWM "$scratch/played.LWM"
+"$cli" play - --app-path "$scratch/home" --language US >"$scratch/play.log" <<END || fail "the player did not play"
+file $scratch/played.LWM
+click Mnu_File_Open
+move 640 430
+key Alt+R
+move 300 300
+key Alt+N
+click Cmd_Ok
+press 420 310
+press 500 260
+press 560 380
+key Esc
+move 428 305
+key Alt+O
+press 428 305
+press 410 350
+key Alt+I
+press 440 450
+write $scratch/played_out.LWM
+END
+# The last object from its first point on: the canvas does not begin where the window does.
+shape() {
+    tr -d '\r' <"$1" | awk '/^0120/ { exit } NF == 2 && /^ / && !/"/ { P[++N] = $1 " " $2 }
+        NF > 2 { N = 0 }
+        END { split(P[1], A); for (I = 1; I <= N; ++I) { split(P[I], B); print B[1] - A[1], B[2] - A[2] } }'
+}
+[ "$(shape "$scratch/Island.LWM" | wc -l)" -eq 5 ] || fail "not all points were drawn"
+[ "$(shape "$scratch/Island.LWM")" = "$(shape "$scratch/played_out.LWM")" ] ||
+    fail "the window and the player draw different objects"
 
 # --- looking about and switching modes ---------------------------------------------------------
 does "the wheel" xdotool mousemove --window "$main" 640 430 click 4

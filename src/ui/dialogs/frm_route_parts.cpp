@@ -155,10 +155,10 @@ Layouts Texture_Fields(std::size_t Group) {
 
 Layout Main_Page() {
     return Tab("Tab_Main", {Fields({"Text_Rt", Row({"Text_Ref", "Cmd_Read", "Cmd_Save"})}),
-                            Row({Frame("Lfrm_SurfShore", {"Opt_SurfShore"}),
-                                 Frame("Fram_Type_Poly", {"Opt_LWM_VTP2"}),
+                            Row({Frame("Lfrm_SurfShore", {"Opt_SurfShore", Space()}),
+                                 Frame("Fram_Type_Poly", {"Opt_LWM_VTP2", Space()}),
                                  Column({Frame("Fram_Layer_VTP12", {Fields({"Layer_Vtp2"})}),
-                                         Fields({"Imbrication", "Alt_Coast"})})}),
+                                         Fields({"Imbrication", "Alt_Coast"}), Space()})}),
                             Space()});
 }
 
