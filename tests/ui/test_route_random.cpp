@@ -9,11 +9,13 @@
 #include "core/dialog_flags.h"
 #include "core/lifecycle.h"
 #include "core/model.h"
+#include "core/point_pool.h"
 #include "core/project_file.h"
 #include "ui/canvas/edit_state.h"
 #include "ui/canvas/surface.h"
 #include "ui/canvas/view.h"
 #include "ui/edit/modes.h"
+#include "ui/edit/route_tools.h"
 #include "ui/form/form_events.h"
 #include "ui/frm/frm.h"
 #include "ui_support/small_project.h"
@@ -175,9 +177,12 @@ TEST_P(Route_Random, ChainsAndSelectionStayWholeAndComeBack) {
     for (long N = 1; N <= Acts && !HasFailure(); ++N) {
         Act();
         SCOPED_TRACE("act " + std::to_string(N));
+        if (N % 100 == 0) Points_Tidy(0);
         Check_Chains();
         Check_Selection();
     }
+    Points_Tidy(0);
+    EXPECT_EQ(Nb_Dead_Pt(), 0);
     Form_Click(Frm(), "Cmd_TrtArea");
     const std::vector<Drawn> Before = All_Drawn();
     EXPECT_GT(Before.size(), 3U) << "too little was drawn to tell anything";

@@ -2,6 +2,7 @@
 #include "ui/edit/route_tools.h"
 
 #include "core/model.h"
+#include "core/point_pool.h"
 #include "core/program.h"
 #include "ui/canvas/edit_state.h"
 #include "ui/canvas/view.h"
@@ -107,6 +108,15 @@ void Hold_Point(Long P) {
     Select_Point(P);
     Tool_Sel_Point = Pt_Fresh = 1;
     Mark_Point(P);
+}
+
+void Points_Tidy(Long Most) {
+    if (Nb_Dead_Pt() <= Most) return;
+    const std::vector<Long> New_Row = Pt_Compact();
+    for (Long* Row : {&Sel_Pt, &Sel_Pt2, &Pt_Next, &Pt_Prev}) {
+        const auto Old = static_cast<std::size_t>(*Row);
+        *Row = Old < New_Row.size() ? New_Row[Old] : 0;
+    }
 }
 
 void Cmd_New_Route() {

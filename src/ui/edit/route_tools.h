@@ -21,6 +21,10 @@ void Select_Point(Long P);
 /// Point P of the selected object waits to be grabbed. No other tool may be on.
 void Hold_Point(Long P);
 
+/// Frees the points that deletions have left behind when they are more than Most; what is selected
+/// stays so.
+void Points_Tidy(Long Most = 1'000'000);
+
 // The buttons, which are in reach in Mode_Route alone.
 void Cmd_New_Route();
 void Cmd_Sel_Route();

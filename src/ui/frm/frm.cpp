@@ -46,10 +46,16 @@ const bool Is_Reset = At_Reset(Frm_Remove);
 
 using Command = std::pair<const char*, void (*)()>;
 
+template <void (*Save)()>
+void Save_And_Tidy() {
+    Save();
+    Points_Tidy();
+}
+
 constexpr Command Menu_Commands[] = {
     {"Mnu_File_New", Cmd_New},
     {"Mnu_File_Open", Mnu_File_Open},
-    {"Mnu_File_Enreg", Mnu_File_Enreg},
+    {"Mnu_File_Enreg", Save_And_Tidy<Mnu_File_Enreg>},
     {"Mnu_File_Enreg_Sous", Mnu_File_Enreg_Sous},
     {"Mnu_File_Close", Mnu_File_Close},
     {"Mnu_File_Prec(0)", [] { Mnu_File_Prec(0); }},
@@ -66,7 +72,7 @@ constexpr Command Menu_Commands[] = {
 
 constexpr Command Button_Commands[] = {
     {"Cmd_New", Cmd_New},
-    {"Cmd_Save", Cmd_Save},
+    {"Cmd_Save", Save_And_Tidy<Cmd_Save>},
     {"Cmd_ZPlus", Cmd_ZPlus},
     {"Cmd_ZMoins", Cmd_ZMoins},
     {"Cmd_AffBmp", Cmd_AffBmp},
