@@ -9,12 +9,18 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/system.h"
+#include "platform/text1252.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
 constexpr const char* Resource = "Resource";
+
+// Reference files are the user's: one that was deleted stays away.
+bool Is_Sample(std::string_view Name) {
+    return Name.size() > 4 && Equal_No_Case(Name.substr(Name.size() - 4), ".Ref");
+}
 
 std::optional<fs::path> Own_Program_Dir() {
     const std::optional<fs::path> Program = Own_Program();
@@ -69,7 +75,9 @@ bool Prepare_App_Dir(std::string_view Dir) {
     std::optional<std::string> Installed = Installed_Resources();
     if (!Installed) return true;
     *Installed += "\\";
+    const bool Is_First_Start = Dir_Files(Own).empty();
     for (const std::string& Name : Dir_Files(*Installed)) {
+        if (!Is_First_Start && Is_Sample(Name)) continue;
         const std::string Copy = Own + Name;
         if (!File_Exists(Copy) && !File_Copy(*Installed + Name, Copy)) return false;
     }

@@ -15,6 +15,6 @@ std::optional<std::string> Own_Dir();
 std::optional<std::string> Find_App_Dir();
 
 /// Makes Dir ready to be App_Path: makes it if it is absent, and fills it from the installed
-/// resources what its Resource directory lacks. Never replaces a file. False when it cannot be
-/// written.
+/// resources what its Resource directory lacks; reference files come only when that has nothing
+/// yet. Never replaces a file. False when it cannot be written.
 bool Prepare_App_Dir(std::string_view Dir);

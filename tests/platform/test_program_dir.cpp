@@ -39,6 +39,7 @@ protected:
 TEST_F(Moved_Program, AnInstalledProgramFillsTheUsersDirectory) {
     Dir.Write("opt/share/terrafold/Resource/FicErr.txt", "[ERR]");
     Dir.Write("opt/share/terrafold/Resource/LC.txt", "classes");
+    Dir.Write("opt/share/terrafold/Resource/Road.Ref", "deleted by the user");
     Dir.Write("data/terrafold/Resource/ficerr.TXT", "the user's own");
     Start();
     EXPECT_EQ(Dir.Read("data/terrafold/Resource/LC.txt"), "classes");

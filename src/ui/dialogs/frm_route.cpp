@@ -11,11 +11,11 @@
 #include "core/model.h"
 #include "core/program.h"
 #include "core/reference_file.h"
+#include "gen/class_lists.h"
 #include "gen/own_line_list.h"
 #include "gen/own_lines.h"
 #include "platform/files.h"
 #include "ui/canvas/edit_state.h"
-#include "ui/dialogs/class_texture.h"
 #include "ui/dialogs/dialogs.h"
 #include "ui/dialogs/frm_ref.h"
 #include "ui/dialogs/frm_route_parts.h"
@@ -136,17 +136,16 @@ private:
     }
 
     void Show_Class() {
-        const auto Class = std::ranges::find_if(
-            Classes_, [](const LC_Entry& C) { return C.Class == Cur_Attr.LC; });
         if (Classes_.empty()) return Class_Preview_.Empty();
-        const Long Row = Class == Classes_.end() ? 0 : static_cast<Long>(Class - Classes_.begin());
+        const auto Row = static_cast<Long>(Class_Place(Classes_, Cur_Attr.LC).value_or(0));
         for (const char* Name : Class_Lists) Set_Value(Name, Row);
         Preview_Class(Row);
     }
 
     void Preview_Class(Long Row) {
-        if (!Tex_Dir_On_) return Class_Preview_.Empty();
-        Class_Preview_.Show_Or_Empty(Class_Texture_Path(Classes_[static_cast<std::size_t>(Row)]));
+        const LC_Entry& C = Classes_[static_cast<std::size_t>(Row)];
+        if (!Tex_Dir_On_ || C.Class > Last_With_Texture) return Class_Preview_.Empty();
+        Class_Preview_.Show_Or_Empty(Class_Texture_Path(Class_Sort::Land, C.Texture));
     }
 
     // The fourth texture of a kind where it has so many, else the first.
