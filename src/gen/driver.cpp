@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <unordered_map>
 
 #include "core/attr_kinds.h"
@@ -18,6 +17,7 @@
 #include "gen/emit_remesh.h"
 #include "gen/emit_vtp2_poly.h"
 #include "gen/source_frame.h"
+#include "gen/texture_bounds.h"
 
 namespace {
 
@@ -36,41 +36,15 @@ constexpr std::array The_Emitters{
     Emitter{Night_Lines_Generate, false},
 };
 
-// What the textures of one number have in common: a point lies outside one of them exactly when
-// it lies outside this.
-struct Common_Rect {
-    Double X1 = -Endless, Y1 = -Endless, X2 = Endless, Y2 = Endless;
-
-    void Take(const Ima& M) {
-        X1 = std::max(X1, M.X1);
-        Y1 = std::max(Y1, M.Y1);
-        X2 = std::min(X2, M.X2);
-        Y2 = std::min(Y2, M.Y2);
-    }
-    bool Misses(const Pt& P) const { return P.X < X1 || P.X > X2 || P.Y < Y1 || P.Y > Y2; }
-
-private:
-    static constexpr Double Endless = std::numeric_limits<Double>::infinity();
-};
-
-bool Any_Outside(const Obj& O, const Common_Rect& R) {
-    if (O.Nb_Pts == 0) return false;
-    for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
-        if (R.Misses(Tab_Pt[P])) return true;
-        if (P == O.Last_Pt) return false;
-    }
-}
-
-// Textures are looked up by their number, since both tables may be long. Deleted ones count too:
-// deleting a texture has cleared the links to it.
+// Textures are looked up by their number, since both tables may be long.
 bool Any_Polygon_Outside() {
-    std::unordered_map<Int, Common_Rect> By_Num;
+    std::unordered_map<Int, Texture_Bounds> By_Num;
     for (const Ima& M : Tab_Ima.Rows()) By_Num[M.Num].Take(M);
     for (Long I = First_Obj; I <= Nb_Obj; ++I) {
         const Obj& O = Tab_Obj[I];
         if (Is_Open_Line(O.Attr) || O.Attr.Link_Ima == 0) continue;
         const auto Found = By_Num.find(O.Attr.Link_Ima);
-        if (Found != By_Num.end() && Any_Outside(O, Found->second)) return true;
+        if (Found != By_Num.end() && Found->second.Misses(O)) return true;
     }
     return false;
 }

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 
+#include "core/attr_kinds.h"
 #include "core/model.h"
 #include "core/model_ops.h"
+#include "gen/texture_bounds.h"
 #include "ui/canvas/edit_state.h"
 #include "ui/canvas/view.h"
 
@@ -12,16 +14,11 @@ namespace {
 
 // A polygon painted with a texture may not be moved out of it.
 bool Leaves_Its_Texture(const Obj& O, Double DX, Double DY) {
-    const Attr& A = O.Attr;
-    if (A.SurfShore >= 2 || A.LWM_VTP2 != 2 || A.VTP1_SpecNor != 0 || A.Link_Ima == 0) return false;
-    const auto Textures = Tab_Ima.Rows();
-    const auto M = std::ranges::find(Textures, A.Link_Ima, &Ima::Num);
-    if (M == Textures.end()) return false;
-    for (Long P = O.First_Pt;; P = Tab_Pt[P].Next) {
-        const Double X = Tab_Pt[P].X + DX, Y = Tab_Pt[P].Y + DY;
-        if (X < M->X1 || X > M->X2 || Y < M->Y1 || Y > M->Y2) return true;
-        if (P == O.Last_Pt) return false;
-    }
+    if (!Is_Special_Vtp1(O.Attr) || O.Attr.Link_Ima == 0) return false;
+    Texture_Bounds Bounds;
+    for (const Ima& M : Tab_Ima.Rows())
+        if (M.Num == O.Attr.Link_Ima) Bounds.Take(M);
+    return Bounds.Misses(O, DX, DY);
 }
 
 void Move_Object(Double DX, Double DY) {

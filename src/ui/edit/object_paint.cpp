@@ -1,6 +1,7 @@
 // ui/edit/object_paint.cpp - objects as Mode_Route shows them.
 #include "ui/edit/object_paint.h"
 
+#include "core/attr_kinds.h"
 #include "core/model.h"
 #include "ui/canvas/edit_state.h"
 #include "ui/canvas/objects_draw.h"
@@ -13,8 +14,9 @@ constexpr Long Blue = 0x0000FF, Magenta = 0xFF00FF;
 constexpr Pen Red{.Colour = 0xFF0000};
 
 Long Plain_Colour(const Attr& A) {
-    if (A.SurfShore == 2) return Magenta;
-    if (A.SurfShore == 0 && (A.LWM_VTP2 != 0 || A.Attrib != 0)) return Magenta;
+    if (A.SurfShore == Surf_Line) return Magenta;
+    if (A.SurfShore == Surf_Polygon && (A.LWM_VTP2 != Technique_LWM || A.Attrib != 0))
+        return Magenta;
     return Blue;
 }
 
