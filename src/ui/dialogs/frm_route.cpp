@@ -87,7 +87,7 @@ private:
             Show_Texture_Name(I);
             return true;
         };
-        C.On_Choose = [this, I] { Choose_Texture(I); };
+        C.On_Choose = [this, Name, I] { Choose_Texture((*this)[Name].Text, I); };
     }
 
     void Load() {
@@ -211,10 +211,10 @@ private:
         for (const auto& Group : Route_Textures) Set_Text(Group[I], Cur_Attr.Texture_Name[I]);
     }
 
-    void Choose_Texture(std::size_t I) {
-        std::string& Name = Cur_Attr.Texture_Name[I];
+    // The picker begins where the field's text is, be it accepted or not.
+    void Choose_Texture(std::string Name, std::size_t I) {
         if (!Pick_Texture(Name)) return;
-        Prev_Attr.Texture_Name[I] = Name;
+        Cur_Attr.Texture_Name[I] = Prev_Attr.Texture_Name[I] = Name;
         Show_Texture_Name(I);
         if (Name.empty())
             Class_Preview_.Empty();
