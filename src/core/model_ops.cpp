@@ -67,9 +67,7 @@ void Init_Tables() {
     Last_Num_Obj = 0;
     LodMesh = 2;
     Mesh_Done = 0;
-    Last_Alt_Pt = 0.0F;
-    Sel_Alt_Pt = 0;
-    Dialog_Up = 0;
+    PtGrid_Forget();
 }
 
 void Model_Reset() {
@@ -253,4 +251,10 @@ void PtGrid_Change(Long I, Double X, Double Y, Single Alt) {
 
 void PtGrid_Delete(Long I) {
     Tab_PtGrid[I].Active = 0;
+}
+
+void PtGrid_Forget() {
+    Last_Alt_Pt = 0.0F;
+    Sel_Alt_Pt = 0;
+    Dialog_Up = 0;
 }

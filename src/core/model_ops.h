@@ -111,3 +111,5 @@ Long PtGrid_Add(Double X, Double Y, Single Alt);
 /// Sample I has another altitude; a deleted one is live again, at (X, Y).
 void PtGrid_Change(Long I, Double X, Double Y, Single Alt);
 void PtGrid_Delete(Long I);
+/// What was entered and chosen last belongs to another project.
+void PtGrid_Forget();

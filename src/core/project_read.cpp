@@ -303,6 +303,7 @@ void Read_Project_Text(std::string_view Text) {
     const bool Accepted = Version_Is_Accepted();
     const bool Sound = Accepted && Project_Reader().Read_All();
     ++Model_Changes;
+    PtGrid_Forget();
     Reader_Open({});
     if (Sound) {
         Call(The_View.Ima_Load);

@@ -25,8 +25,8 @@ Cell_Pos Cell_At(Long Col, Long Row) {
 }  // namespace
 
 Square_Block Block_Of(const Cell_Pos& A, const Cell_Pos& B) {
-    const auto [West, East] = std::minmax(Col_Of(A), Col_Of(B));
-    const auto [North, South] = std::minmax(Row_Of(A), Row_Of(B));
+    const auto [West, East] = std::minmax({Col_Of(A), Col_Of(B)});
+    const auto [North, South] = std::minmax({Row_Of(A), Row_Of(B)});
     return {Cell_At(West, North), East - West + 1, South - North + 1};
 }
 

@@ -21,6 +21,16 @@ std::string Box_Name(std::size_t I) {
     return "Chk_Excl(" + std::to_string(I) + ")";
 }
 
+// What is written beside the boxes that have no name.
+const std::vector<std::string>& Numbers() {
+    static const std::vector<std::string> Texts = [] {
+        std::vector<std::string> Made;
+        for (std::size_t I = 0; I < Nb_Chk_Excl; ++I) Made.push_back(std::to_string(I) + " ");
+        return Made;
+    }();
+    return Texts;
+}
+
 class Excl_Form final : public Record_Dialog<Excl> {
 public:
     Excl_Form()
@@ -39,13 +49,11 @@ public:
 
 private:
     void Add_Box(std::size_t I) {
-        Control C{.Name = Box_Name(I)};
-        if (Is_Named(I))
-            C.Words = Named[I - First_Named];
-        else
-            C.Caption = std::to_string(I) + " ";
+        const char* Number = Numbers()[I].c_str();
         Add_Check(
-            std::move(C), [I](auto& E) -> auto& { return E.Chk_Excl[I]; });
+            {.Name = Box_Name(I),
+             .Words = Is_Named(I) ? Named[I - First_Named] : Wording{Number, Number}},
+            [I](auto& E) -> auto& { return E.Chk_Excl[I]; });
     }
     void Add_Button(const char* Name, Wording Words, Byte Value) {
         Add({.Kind = Control_Kind::Button, .Name = Name, .Words = Words, .On_Click = [this, Value] {

@@ -38,8 +38,11 @@ public:
              .Name = "Opt_LodMesh",
              .Upright = true,
              .Value = -1,
-             .Items = {"Lod12 (9.6 m)", "Lod11 (19.1 m)", "Lod10 (38.2 m)", "Lod9 (76.4 m)",
-                       "Lod8 (152.9 m)"},
+             .Item_Words = {{"Lod12 (9.6 m)", "Lod12 (9.6 m)"},
+                            {"Lod11 (19.1 m)", "Lod11 (19.1 m)"},
+                            {"Lod10 (38.2 m)", "Lod10 (38.2 m)"},
+                            {"Lod9 (76.4 m)", "Lod9 (76.4 m)"},
+                            {"Lod8 (152.9 m)", "Lod8 (152.9 m)"}},
              .On_Click = [this] { Chosen_ = static_cast<Int>((*this)["Opt_LodMesh"].Value); }});
         Add_Ok_Cancel(
             *this, [this] { Ok(); }, [this] { Close(Form_End::Closed); });

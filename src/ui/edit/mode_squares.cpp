@@ -1,6 +1,9 @@
 // ui/edit/mode_squares.cpp - the modes in which a double click opens the dialog of a square.
+#include <cstdint>
+
 #include "core/dialog_flags.h"
 #include "core/host.h"
+#include "core/program.h"
 #include "gen/driver.h"
 #include "grid/terrain_grid.h"
 #include "ui/canvas/grid_marks.h"
@@ -16,6 +19,8 @@ bool In_Work_Grid() {
     return !Mouse_Off_Grid && XGridNW <= Mouse_Map_X && Mouse_Map_X <= XGridSE &&
            YGridNW <= Mouse_Map_Y && Mouse_Map_Y <= YGridSE;
 }
+
+constexpr std::int64_t Most_Squares = 100000;  // in one dialog
 
 using Square_At = Cell_Pos (*)(Pix);
 
@@ -38,7 +43,12 @@ void Dialog_On_Grid(const char* Form, Int& Flag, Square_At Find = Cell_Of_Pixel)
 
 // Opens the dialog for all squares that were dragged over.
 void Drag_End(const Mouse_Event& E, const char* Form, Int& Flag, Square_At Find = Cell_Of_Pixel) {
-    if (const auto Squares = Square_Drag_Release(E, Find)) Square_Dialog(Form, Flag, *Squares);
+    const auto Squares = Square_Drag_Release(E, Find);
+    if (!Squares) return;
+    if (std::int64_t{Squares->Cols} * Squares->Rows > Most_Squares)
+        return Plain_Box(In_Language("More than 100000 squares are too many at once",
+                                     "Plus de 100000 carr\xE9s sont trop \xE0 la fois"));
+    Square_Dialog(Form, Flag, *Squares);
 }
 
 void Paint_Marked(Grid_Marks Marks) {

@@ -15,8 +15,8 @@ std::optional<Pix> Drag_From;
 const bool Drag_Is_Reset = At_Reset([] { Drag_From.reset(); });
 
 void Show_Rectangle(Pic_Px A, Pic_Px B, bool On) {
-    const auto [Left, Right] = std::minmax(Round_Lng(A.X), Round_Lng(B.X));
-    const auto [Top, Bottom] = std::minmax(Round_Lng(A.Y), Round_Lng(B.Y));
+    const auto [Left, Right] = std::minmax({Round_Lng(A.X), Round_Lng(B.X)});
+    const auto [Top, Bottom] = std::minmax({Round_Lng(A.Y), Round_Lng(B.Y)});
     Overlay_Items& O = The_Overlay;
     O.LnHIma1.At = {Left, Top, Right, Top};
     O.LnHIma2.At = {Left, Bottom, Right, Bottom};
