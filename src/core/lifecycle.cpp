@@ -131,6 +131,7 @@ void Cmd_New() {
     Run_Form("Frm_PPro");
     if (PPro_Ok == 0) return;
     if (File_Exists(Nom_Projet)) {
+        Call(The_View.Tiles_Remove);
         Msg_Show(32);
         return;
     }

@@ -56,6 +56,13 @@ void Set_Up_Main_Form() {
     Call(The_View.View_Reset);
 }
 
+// A program that was killed could not take its map's tiles away. None but the one instance may:
+// they could be another's.
+void Delete_Tiles_Left() {
+    for (const std::string& Path : Files_Matching(App_Path + "\\Temp\\$$$_", "*.bmp"))
+        File_Delete(Path);
+}
+
 // The program is of no use before its language and the simulator's directory are confirmed;
 // only a host without the dialog goes on.
 void Confirm_Parameters() {
@@ -99,6 +106,7 @@ bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
         Instance_Release();
         return false;
     }
+    if (Options.Alone) Delete_Tiles_Left();
     Pal_Load();
     Read_Settings();
     if (!Options.Language.empty()) Language = Options.Language;

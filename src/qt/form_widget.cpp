@@ -201,6 +201,14 @@ bool Form_Widget::Mouse_Used(const QWidget& On, const QEvent& E) {
     return Has_Mouse(C);
 }
 
+// Another window is in front: a button that is let go there is let go unseen.
+void Form_Widget::Leave_Canvas() {
+    const QPoint At = Canvas_->mapFromGlobal(QCursor::pos());
+    const Mouse_Event Away{
+        .What = Mouse_Event::Kind::Away, .X = double(At.x()), .Y = double(At.y())};
+    Do([&](Form& F) { Form_Mouse(F, Control_Of(Canvas_), Away); });
+}
+
 void Form_Widget::Clicked(const QWidget& On, const Control& C, const QEvent& E) {
     const bool Double = E.type() == QEvent::MouseButtonDblClick;
     if (!Double && E.type() != QEvent::MouseButtonRelease) return;
@@ -239,6 +247,9 @@ bool Form_Widget::eventFilter(QObject* Watched, QEvent* E) {
         case QEvent::MouseButtonDblClick:
         case QEvent::Wheel:
             return Mouse_Used(Widget, *E);
+        case QEvent::WindowDeactivate:
+            if (Watched == Canvas_) Leave_Canvas();
+            return false;
         default:
             return false;
     }

@@ -70,6 +70,7 @@ private:
     bool Key_Pressed(const QKeyEvent& E);
     bool Space_Pressed();
     bool Mouse_Used(const QWidget& On, const QEvent& E);
+    void Leave_Canvas();
     void Clicked(const QWidget& On, const Control& C, const QEvent& E);
     void Settle_Focus();
     void Put_Focus_Back();

@@ -1,5 +1,7 @@
 // ui/dialogs/frm_fsuipc.cpp - follows the aircraft of the running simulator, and records its path
 // as a line.
+#include <cmath>
+
 #include "core/attr_kinds.h"
 #include "core/host.h"
 #include "core/model.h"
@@ -17,7 +19,8 @@ namespace {
 constexpr Int Interval_Ms = 750;
 constexpr Long Top_Px = 67;  // below the menu bar of the main form, wherever that stands
 constexpr Long Red = 0xFF0000, Green = 0x00FF00;
-constexpr Long Arm = 15;  // of the cross, canvas pixels
+constexpr Long Arm = 15;     // of the cross, canvas pixels
+constexpr Double Far = 1e8;  // where no screen reaches, canvas pixels
 
 // What a flown line is at first: a road, until the designer says otherwise.
 Attr Recorded_Line() {
@@ -38,23 +41,25 @@ bool In_Work_Grid(Geo G) {
     return G.Lat <= LatGridNW && G.Lat >= LatGridSE && G.Lon >= LonGridNW && G.Lon <= LonGridSE;
 }
 
-// Along the edges of the map, not through the points of the calibration.
+// Along the edges of the map, not through the points of the calibration. A map without extent
+// has no such place.
 Pix On_Map(Geo G) {
     return {(G.Lon - LonMapNW) * (Map_Width - 1) / (LonMapSE - LonMapNW),
             (G.Lat - LatMapNW) * (Map_Height - 1) / (LatMapSE - LatMapNW)};
 }
 
+void Hide_Cross() {
+    The_Overlay.Croix1.Visible = The_Overlay.Croix2.Visible = false;
+    The_Surface().Overlay_Changed();
+}
+
 void Show_Cross(Pix At) {
     const Pic_Px P = Map_To_Pic(At);
+    if (std::fabs(P.X) > Far || std::fabs(P.Y) > Far) return Hide_Cross();
     const Long X = Round_Lng(P.X), Y = Round_Lng(P.Y);
     The_Overlay.Croix1.At = {X - Arm, Y, X + Arm, Y};
     The_Overlay.Croix2.At = {X, Y - Arm, X, Y + Arm};
     The_Overlay.Croix1.Visible = The_Overlay.Croix2.Visible = true;
-    The_Surface().Overlay_Changed();
-}
-
-void Hide_Cross() {
-    The_Overlay.Croix1.Visible = The_Overlay.Croix2.Visible = false;
     The_Surface().Overlay_Changed();
 }
 
@@ -121,8 +126,9 @@ private:
             Plain_Box("Error communicating with FSConnect : " + std::string(Str(Status)));
             return 1;
         }
-        if (In_Work_Grid(At))
-            Read_Inside(On_Map(At));
+        const Pix Place = On_Map(At);
+        if (In_Work_Grid(At) && std::isfinite(Place.X) && std::isfinite(Place.Y))
+            Read_Inside(Place);
         else
             Read_Outside();
         return 0;

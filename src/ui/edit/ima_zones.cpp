@@ -2,7 +2,6 @@
 #include "ui/edit/ima_zones.h"
 
 #include <cmath>
-#include <cstdlib>
 
 namespace {
 
@@ -50,17 +49,19 @@ Ima_Hit Ima_Hit_Zone(Pic_Px At, const Rect_Pix& R) {
     return {Top ? HH : BB, Pointer_Shape::Vertical};
 }
 
-std::optional<Rect_Pix> Ima_Dragged(const Rect_Pix& Rect, Ima_Zones Zone, Long DX, Long DY) {
+std::optional<Rect_Pix> Ima_Dragged(const Rect_Pix& Rect, Ima_Zones Zone, Long Step_X,
+                                    Long Step_Y) {
+    Double DX = Step_X, DY = Step_Y;
     for (const Zone_Row& Z : Zone_Rows) {
         if (Z.Zone != Zone) continue;
         if (Z.Equal != 0) {
-            if (std::abs(DX) >= std::abs(DY))
+            if (std::fabs(DX) >= std::fabs(DY))
                 DY = Z.Equal * DX;
             else
                 DX = Z.Equal * DY;
         }
-        const Rect_Pix To{Rect.Left + (Z.Left ? DX : 0), Rect.Top + (Z.Top ? DY : 0),
-                          Rect.Right + (Z.Right ? DX : 0), Rect.Bottom + (Z.Bottom ? DY : 0)};
+        const Rect_Pix To{Rect.Left + (Z.Left ? DX : 0.0), Rect.Top + (Z.Top ? DY : 0.0),
+                          Rect.Right + (Z.Right ? DX : 0.0), Rect.Bottom + (Z.Bottom ? DY : 0.0)};
         const bool Across = Z.Left != Z.Right, Along = Z.Top != Z.Bottom;
         if ((Across && To.Left >= To.Right) || (Along && To.Top >= To.Bottom)) return std::nullopt;
         return To;

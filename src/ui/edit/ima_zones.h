@@ -18,4 +18,4 @@ Ima_Hit Ima_Hit_Zone(Pic_Px At, const Rect_Pix& Rect);
 
 /// The rectangle after a step of a drag by whole map pixels. At a corner both sides change by the
 /// same size. Nothing when it would turn the rectangle inside out.
-std::optional<Rect_Pix> Ima_Dragged(const Rect_Pix& Rect, Ima_Zones Zone, Long DX, Long DY);
+std::optional<Rect_Pix> Ima_Dragged(const Rect_Pix& Rect, Ima_Zones Zone, Long Step_X, Long Step_Y);

@@ -1,6 +1,6 @@
 // ui/edit/mode_ima.cpp - the mode in which textures are laid on the map: what each press, double
 // click, move and release does, and what is painted.
-#include <cstdlib>
+#include <cmath>
 #include <limits>
 
 #include "core/attr_kinds.h"
@@ -29,6 +29,11 @@ constexpr Pen Yellow{.Colour = 0xFFFF00}, Red{.Colour = 0xFF0000}, Magenta{.Colo
 
 // --- painting -------------------------------------------------------------------------------
 
+// In pixels, both ends counted, as far as a Long holds it.
+Long Length(Long First, Long Last) {
+    return Round_Lng(std::fabs(static_cast<Double>(Last) - First + 1.0));
+}
+
 void Paint_Texture(Long I) {
     const Rect_Pix R = Ima_On_Canvas(Ima_Rect(I));
     const Long X1 = Round_Lng(R.Left), Y1 = Round_Lng(R.Top);
@@ -36,7 +41,7 @@ void Paint_Texture(Long I) {
     if (X1 > Pic_Width || Y1 > Pic_Height || X2 < 0 || Y2 < 0) return;
     if (const Picture* P = Ima_Picture(I))
         The_Surface().Stretch_Copy(*P, {0, 0, P->Width, P->Height},
-                                   {X1, Y1, std::abs(X2 - X1 + 1), std::abs(Y2 - Y1 + 1)});
+                                   {X1, Y1, Length(X1, X2), Length(Y1, Y2)});
 }
 
 // By link: the polygon chosen, those of the selected texture, others, and what no link fits.
@@ -293,6 +298,7 @@ const Mode_Row Row_Of_Ima{.Name = "Mode_Ima",
                           .Press = Press,
                           .Move = Move,
                           .Release = Release,
+                          .Away = Release,
                           .Double_Click = Double_Click,
                           .Key = Key,
                           .Delete = Delete,

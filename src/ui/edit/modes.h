@@ -25,6 +25,7 @@ struct Mode_Row {
     void (*Press)(const Mouse_Event&) = nullptr;  // of the left or the right button
     void (*Move)(const Mouse_Event&) = nullptr;
     void (*Release)(const Mouse_Event&) = nullptr;
+    void (*Away)(const Mouse_Event&) = nullptr;
     void (*Double_Click)() = nullptr;       // of the left button, or its stand-in by a key
     bool (*Key)(Key_Event) = nullptr;       // on the canvas; true when it was used
     bool (*Form_Key)(Key_Event) = nullptr;  // without Alt, before the canvas sees it; the same

@@ -72,6 +72,8 @@ void Pic_Mouse(const Mouse_Event& Told) {
             return;
         case Mouse_Event::Kind::Release:
             return Tell_Mode(&Mode_Row::Release, E);
+        case Mouse_Event::Kind::Away:
+            return Tell_Mode(&Mode_Row::Away, E);
         case Mouse_Event::Kind::Wheel:
             return;
     }

@@ -32,9 +32,10 @@ inline constexpr Int Mouse_Right = 2;
 inline constexpr Int Mouse_Middle = 4;
 
 /// A double click comes as press, release, double click, release: its second press is not
-/// reported as a press.
+/// reported as a press. Away: the user has gone to another window, and what the mouse was doing
+/// ends without a release.
 struct Mouse_Event {
-    enum class Kind { Press, Move, Release, Double_Click, Wheel };
+    enum class Kind { Press, Move, Release, Double_Click, Wheel, Away };
     Kind What = Kind::Move;
     Int Button = 0;  // the one pressed or released; of a move, the sum of those held
     Int Shift = 0;
