@@ -11,8 +11,8 @@
 #include "core/number_text.h"
 #include "geometry/ear_clip.h"
 #include "geometry/segments.h"
-#include "shapes/poly/split_outline.h"
 #include "shapes/poly/cut_view.h"
+#include "shapes/poly/split_outline.h"
 
 namespace {
 
