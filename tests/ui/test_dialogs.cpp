@@ -1,10 +1,13 @@
 // tests/ui/test_dialogs.cpp - what all forms have in common, and what a script cannot bring about.
 #include <filesystem>
 
+#include "core/model.h"
 #include "core/typed_number.h"
+#include "grid/terrain_grid.h"
 #include "platform/files.h"
 #include "ui/canvas/edit_state.h"
 #include "ui/dialogs/frm_dir.h"
+#include "ui/form/form_events.h"
 #include "ui/form/form_list.h"
 #include "ui/form/mnemonics.h"
 #include "ui/frm/frm.h"
@@ -93,6 +96,25 @@ TEST_F(Dialogs, TheChooserBeginsWhereItCan) {
         Choose_Dir(Path, Cancelled);
         EXPECT_EQ(Cancelled, 1);
         EXPECT_EQ(Path, Given);
+    }
+}
+
+// Pixels of a Cell on the map, and the level advised: the last has lines 7 pixels apart.
+TEST_F(Dialogs, TheMeshIsAdvisedByTheScaleOfTheMap) {
+    LatPtNW = Cell_StepLat, LonPtSE = Cell_StepLon;
+    LatPtSE = LonPtNW = 0.0;
+    XPtSE = 1000;
+    for (const auto& [Pixels, Lod] : {std::pair{893, 12}, {892, 11}, {56, 8}, {55, 0}}) {
+        YPtSE = Pixels;
+        LodMesh = 3;
+        Mesh_Done = 0;
+        const auto Mesh = Form_Make("Frm_Mesh");
+        Form_Load(*Mesh);
+        EXPECT_EQ((*Mesh)["L_Info_Cons"].Caption, Lod == 0 ? "" : "Lod" + std::to_string(Lod));
+        EXPECT_EQ((*Mesh)["Opt_LodMesh"].Value, Lod == 0 ? -1 : 12 - Lod);
+        Form_Click(*Mesh, "Cmd_Ok");
+        EXPECT_EQ(LodMesh, Lod == 0 ? 3 : 12 - Lod) << Pixels;
+        EXPECT_EQ(Mesh_Done, 1);
     }
 }
 
