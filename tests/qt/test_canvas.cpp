@@ -42,11 +42,11 @@ protected:
                           static_cast<int>((Y + 0.5) * Fine()));
     }
 
+    std::vector<Mouse_Event> Seen;  // the window that closes still tells of the mouse
+    std::pair<Long, Long> Size;
     Form F{"Frm_Canvas"};
     std::unique_ptr<Form_Window> W;
     std::unique_ptr<Surface_Scope> On;
-    std::vector<Mouse_Event> Seen;
-    std::pair<Long, Long> Size;
 };
 
 }  // namespace

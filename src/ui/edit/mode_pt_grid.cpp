@@ -84,6 +84,11 @@ bool Key(Key_Event K) {
     return true;
 }
 
+Wording Hint() {
+    return {"Click sets an altitude; Delete removes the one under the mouse",
+            "Clic : donne une altitude ; Suppr efface celle sous la souris"};
+}
+
 }  // namespace
 
 const Mode_Row Row_Of_PtGrid{.Name = "Mode_PtGrid",
@@ -95,4 +100,5 @@ const Mode_Row Row_Of_PtGrid{.Name = "Mode_PtGrid",
                              .Paint = Paint,
                              .Press = Press,
                              .Move = Move,
-                             .Key = Key};
+                             .Key = Key,
+                             .Hint = Hint};

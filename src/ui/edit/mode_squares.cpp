@@ -61,6 +61,15 @@ void Paint_Classes(Class_Sort Sort) {
     Objects_Draw_Backdrop();
 }
 
+Wording One_Hint() {
+    return {"Double-click opens the square", "Double-clic : ouvre le carr\xE9"};
+}
+
+Wording Many_Hint() {
+    return {"Double-click opens the square; dragging with Shift opens many",
+            "Double-clic : ouvre le carr\xE9 ; glisser avec Maj en ouvre plusieurs"};
+}
+
 void Enter_Classes() {
     Square_Drag_Cancel();
     Class_Pictures_Forget();
@@ -80,15 +89,18 @@ const Mode_Row Row_Of_Area{
     .Press = Square_Drag_Press,
     .Move = Square_Drag_Move,
     .Release = [](const Mouse_Event& E) { Drag_End(E, "Frm_LOD", Area_Cancelled); },
+    .Away = [](const Mouse_Event&) { Square_Drag_Cancel(); },
     .Double_Click = [] { Dialog_On_Grid("Frm_LOD", Area_Cancelled); },
-    .Key = Square_Drag_Key};
+    .Key = Square_Drag_Key,
+    .Hint = Many_Hint};
 
 const Mode_Row Row_Of_Cell{.Name = "Mode_Cell",
                            .Flag = &Mode_Flags::Mode_Cell,
                            .Button = "Cmd_TrtCell",
                            .Leave_Former = Mode_Leave,
                            .Paint = [] { Paint_Marked(Grid_Marks::Lod8s); },
-                           .Double_Click = [] { Dialog_On_Grid("Frm_LOD8", Area_Cancelled); }};
+                           .Double_Click = [] { Dialog_On_Grid("Frm_LOD8", Area_Cancelled); },
+                           .Hint = One_Hint};
 
 // A whole area may be excluded from beyond the grid as well.
 const Mode_Row Row_Of_Excl{
@@ -101,8 +113,10 @@ const Mode_Row Row_Of_Excl{
     .Press = Square_Drag_Press,
     .Move = Square_Drag_Move,
     .Release = [](const Mouse_Event& E) { Drag_End(E, "Frm_Excl", Excl_Cancelled); },
+    .Away = [](const Mouse_Event&) { Square_Drag_Cancel(); },
     .Double_Click = [] { Dialog_At_Mouse("Frm_Excl", Excl_Cancelled); },
-    .Key = Square_Drag_Key};
+    .Key = Square_Drag_Key,
+    .Hint = Many_Hint};
 
 const Mode_Row Row_Of_LC{
     .Name = "Mode_LC",
@@ -116,8 +130,10 @@ const Mode_Row Row_Of_LC{
     .Move = Square_Drag_Move,
     .Release =
         [](const Mouse_Event& E) { Drag_End(E, "Frm_LC", LC_Cancelled, Pixel_To_Cell_Shift); },
+    .Away = [](const Mouse_Event&) { Square_Drag_Cancel(); },
     .Double_Click = [] { Dialog_On_Grid("Frm_LC", LC_Cancelled, Pixel_To_Cell_Shift); },
-    .Key = Square_Drag_Key};
+    .Key = Square_Drag_Key,
+    .Hint = Many_Hint};
 
 const Mode_Row Row_Of_WC{
     .Name = "Mode_WC",
@@ -131,5 +147,7 @@ const Mode_Row Row_Of_WC{
     .Move = Square_Drag_Move,
     .Release =
         [](const Mouse_Event& E) { Drag_End(E, "Frm_WC", WC_Cancelled, Pixel_To_Cell_Shift); },
+    .Away = [](const Mouse_Event&) { Square_Drag_Cancel(); },
     .Double_Click = [] { Dialog_On_Grid("Frm_WC", WC_Cancelled, Pixel_To_Cell_Shift); },
-    .Key = Square_Drag_Key};
+    .Key = Square_Drag_Key,
+    .Hint = Many_Hint};
