@@ -32,14 +32,23 @@ void Paint_In(QLabel& Label, const Control& C) {
     Label.setAutoFillBackground(C.Back_Colour != Usual_Colour);
 }
 
+// Wants the width that it is given, whatever its text.
+class Column_Label final : public QLabel {
+public:
+    using QLabel::QLabel;
+    QSize sizeHint() const override { return {minimumWidth(), QLabel::sizeHint().height()}; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
 class Label_Widget final : public Control_Widget {
 public:
-    Label_Widget(Form_Widget& Owner, const Control& C) : Text_(new QLabel(&Owner)) {
+    Label_Widget(Form_Widget& Owner, const Control& C)
+        : Text_(C.Columns == 0 ? new QLabel(&Owner) : new Column_Label(&Owner)) {
         Widget = Text_;
         Text_->setTextFormat(Qt::PlainText);
         if (C.Columns == 0) return;
         Text_->setMinimumWidth(Width_Of(*Text_, C.Columns));
-        Text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        Text_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     }
     void Follow(const Control& C) override {
         Follow_Common(*this, C);
@@ -55,10 +64,20 @@ private:
     QLabel* Text_;
 };
 
+// Stays pressed as long as its Value is set; a click alone does not change that.
+class Held_Button final : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void nextCheckState() override {}
+};
+
 class Button_Widget final : public Control_Widget {
 public:
-    Button_Widget(Form_Widget& Owner, const Control& C) : Button_(new QPushButton(&Owner)) {
+    Button_Widget(Form_Widget& Owner, const Control& C) : Button_(new Held_Button(&Owner)) {
         Widget = Button_;
+        Button_->setCheckable(true);
         Button_->setFocusPolicy(Qt::TabFocus);
         Button_->setAutoDefault(false);
         Button_->setDefault(C.Role == Button_Role::Ok);
@@ -70,6 +89,7 @@ public:
     void Follow(const Control& C) override {
         Follow_Common(*this, C);
         Button_->setText(Literal_Caption(C.Caption));
+        Button_->setChecked(C.Value != 0);
     }
 
 private:

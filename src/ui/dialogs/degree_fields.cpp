@@ -41,6 +41,13 @@ void Add_Degree_Fields(Form& F, std::vector<Degree_Field>& Fields) {
     }
 }
 
+Layout Degree_Layout(const std::vector<Degree_Field>& Fields, std::size_t First, std::size_t Last) {
+    Layouts Rows;
+    for (std::size_t I = First; I <= Last; ++I)
+        Rows.push_back(Row({Fields[I].Name, Fields[I].Label}));
+    return ::Fields(std::move(Rows));
+}
+
 void Show_Degree_Fields(Form& F, std::vector<Degree_Field>& Fields) {
     for (Degree_Field& D : Fields) {
         D.Held = Shown_Number(*D.Target);

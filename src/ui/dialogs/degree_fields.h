@@ -22,5 +22,8 @@ struct Degree_Field {
 /// Adds the controls of Fields, which must outlive the form and not move.
 void Add_Degree_Fields(Form& F, std::vector<Degree_Field>& Fields);
 
+/// Fields First to Last of Fields, from 0, one below the other with their labels.
+Layout Degree_Layout(const std::vector<Degree_Field>& Fields, std::size_t First, std::size_t Last);
+
 /// Shows what the targets hold now, as decimal numbers.
 void Show_Degree_Fields(Form& F, std::vector<Degree_Field>& Fields);

@@ -20,7 +20,7 @@ namespace {
 constexpr Double Zoom_Step = 1.15;
 constexpr Double Least_Zoom = 0.05, Most_Zoom = 23.0;
 constexpr Long Cross_Arm = 10;  // canvas pixels
-constexpr Long First_Width = 640, First_Height = 420;
+constexpr Long First_Width = 800, First_Height = 480;
 
 // The map of the draft in the place of the project's while this object lives: its tiles are in
 // memory, and what paints the map finds its size.
@@ -104,12 +104,10 @@ private:
     }
 
     void Lay_Out() {
-        Layouts Degrees;
-        for (const Degree_Field& D : Fields_) Degrees.push_back(Row({Fields({D.Name}), D.Label}));
         Set_Layout(
             Column({Canvas("Pic", {"VScroll", "HScroll"}),
                     Row({"LMousePos", "LPoint_NWSE", "Cmd_CadNW", "LNWxy", "Cmd_CadSE", "LSExy"}),
-                    Row({Column({Degrees[0], Degrees[1]}), Column({Degrees[2], Degrees[3]})}),
+                    Row({Degree_Layout(Fields_, 0, 1), Degree_Layout(Fields_, 2, 3)}),
                     Buttons({"Cmd_Ok", "Cmd_Cancel"})}));
     }
 

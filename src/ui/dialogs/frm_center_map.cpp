@@ -27,10 +27,9 @@ public:
         Add({.Name = "L_Pix_Lon", .Columns = 8});
         Add_Ok_Cancel(
             *this, [this] { Ok(); }, [this] { Close(Form_End::Closed); });
-        Set_Layout(Column({"L_CoordMap", Row({Fields({"LatDecCenter"}), "LLatCenter"}),
-                           Row({Fields({"LonDecCenter"}), "LLonCenter"}), "L_Meter_Pixel",
-                           Row({Fields({"NbM_Per_Pixel_Lat"}), "L_Pix_Lat"}),
-                           Row({Fields({"NbM_Per_Pixel_Lon"}), "L_Pix_Lon"}),
+        Set_Layout(Column({"L_CoordMap", Degree_Layout(Fields_, 0, 1), "L_Meter_Pixel",
+                           Fields({Row({"NbM_Per_Pixel_Lat", "L_Pix_Lat"}),
+                                   Row({"NbM_Per_Pixel_Lon", "L_Pix_Lon"})}),
                            Buttons({"Cmd_Ok", "Cmd_Cancel"})}));
         On_Load = [this] { Load(); };
     }

@@ -15,10 +15,7 @@ public:
         Add_Degree_Fields(*this, Fields_);
         Add_Ok_Cancel(
             *this, [this] { Ok(); }, [this] { Close(Form_End::Closed); });
-        Layouts Rows;
-        for (const Degree_Field& D : Fields_) Rows.push_back(Row({Fields({D.Name}), D.Label}));
-        Rows.push_back(Buttons({"Cmd_Ok", "Cmd_Cancel"}));
-        Set_Layout(Column(std::move(Rows)));
+        Set_Layout(Column({Degree_Layout(Fields_, 0, 3), Buttons({"Cmd_Ok", "Cmd_Cancel"})}));
         On_Load = [this] { Show_Degree_Fields(*this, Fields_); };
     }
 

@@ -27,13 +27,17 @@ struct Chosen_Field {
     const char* Name;
     Wording Words;
     std::string Project_Draft::*Of;
+    Wording Tip = {};
 };
 
 constexpr Chosen_Field Chosen_Fields[] = {
     {"NomProjet", {"Project:", "Projet:"}, &Project_Draft::New_Nom_Projet},
     {"Carte", {"Map:", "Carte:"}, &Project_Draft::New_Carte},
     {"NameBgl", {"BGL name:", "Nom du BGL:"}, &Project_Draft::New_NameBgl},
-    {"NameBglExcl", {"Bgl name:", "Nom bgl:"}, &Project_Draft::New_NameBglExcl},
+    {"NameBglExcl",
+     {"Bgl name:", "Nom bgl:"},
+     &Project_Draft::New_NameBglExcl,
+     {"The output of the exclusions", "La sortie des exclusions"}},
     {"Dir_LCWC", {"Bgl directory:", "R\xE9pertoire Bgl :"}, &Project_Draft::New_Dir_LCWC},
     {"Dir_Raw", {"Raw directory:", "R\xE9pertoire Raw :"}, &Project_Draft::New_Dir_Raw}};
 
@@ -142,7 +146,8 @@ private:
             Add({.Kind = Control_Kind::Text,
                  .Name = Chosen_Fields[I].Name,
                  .Words = Chosen_Fields[I].Words,
-                 .Columns = 48,
+                 .Tip_Words = Chosen_Fields[I].Tip,
+                 .Columns = 56,
                  .Read_Only = true,
                  .On_Click = Choose,
                  .On_Choose = Choose});
@@ -180,8 +185,8 @@ private:
         Add({.Name = "L_DH2Pix",
              .Words = {"Horiz. dist. between 2 pixels", "Dist. horiz. entre 2 pixels"}});
         for (const char* Label : {"DV2Pix", "DH2Pix"}) Add({.Name = Label, .Columns = 12});
-        for (const char* Label : {"LTex2500", "LNbTex", "LPourCent"})
-            Add({.Name = Label, .Columns = 12});
+        Add({.Name = "LTex2500", .Columns = 30});
+        for (const char* Label : {"LNbTex", "LPourCent"}) Add({.Name = Label, .Columns = 8});
     }
 
     void Add_Choices() {
@@ -218,19 +223,20 @@ private:
     }
 
     void Lay_Out() {
-        Layouts Points{Row({"L_NWSE"})};
+        Layouts Points;
         for (const Read_Out_Row& R : Read_Outs) Points.push_back(Row({R.Decimal, R.Text}));
-        Points.push_back(Row({"L_DV2Pix", "DV2Pix", "L_DH2Pix", "DH2Pix"}));
+        const Layout Progress =
+            Frame("Fram_Creat_2500", {"LTex2500", Row({"LNbTex", "LPourCent"})});
         Set_Layout(
             Column({Frame("Fram_ParmDeb", {Row({Fields({"NomProjet"}), "Cmd_Next_Projet"})}),
-                    Frame("Fram_Carte", {Fields({"Carte"}),
-                                         Row({"Cmd_CadCarte", "Cmd_CenterMap", "Cmd_Next_Carte"}),
-                                         Column(std::move(Points))}),
-                    Frame("Fram_Bgl", {Fields({"NameBgl"})}), Fields({"NameBglExcl"}),
-                    Row({"OPt_FS_CFS", Fields({"Delta_Alt"}), "Opt_Meter_Feet"}),
+                    Frame("Fram_Carte", {Row({Fields({"Carte"}), "Cmd_Next_Carte"}),
+                                         Row({"Cmd_CadCarte", "Cmd_CenterMap"}), "L_NWSE",
+                                         Row({Column(std::move(Points)), Progress}),
+                                         Row({"L_DV2Pix", "DV2Pix", "L_DH2Pix", "DH2Pix"})}),
+                    Frame("Fram_Bgl", {Fields({"NameBgl"})}),
+                    Fields({"NameBglExcl", Row({"Delta_Alt", "Opt_Meter_Feet", "OPt_FS_CFS"})}),
                     Frame("Fram_LCWC",
                           {Fields({"Dir_LCWC", "Dir_Raw"}), Row({"Chk_Dir_Raw", "Chk_ReUse_Raw"})}),
-                    Frame("Fram_Creat_2500", {Row({"LTex2500", "LNbTex", "LPourCent"})}),
                     Buttons({"Cmd_Ok", "Cmd_Cancel"})}));
     }
 
