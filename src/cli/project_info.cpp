@@ -55,7 +55,7 @@ private:
 };
 
 template <typename T>
-Long Nb_Active(const Table<T>& Tab) {
+Long Nb_Active(const Project_Table<T>& Tab) {
     Long Nb = 0;
     for (const T& Record : Tab.Rows()) Nb += Record.Active == 1;
     return Nb;

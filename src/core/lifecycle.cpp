@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core/check.h"
+#include "core/history.h"
 #include "core/host.h"
 #include "core/messages.h"
 #include "core/model_ops.h"
@@ -26,6 +27,7 @@ void Show_Title() {
 
 // What a project needs to be worked on once its model stands.
 void Begin_Editing() {
+    History_Start();
     Show_Title();
     Enable_Project_Cmds();
     New_Projet = 0;
@@ -110,6 +112,7 @@ void Open_Project(std::string_view Path) {
 }
 
 void Close_View() {
+    History_End();
     Call(The_View.Forms_Close);
     Call(The_View.Tiles_Remove);
     Call(The_View.Mode_Leave);

@@ -14,7 +14,7 @@
 #include <string>
 
 #include "core/numbers.h"
-#include "core/table.h"
+#include "core/project_table.h"
 
 /// Stands for "no altitude" in every field Alti.
 inline constexpr Double No_Alti = -9999.0;
@@ -159,15 +159,15 @@ struct PtGrid {
     bool operator==(const PtGrid&) const = default;
 };
 
-inline constinit Table<Obj> Tab_Obj{10, 5};  // row 1 is reserved; objects stand from row 2
-inline constinit Table<Pt> Tab_Pt{5, 20};    // a pool: deleted points leave holes
-inline constinit Table<Area> Tab_Area{10, 5};
-inline constinit Table<Lod8> Tab_Lod8{10, 2};
-inline constinit Table<Excl> Tab_Excl{5, 5};
-inline constinit Table<LC_Cell> Tab_LC{1, 1};
-inline constinit Table<WC_Cell> Tab_WC{1, 1};
-inline constinit Table<Ima> Tab_Ima{2, 3};
-inline constinit Table<PtGrid> Tab_PtGrid{50, 20};
+inline constinit Project_Table<Obj> Tab_Obj{10, 5};  // row 1 is reserved; objects stand from row 2
+inline constinit Project_Table<Pt> Tab_Pt{5, 20};    // a pool: deleted points leave holes
+inline constinit Project_Table<Area> Tab_Area{10, 5};
+inline constinit Project_Table<Lod8> Tab_Lod8{10, 2};
+inline constinit Project_Table<Excl> Tab_Excl{5, 5};
+inline constinit Project_Table<LC_Cell> Tab_LC{1, 1};
+inline constinit Project_Table<WC_Cell> Tab_WC{1, 1};
+inline constinit Project_Table<Ima> Tab_Ima{2, 3};
+inline constinit Project_Table<PtGrid> Tab_PtGrid{50, 20};
 
 inline constinit const Long& Nb_Obj = Tab_Obj.Nb();
 inline constinit const Long& Nb_Pt = Tab_Pt.Nb();

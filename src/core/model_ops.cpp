@@ -97,7 +97,7 @@ void Obj_Delete(Long I) {
 }
 
 void Obj_Set_Attr(Long I, const Attr& A) {
-    Tab_Obj[I].Attr = A;
+    Tab_Obj.Edit(I).Attr = A;
     ++Model_Changes;
 }
 
@@ -105,21 +105,21 @@ void Obj_Move(Long I, Double DX, Double DY) {
     const Obj& O = Tab_Obj[I];
     Long P = O.First_Pt;
     for (Long N = 1; N <= O.Nb_Pts; ++N, P = Tab_Pt[P].Next) {
-        Tab_Pt[P].X += DX;
-        Tab_Pt[P].Y += DY;
+        Tab_Pt.Edit(P).X += DX;
+        Tab_Pt.Edit(P).Y += DY;
     }
     ++Model_Changes;
 }
 
 Long Pt_Append(Long I, Double X, Double Y) {
     const Long P = Pt_New(X, Y);
-    Obj& O = Tab_Obj[I];
+    Obj& O = Tab_Obj.Edit(I);
     if (O.Nb_Pts == 0) {
         Chain_Start(O, P);
         return P;
     }
-    Tab_Pt[O.Last_Pt].Next = P;
-    Tab_Pt[P].Prev = O.Last_Pt;
+    Tab_Pt.Edit(O.Last_Pt).Next = P;
+    Tab_Pt.Edit(P).Prev = O.Last_Pt;
     O.Last_Pt = P;
     ++O.Nb_Pts;
     return P;
@@ -127,39 +127,39 @@ Long Pt_Append(Long I, Double X, Double Y) {
 
 Long Pt_Prepend(Long I, Double X, Double Y) {
     const Long P = Pt_New(X, Y);
-    Obj& O = Tab_Obj[I];
+    Obj& O = Tab_Obj.Edit(I);
     if (O.Nb_Pts == 0) {
         Chain_Start(O, P);
         return P;
     }
-    Tab_Pt[O.First_Pt].Prev = P;
-    Tab_Pt[P].Next = O.First_Pt;
+    Tab_Pt.Edit(O.First_Pt).Prev = P;
+    Tab_Pt.Edit(P).Next = O.First_Pt;
     O.First_Pt = P;
     ++O.Nb_Pts;
     return P;
 }
 
 Long Pt_Insert(Long I, Long After, Double X, Double Y) {
-    Obj& O = Tab_Obj[I];
+    Obj& O = Tab_Obj.Edit(I);
     if (After == O.Last_Pt) return Pt_Append(I, X, Y);
     const Long P = Pt_New(X, Y);
     const Long Before = Tab_Pt[After].Next;
-    Tab_Pt[P].Prev = After;
-    Tab_Pt[P].Next = Before;
-    Tab_Pt[After].Next = P;
-    Tab_Pt[Before].Prev = P;
+    Tab_Pt.Edit(P).Prev = After;
+    Tab_Pt.Edit(P).Next = Before;
+    Tab_Pt.Edit(After).Next = P;
+    Tab_Pt.Edit(Before).Prev = P;
     ++O.Nb_Pts;
     return P;
 }
 
 void Pt_Move(Long P, Double X, Double Y) {
-    Tab_Pt[P].X = X;
-    Tab_Pt[P].Y = Y;
+    Tab_Pt.Edit(P).X = X;
+    Tab_Pt.Edit(P).Y = Y;
     ++Model_Changes;
 }
 
 bool Pt_Delete(Long I, Long P) {
-    Obj& O = Tab_Obj[I];
+    Obj& O = Tab_Obj.Edit(I);
     if (O.Nb_Pts == 1) {
         Msg_Result = Msg_Show(20);
         if (Msg_Result == Button_No) return false;
@@ -170,13 +170,13 @@ bool Pt_Delete(Long I, Long P) {
     const Long Next = Tab_Pt[P].Next;
     if (P == O.First_Pt) {
         O.First_Pt = Next;
-        Tab_Pt[Next].Prev = 0;
+        Tab_Pt.Edit(Next).Prev = 0;
     } else if (P == O.Last_Pt) {
         O.Last_Pt = Prev;
-        Tab_Pt[Prev].Next = 0;
+        Tab_Pt.Edit(Prev).Next = 0;
     } else {
-        Tab_Pt[Prev].Next = Next;
-        Tab_Pt[Next].Prev = Prev;
+        Tab_Pt.Edit(Prev).Next = Next;
+        Tab_Pt.Edit(Next).Prev = Prev;
     }
     --O.Nb_Pts;
     ++Model_Changes;
@@ -203,40 +203,40 @@ Long Ima_Add(Ima Record) {
 }
 
 void Ima_Place(Long I, Double X1, Double Y1, Double X2, Double Y2) {
-    Ima& M = Tab_Ima[I];
+    Ima& M = Tab_Ima.Edit(I);
     M.X1 = X1, M.Y1 = Y1, M.X2 = X2, M.Y2 = Y2;
 }
 
 void Ima_Store(Long I, Ima Record) {
     Record.Num = Tab_Ima[I].Num;
-    Tab_Ima[I] = std::move(Record);
+    Tab_Ima.Edit(I) = std::move(Record);
 }
 
 void Ima_Drop(Long I) {
-    Tab_Ima[I].Active = 0;
+    Tab_Ima.Edit(I).Active = 0;
 }
 
 void Obj_Link(Long I, Int Num) {
-    Attr& A = Tab_Obj[I].Attr;
+    Attr& A = Tab_Obj.Edit(I).Attr;
     A.Link_Ima = Num;
     A.LWM_VTP2 = Technique_VTP1;
     A.VTP1_SpecNor = Vtp1_Special;
 }
 
 void Obj_Unlink(Long I) {
-    Tab_Obj[I].Attr.Link_Ima = 0;
+    Tab_Obj.Edit(I).Attr.Link_Ima = 0;
 }
 
 void Ima_Delete(Long I) {
     const Int Num = Tab_Ima[I].Num;
     for (Long K = First_Obj; K <= Nb_Obj; ++K) {
-        Attr& A = Tab_Obj[K].Attr;
-        if (A.Link_Ima != Num) continue;
+        if (Tab_Obj[K].Attr.Link_Ima != Num) continue;
+        Attr& A = Tab_Obj.Edit(K).Attr;
         A.Link_Ima = 0;
         A.LWM_VTP2 = Technique_LWM;
         A.VTP1_SpecNor = Vtp1_Normal;
     }
-    Tab_Ima[I].Active = 0;
+    Tab_Ima.Edit(I).Active = 0;
 }
 
 Long PtGrid_Add(Double X, Double Y, Single Alt) {
@@ -244,13 +244,13 @@ Long PtGrid_Add(Double X, Double Y, Single Alt) {
 }
 
 void PtGrid_Change(Long I, Double X, Double Y, Single Alt) {
-    PtGrid& P = Tab_PtGrid[I];
+    PtGrid& P = Tab_PtGrid.Edit(I);
     if (P.Active != 1) P = {.Active = 1, .X = X, .Y = Y};
     P.Alt = Alt;
 }
 
 void PtGrid_Delete(Long I) {
-    Tab_PtGrid[I].Active = 0;
+    Tab_PtGrid.Edit(I).Active = 0;
 }
 
 void PtGrid_Forget() {

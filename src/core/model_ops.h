@@ -5,6 +5,7 @@
 // nothing and returns 0.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <span>
 #include <unordered_map>
@@ -55,7 +56,7 @@ std::uint64_t Square_Key(const Lod8& Record);
 /// For each square of Of the row of its first record in Tab, or 0. Walks Tab once, however many
 /// squares are asked for.
 template <typename R, typename K>
-std::vector<Long> Squares_Find(const Table<R>& Tab, std::span<const K> Of) {
+std::vector<Long> Squares_Find(const Project_Table<R>& Tab, std::span<const K> Of) {
     std::unordered_map<std::uint64_t, Long> Row_Of;
     for (const K& Square : Of) Row_Of.emplace(Square_Key(Square), 0);
     for (Long I = 1; I <= Tab.Nb(); ++I) {
@@ -69,26 +70,23 @@ std::vector<Long> Squares_Find(const Table<R>& Tab, std::span<const K> Of) {
 
 /// Stores one record a square: over the first of the square, or behind all others.
 template <typename R>
-void Squares_Store(Table<R>& Tab, std::span<const R> Records) {
+void Squares_Store(Project_Table<R>& Tab, std::span<const R> Records) {
     const std::vector<Long> Rows = Squares_Find(Tab, Records);
     for (std::size_t I = 0; I < Records.size(); ++I)
         if (Rows[I] == 0)
             Tab.Append(Records[I]);
         else
-            Tab[Rows[I]] = Records[I];
+            Tab.Edit(Rows[I]) = Records[I];
 }
 
 /// Removes the first record of each square that has one; the records behind move down.
 template <typename R, typename K>
-void Squares_Delete(Table<R>& Tab, std::span<const K> Of) {
-    std::vector<bool> Goes(static_cast<std::size_t>(Tab.Nb()) + 1);
-    for (const Long Row : Squares_Find(Tab, Of)) Goes[static_cast<std::size_t>(Row)] = true;
-    Long Kept = 0;
-    for (Long I = 1; I <= Tab.Nb(); ++I) {
-        if (Goes[static_cast<std::size_t>(I)]) continue;
-        if (++Kept != I) Tab[Kept] = std::move(Tab[I]);
-    }
-    Tab.Truncate(Kept);
+void Squares_Delete(Project_Table<R>& Tab, std::span<const K> Of) {
+    std::vector<Long> Rows = Squares_Find(Tab, Of);
+    std::ranges::sort(Rows);
+    Rows.erase(Rows.begin(), std::ranges::upper_bound(Rows, 0));  // squares without a record
+    Rows.erase(std::ranges::unique(Rows).begin(), Rows.end());
+    Tab.Remove_Rows(Rows);
 }
 
 /// A new texture rectangle, with Active 1 and a Num above all others, deleted ones included; the

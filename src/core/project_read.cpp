@@ -55,7 +55,7 @@ private:
     void Read_Obj();
     void Read_Chain(Obj& O);
     template <typename R, typename F>
-    void Read_Section(std::string_view Tag, Table<R>& Tab, Long Least, Long Margin,
+    void Read_Section(std::string_view Tag, Project_Table<R>& Tab, Long Least, Long Margin,
                       Long Lines_A_Record, F&& Read_Record);
     void Read_Cell_Sections();
     void Read_Area(Area& A);
@@ -166,7 +166,7 @@ void Project_Reader::Read_Objects() {
 
 // A table that keeps its capacity has a Least of 0.
 template <typename R, typename F>
-void Project_Reader::Read_Section(std::string_view Tag, Table<R>& Tab, Long Least, Long Margin,
+void Project_Reader::Read_Section(std::string_view Tag, Project_Table<R>& Tab, Long Least, Long Margin,
                                   Long Lines_A_Record, F&& Read_Record) {
     if (Is_Damaged()) return;
     Tab.Dimension(Least == 0 ? Tab.Max() : Least);

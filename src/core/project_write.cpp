@@ -32,7 +32,7 @@ private:
     void Write_PtGrid();
 
     template <typename R>
-    void Class_Section(std::string_view Tag, const Table<R>& Tab) {
+    void Class_Section(std::string_view Tag, const Project_Table<R>& Tab) {
         Number_Line(Tag, [&](auto&& Field) { Field(Tab.Nb()); });
         for (const R& Record : Tab.Rows())
             Number_Line("     ", [&](auto&& Field) { Class_Line(Record, Field); });
@@ -109,7 +109,7 @@ void Project_Writer::Write_Cell_Records() {
 }
 
 template <typename T>
-Long Nb_Active(const Table<T>& Tab) {
+Long Nb_Active(const Project_Table<T>& Tab) {
     const auto Rows = Tab.Rows();
     return static_cast<Long>(
         std::count_if(Rows.begin(), Rows.end(), [](const T& R) { return R.Active == 1; }));

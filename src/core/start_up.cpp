@@ -1,6 +1,7 @@
 // core/start_up.cpp - the start of the program and its end.
 #include <optional>
 
+#include "core/history.h"
 #include "core/host.h"
 #include "core/lifecycle.h"
 #include "core/messages.h"
@@ -118,6 +119,7 @@ bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
 }
 
 void Program_End() {
+    History_End();
     Call(The_View.Forms_Close);
     Call(The_View.Tiles_Remove);
     Call(The_View.Ima_Unload);

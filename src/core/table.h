@@ -6,6 +6,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <utility>
@@ -19,6 +20,35 @@ inline constexpr bool Checks_Table_Index = false;
 #else
 inline constexpr bool Checks_Table_Index = true;
 #endif
+
+/// Removes the rows At of Rows, which ascend from 1.
+template <typename V>
+void Rows_Erase(std::vector<V>& Rows, std::span<const Long> At) {
+    if (At.empty()) return;
+    auto Kept = static_cast<std::size_t>(At[0]) - 1;
+    for (std::size_t I = Kept, Next = 0; I < Rows.size(); ++I) {
+        if (Next < At.size() && I + 1 == static_cast<std::size_t>(At[Next]))
+            ++Next;
+        else
+            Rows[Kept++] = std::move(Rows[I]);
+    }
+    Rows.erase(Rows.begin() + static_cast<std::ptrdiff_t>(Kept), Rows.end());
+}
+
+/// Puts rows into Rows so that they stand at At, which ascends from 1 and leaves no gap; Row(K)
+/// makes the one of At[K].
+template <typename V, typename F>
+void Rows_Insert(std::vector<V>& Rows, std::span<const Long> At, F&& Row) {
+    std::size_t From = Rows.size();
+    Rows.resize(From + At.size());
+    std::size_t To = Rows.size();
+    for (std::size_t K = At.size(); K > 0;) {
+        if (static_cast<std::size_t>(At[K - 1]) == To)
+            Rows[--To] = Row(--K);
+        else
+            Rows[--To] = std::move(Rows[--From]);
+    }
+}
 
 template <typename T>
 class Table {
@@ -66,6 +96,24 @@ public:
         Row_.erase(Row_.begin() + (I - 1));
         --Nb_;
     }
+
+    /// Removes the rows At, which ascend.
+    void Remove_Rows(std::span<const Long> At) {
+        if (!At.empty()) Check_Index(At.front()), Check_Index(At.back());
+        Rows_Erase(Row_, At);
+        Nb_ = static_cast<Long>(Row_.size());
+    }
+
+    /// Puts rows in so that they stand at At, which ascends; Row(K) makes the one of At[K].
+    template <typename F>
+    void Insert_Rows(std::span<const Long> At, F&& Row) {
+        Rows_Insert(Row_, At, std::forward<F>(Row));
+        Nb_ = static_cast<Long>(Row_.size());
+        if (Nb_ > Max_) Grow((std::int64_t{Nb_} - Max_ + Step_ - 1) / Step_);
+    }
+
+    /// Another capacity; the rows stay.
+    void Set_Capacity(Long Max) { Max_ = Max; }
 
     /// Drops the rows behind the first Nb.
     void Truncate(Long Nb) {

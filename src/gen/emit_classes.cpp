@@ -53,7 +53,7 @@ std::string Square_Path(const std::string& Dir, const Class_Kind& Kind, const Lo
 
 // Records of one cell may say different things: the last one in this order counts.
 template <typename Record>
-Table<Lod5_Cell> Sorted_Cells(const Table<Record>& Tab) {
+Table<Lod5_Cell> Sorted_Cells(const Project_Table<Record>& Tab) {
     Table<Lod5_Cell> Cells(Tab.Nb() + 1, 1);
     for (const Record& R : Tab.Rows()) Cells.Append({.Pos = Cell_To_Lod5(R), .Num = R.Num});
     Exchange_Order(Cells,
@@ -153,7 +153,7 @@ bool Generate_Square(const Class_Kind& Kind, Lod5_Cells Cells) {
 }
 
 template <typename Record>
-void Generate(const Class_Kind& Kind, const Table<Record>& Tab) {
+void Generate(const Class_Kind& Kind, const Project_Table<Record>& Tab) {
     const auto Has_Class = [](const Record& R) { return R.Num != No_Class; };
     if (!std::ranges::any_of(Tab.Rows(), Has_Class)) return;
     const Hourglass Shown;

@@ -123,7 +123,7 @@ std::optional<Geo> Moved(Geo G, const Calibration& Old) {
 }
 
 void Move_Lod8(const Calibration& Old) {
-    for (Lod8& Record : Tab_Lod8.Rows()) {
+    for (Lod8& Record : Tab_Lod8.Edit_Rows()) {
         const auto To = Moved(Area_Centre(Record.AreaLon, Record.AreaLat), Old);
         if (!To) continue;
         const Cell_Pos C = LatLon_To_Cell(*To);
@@ -133,16 +133,16 @@ void Move_Lod8(const Calibration& Old) {
 }
 
 template <typename R>
-void Move_By_Centre(Table<R>& Tab, const Calibration& Old) {
-    for (Cell_Pos& C : Tab.Rows()) {
+void Move_By_Centre(Project_Table<R>& Tab, const Calibration& Old) {
+    for (Cell_Pos& C : Tab.Edit_Rows()) {
         if (const auto To = Moved(Cell_Centre(C), Old)) C = LatLon_To_Cell(*To);
     }
 }
 
 // Class cells sit on the corners of the grid.
 template <typename R>
-void Move_By_Corner(Table<R>& Tab, const Calibration& Old) {
-    for (Cell_Pos& C : Tab.Rows()) {
+void Move_By_Corner(Project_Table<R>& Tab, const Calibration& Old) {
+    for (Cell_Pos& C : Tab.Edit_Rows()) {
         if (const auto To = Moved(Cell_Corner(C), Old)) C = LatLon_To_Cell_Shift(*To);
     }
 }

@@ -25,7 +25,7 @@ Long Colour_Of(const Excl&) {
 }
 
 template <typename R>
-void Draw_Marks(const Table<R>& Tab) {
+void Draw_Marks(const Project_Table<R>& Tab) {
     if (Tab.Nb() == 0) return;
     Hatching Hatches;
     Squares_In_View().For_Each_Record(

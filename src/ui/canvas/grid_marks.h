@@ -30,7 +30,7 @@ public:
     /// of several records of a square the first in the table. A record of an Area is one of all
     /// its squares.
     template <typename R, typename F>
-    void For_Each_Record(const Table<R>& Tab, F&& Paint) const;
+    void For_Each_Record(const Project_Table<R>& Tab, F&& Paint) const;
 
 private:
     // Of one axis: its edges on the canvas, and Area and Cell.
@@ -85,7 +85,7 @@ private:
 void Grid_Marks_Draw(Grid_Marks Marks);
 
 template <typename R, typename F>
-void Squares_In_View::For_Each_Record(const Table<R>& Tab, F&& Paint) const {
+void Squares_In_View::For_Each_Record(const Project_Table<R>& Tab, F&& Paint) const {
     std::unordered_map<Long, Long> Row_Of;
     for (Long I = 1; I <= Tab.Nb(); ++I)
         if (May_Be_Seen(Tab[I])) Row_Of.try_emplace(Key_Of(Tab[I]), I);

@@ -20,7 +20,7 @@ class Class_Form final : public Record_Dialog<R> {
     using Base = Record_Dialog<R>;
 
 public:
-    Class_Form(const Class_Rules& Rules, Table<R>& Tab, R& Cur, Int& Cancelled)
+    Class_Form(const Class_Rules& Rules, Project_Table<R>& Tab, R& Cur, Int& Cancelled)
         : Base(Rules.Form, Rules.Title, "LCreatMod", Tab, Cur, Cancelled),
           Classes_(*this, Rules.Sort, Rules.Temp_Name, [this] { Take_Row(); }) {
         this->Add_Number({.Name = "Num", .Words = {"Class", "Classe"}, .Columns = 4}, &R::Num,

@@ -44,7 +44,7 @@ private:
 template <typename R>
 class Record_Dialog : public Square_Dialog {
 protected:
-    Record_Dialog(std::string Name, Wording Title, std::string State_Label, Table<R>& Tab, R& Cur,
+    Record_Dialog(std::string Name, Wording Title, std::string State_Label, Project_Table<R>& Tab, R& Cur,
                   Int& Cancelled)
         : Square_Dialog(std::move(Name), Title, std::move(State_Label)),
           Tab_(Tab),
@@ -190,7 +190,7 @@ private:
         Accept();
     }
 
-    Table<R>& Tab_;
+    Project_Table<R>& Tab_;
     R& Cur_;
     std::vector<R> Others_;
     Int& Cancelled_;

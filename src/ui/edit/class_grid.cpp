@@ -61,7 +61,7 @@ void Paint_Picture(const Picture& P, const Square_Px& S) {
 }
 
 template <typename R>
-void Paint_Squares(Class_Sort Sort, const Table<R>& Tab) {
+void Paint_Squares(Class_Sort Sort, const Project_Table<R>& Tab) {
     if (Tab.Nb() == 0 || !Marks_Fit()) return;
     Hatching Hatches;
     Squares_In_View(Pixel_To_Cell_Shift).For_Each_Record(Tab, [&](const Square_Px& S, const R& C) {

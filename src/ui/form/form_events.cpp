@@ -2,6 +2,7 @@
 #include "ui/form/form_events.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -20,6 +21,26 @@ public:
 };
 
 namespace {
+
+Int Acts_Under_Way = 0;
+
+// What happens within an act belongs to it.
+class Act {
+public:
+    explicit Act(const Form& F, bool Is_Tick = false) : Of_(F.Name()), Is_Tick_(Is_Tick) {
+        ++Acts_Under_Way;
+    }
+    ~Act() {
+        if (Acts_Under_Way == 1 && On_Act_Ended) On_Act_Ended(Of_, Is_Tick_);
+        if (Acts_Under_Way > 0) --Acts_Under_Way;
+    }
+    Act(const Act&) = delete;
+    Act& operator=(const Act&) = delete;
+
+private:
+    std::string Of_;
+    bool Is_Tick_;
+};
 
 using Access = Form_Access;
 
@@ -151,16 +172,23 @@ void Note_Focusable(const Form& F, const Layout& L, std::vector<std::string>& To
 
 }  // namespace
 
+void Acts_Reset() {
+    On_Act_Ended = nullptr;
+    Acts_Under_Way = 0;
+}
+
 bool Form_In_Reach(const Form& F, std::string_view Name) {
     return !F.Is_Closed() && F.Has(Name) && F.Is_Shown(Name) && F.Is_Visible(Name) &&
            F.Is_Enabled(Name);
 }
 
 void Form_Load(Form& F) {
+    const Act Now(F);
     Run(F, F.On_Load);
 }
 
 bool Form_Click(Form& F, std::string_view Name) {
+    const Act Now(F);
     if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
     if (!Reach(F, C)) return false;
@@ -173,6 +201,7 @@ bool Form_Click(Form& F, std::string_view Name) {
 }
 
 bool Form_Double_Click(Form& F, std::string_view Name) {
+    const Act Now(F);
     if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
     if (!Reach(F, C)) return false;
@@ -182,6 +211,7 @@ bool Form_Double_Click(Form& F, std::string_view Name) {
 }
 
 bool Form_Open_Chooser(Form& F, std::string_view Name) {
+    const Act Now(F);
     if (!Form_In_Reach(F, Name) || !F[Name].On_Choose || !Reach(F, F[Name])) return false;
     Run(F, F[Name].On_Choose);
     return true;
@@ -196,6 +226,7 @@ bool Form_Can_Choose(const Form& F, std::string_view Name, Long I) {
 }
 
 bool Form_Choose(Form& F, std::string_view Name, Long I) {
+    const Act Now(F);
     if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
     if (!Form_Can_Choose(F, Name, I)) return false;
@@ -212,6 +243,7 @@ bool Form_Choose(Form& F, std::string_view Name, Long I) {
 }
 
 bool Form_Bring_To_Front(Form& F, std::string_view Name) {
+    const Act Now(F);
     const std::string Round = F.Parent(Name);
     if (Round.empty()) return F.Is_Shown(Name);
     if (!Form_Bring_To_Front(F, Round)) return false;
@@ -222,6 +254,7 @@ bool Form_Bring_To_Front(Form& F, std::string_view Name) {
 }
 
 bool Form_Scroll(Form& F, std::string_view Name, Long Value) {
+    const Act Now(F);
     if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
     F.Set_Value(Name, std::clamp<Long>(Value, 0, C.Max));
@@ -230,6 +263,7 @@ bool Form_Scroll(Form& F, std::string_view Name, Long Value) {
 }
 
 bool Form_Type(Form& F, std::string_view Name, std::string_view Text) {
+    const Act Now(F);
     if (!Form_In_Reach(F, Name)) return false;
     Control& C = Access::At(F, Name);
     if (!Is_Field(C) || C.Read_Only || !Form_Enter_Control(F, Name)) return false;
@@ -242,6 +276,7 @@ bool Form_Type(Form& F, std::string_view Name, std::string_view Text) {
 }
 
 bool Form_Enter_Control(Form& F, std::string_view Name) {
+    const Act Now(F);
     if (!Form_In_Reach(F, Name)) return false;
     return Move_Focus(F, F[Name]);
 }
@@ -262,6 +297,7 @@ bool Form_Takes_Focus(const Control& C) {
 }
 
 bool Form_Next_Control(Form& F) {
+    const Act Now(F);
     std::vector<std::string> Order;
     Note_Focusable(F, F.Root(), Order);
     if (Order.empty()) return false;
@@ -271,10 +307,12 @@ bool Form_Next_Control(Form& F) {
 }
 
 bool Form_Leave(Form& F) {
+    const Act Now(F);
     return Accept_Typed(F);
 }
 
 bool Form_Key(Form& F, Key_Event K) {
+    const Act Now(F);
     if (F.Is_Closed()) return false;
     if (F.On_Key && F.On_Key(K)) return true;
     const Control* Focused =
@@ -291,15 +329,19 @@ bool Form_Mouse(Form& F, std::string_view Name, const Mouse_Event& E) {
     if (!Form_In_Reach(F, Name)) return false;
     const Control& C = F[Name];
     if (!C.On_Mouse) return false;
+    std::optional<Act> Now;
+    if (E.What != Mouse_Event::Kind::Move) Now.emplace(F);
     C.On_Mouse(E);
     return true;
 }
 
 void Form_Tick(Form& F) {
+    const Act Now(F, true);
     Run(F, F.On_Tick);
 }
 
 bool Form_User_Close(Form& F) {
+    const Act Now(F);
     if (F.Is_Closed()) return true;
     if (F.On_Close) {
         if (F.On_Close()) F.Close(Form_End::Closed);

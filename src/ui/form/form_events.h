@@ -6,9 +6,18 @@
 // because the field left for it refused its text.
 #pragma once
 
+#include <functional>
+#include <string>
 #include <string_view>
 
+#include "core/resets.h"
 #include "ui/form/form.h"
+
+/// Called when an act of the user has ended: what was done to the form Of, with all the dialogs
+/// that it brought, or its timer's tick. A move of the mouse is none.
+inline std::function<void(const std::string& Of, bool Is_Tick)> On_Act_Ended;
+void Acts_Reset();
+inline const bool Acts_Are_Reset = At_Reset(Acts_Reset);
 
 /// The form is about to be shown: runs On_Load.
 void Form_Load(Form& F);

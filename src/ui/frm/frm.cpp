@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/check.h"
+#include "core/history.h"
 #include "core/host.h"
 #include "core/lifecycle.h"
 #include "core/model.h"
@@ -24,10 +25,13 @@
 #include "ui/edit/ima_tools.h"
 #include "ui/edit/modes.h"
 #include "ui/edit/route_tools.h"
+#include "ui/edit/undo.h"
+#include "ui/form/form_events.h"
 #include "ui/form/form_list.h"
 #include "ui/frm/frm_controls.h"
 #include "ui/frm/frm_keys.h"
 #include "ui/frm/generate.h"
+#include "ui/frm/undo_controls.h"
 
 namespace {
 
@@ -62,6 +66,8 @@ constexpr Command Menu_Commands[] = {
     {"Mnu_File_Prec(1)", [] { Mnu_File_Prec(1); }},
     {"Mnu_File_Prec(2)", [] { Mnu_File_Prec(2); }},
     {"Mnu_File_Prec(3)", [] { Mnu_File_Prec(3); }},
+    {"Mnu_Edit_Undo", Cmd_Undo},
+    {"Mnu_Edit_Redo", Cmd_Redo},
     {"Mnu_Param_File", Mnu_Param_File},
     {"Mnu_par_Remesh", Mnu_par_Remesh},
     {"Mnu_ModCad", Mnu_ModCad},
@@ -73,6 +79,8 @@ constexpr Command Menu_Commands[] = {
 constexpr Command Button_Commands[] = {
     {"Cmd_New", Cmd_New},
     {"Cmd_Save", Save_And_Tidy<Cmd_Save>},
+    {"Cmd_Undo", Cmd_Undo},
+    {"Cmd_Redo", Cmd_Redo},
     {"Cmd_ZPlus", Cmd_ZPlus},
     {"Cmd_ZMoins", Cmd_ZMoins},
     {"Cmd_AffBmp", Cmd_AffBmp},
@@ -120,6 +128,12 @@ void Set_Handlers(Form& F) {
     F.On_Close = Mnu_File_Quit;
     F.On_Drop = [](std::string_view Path) { Frm_Drop(Path); };
     F.Reserved_Keys = Alt_Letters;
+}
+
+// What an act has changed is a step, however it came about.
+void Act_Ended(const std::string& Of, bool Is_Tick) {
+    History_Act_Ended(Of, Is_Tick);
+    Undo_Controls_Show();
 }
 
 void View_Clear() {
@@ -187,6 +201,8 @@ void Frm_Install() {
     Install_View_Calls();
     Modes_Install();
     Gen_Install();
+    On_Act_Ended = Act_Ended;
+    Undo_Controls_Show();
 }
 
 void Frm_Remove() {
@@ -195,6 +211,7 @@ void Frm_Remove() {
 
 void Apply_Language() {
     Frm().Set_Language(Language);
+    Undo_Controls_Show();
     Hint_Show();
 }
 

@@ -16,6 +16,7 @@ struct Menu_Row {
 
 constexpr Menu_Row Menus[] = {
     {"Mnu_File", {"Files", "Fichiers"}},
+    {"Mnu_Edit", {"Edit", "Edition"}},
     {"Mnu_Param", {"Parameters", "Param\xE8tres"}},
     {"Mnu_Tools", {"Tools", "Outils"}},
 };
@@ -27,6 +28,8 @@ constexpr Menu_Row Menu_Items[] = {
     {"Mnu_File_Enreg_Sous", {"Save as ...", "Enregistrer sous"}, "Ctrl+Shift+S"},
     {"Mnu_File_Close", {"Close", "Fermer"}, "Ctrl+W"},
     {"Mnu_File_Quit", {"Quit", "Quitter"}, "Ctrl+Q"},
+    {"Mnu_Edit_Undo", {"Undo", "Annuler"}, "Ctrl+Z"},
+    {"Mnu_Edit_Redo", {"Redo", "R\xE9tablir"}, "Ctrl+Shift+Z"},
     {"Mnu_Param_File", {"File parameters", "Param\xE8tres du projet"}},
     {"Mnu_par_Remesh", {"Re-Mesh", "Re-Mesh"}},
     {"Mnu_ModCad",
@@ -47,6 +50,8 @@ struct Button_Row {
 constexpr Button_Row Buttons_Of_Bar[] = {
     {"Cmd_New", {"New project", "Nouveau"}},
     {"Cmd_Save", {"Save", "Enregistrer"}},
+    {"Cmd_Undo", {"Undo", "Annuler"}},
+    {"Cmd_Redo", {"Redo", "R\xE9tablir"}},
     {"Cmd_ZPlus", {"Zoom +", "Zoom +"}},
     {"Cmd_ZMoins", {"Zoom -", "Zoom -"}},
     {"Cmd_AffBmp", {"Show/hide image", "Montrer/cacher image"}},
@@ -152,6 +157,7 @@ Layout Menu_Layout() {
         {Menu("Mnu_File", {"Mnu_File_New", "Mnu_File_Open", "Mnu_File_Enreg", "Mnu_File_Enreg_Sous",
                            "Mnu_File_Close", Gap(), "Mnu_File_Prec(0)", "Mnu_File_Prec(1)",
                            "Mnu_File_Prec(2)", "Mnu_File_Prec(3)", Gap(), "Mnu_File_Quit"}),
+         Menu("Mnu_Edit", {"Mnu_Edit_Undo", "Mnu_Edit_Redo"}),
          Menu("Mnu_Param", {"Mnu_Param_File", "Mnu_par_Remesh", "Mnu_ModCad", Gap(),
                             "Mnu_Param_Gene", Gap(), "Mnu_Reinit"}),
          Menu("Mnu_Tools", {"Mnu_Tool_CvLL"})});
@@ -162,6 +168,8 @@ Layout Menu_Layout() {
 Layout Tool_Bar_Layout() {
     return Tool_Bar({"Cmd_New",
                      "Cmd_Save",
+                     "Cmd_Undo",
+                     "Cmd_Redo",
                      Gap(),
                      "Cmd_ZPlus",
                      "Cmd_ZMoins",

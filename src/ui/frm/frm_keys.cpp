@@ -81,6 +81,7 @@ const std::string_view Alt_Letters = "CGLWEDUMTRSNOIA";
 
 bool Frm_Key(Key_Event K) {
     if ((K.Shift & Alt_Key) != 0) return Press_Alt(K.Code);
+    if (K.Code == 'Y' && K.Shift == Ctrl_Key) return Form_Click(Frm(), "Mnu_Edit_Redo");
     const Mode_Row* Row = Mode_Now();
     return Row != nullptr && Row->Form_Key != nullptr && Row->Form_Key(K);
 }
