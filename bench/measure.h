@@ -52,7 +52,7 @@ std::size_t Heap_Of_Names(const Names& All) {
 }
 
 template <typename T>
-std::size_t Size_Of(const Table<T>& Tab) {
+std::size_t Size_Of(const Project_Table<T>& Tab) {
     return static_cast<std::size_t>(Tab.Nb()) * sizeof(T);
 }
 

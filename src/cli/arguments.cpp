@@ -11,6 +11,7 @@ const char Cli_Help[] =
 Usage:
   terrafold-cli generate PROJECT [--app-path DIR] [--language FR|US] [--dry-run]
   terrafold-cli play SCRIPT [--app-path DIR] [--language FR|US] [--canvas WxH]
+  terrafold-cli play --journal FILE
   terrafold-cli resave IN OUT
   terrafold-cli info PROJECT
   terrafold-cli texture IN OUT.bmp [--palette FILE]
@@ -24,6 +25,8 @@ generate  writes the scenery sources of PROJECT (a .LWM file) and compiles them 
               message NUMBER TEXT     a message; NUMBER 0 is one without a number
 play      runs the whole program without a screen and does what SCRIPT (a file, or "-"
           for standard input) says a user does. docs/play.md tells of its language.
+          With --journal it tells what the steps of a journal change which a crash has
+          left behind, and does nothing else.
 resave    reads IN and writes it as OUT.
 info      prints counts, extent and outputs of PROJECT as JSON.
 texture   writes the texture file IN, of any format of the simulator, as a bitmap of
@@ -91,7 +94,9 @@ bool Read_Size(const std::string& Text, Long& Width, Long& Height) {
 void Parse_Option(const std::string& Word, Word_List& Words, Cli_Arguments& A) {
     const bool Plays = A.What == Cli_Arguments::Command::Play;
     std::string Size;
-    if (!Plays && Word == "--dry-run") {
+    if (Plays && Word == "--journal") {
+        A.Is_Journal = true;
+    } else if (!Plays && Word == "--dry-run") {
         A.Dry_Run = true;
     } else if (Plays && Take_Value(Word, "--canvas", Words, Size)) {
         if (!Read_Size(Size, A.Canvas_Width, A.Canvas_Height))

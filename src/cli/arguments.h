@@ -14,6 +14,7 @@ struct Cli_Arguments {
     std::string App_Dir;   // --app-path; empty when not given
     std::string Language;  // --language: "FR" or "US"; empty when not given
     std::string Palette;   // --palette, the system's path; empty when not given
+    bool Is_Journal = false;  // --journal: Project is a journal to be told of
     bool Dry_Run = false;
     Long Canvas_Width = 801, Canvas_Height = 601;  // --canvas
 

@@ -8,6 +8,7 @@
 #include "cli/arguments.h"
 #include "cli/cli_host.h"
 #include "cli/project_info.h"
+#include "core/journal_read.h"
 #include "core/lifecycle.h"
 #include "core/model.h"
 #include "core/palette.h"
@@ -136,7 +137,21 @@ std::optional<std::string> Script_Text(const std::string& Typed) {
     return Text;
 }
 
+int Tell_Journal(const Cli_Arguments& A) {
+    const auto Path = Typed_Path(A.Project);
+    const auto Bytes = Path ? File_Read(*Path) : std::nullopt;
+    if (!Bytes) {
+        Complain("the journal " + A.Project + " can't be read");
+        return Wrong_Usage;
+    }
+    const Journal J = Journal_Read(*Bytes);
+    for (const std::string& Line : Journal_Report(J))
+        std::printf("%s\n", To_Utf8(As_One_Line(Line)).c_str());
+    return J.What == Journal::State::Good ? All_Well : Message_Shown;
+}
+
 int Play_Script(const Cli_Arguments& A) {
+    if (A.Is_Journal) return Tell_Journal(A);
     const auto Text = Script_Text(A.Project);
     if (!Text) return Wrong_Usage;
     const Play_End End = Play(Script_Read(*Text),

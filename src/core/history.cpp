@@ -260,13 +260,14 @@ std::string Difference(Step_Kind& Kind) {
 // A step in the direction in which it is gone: the parts of one taken back come last first.
 void Go(const Step& S, bool Back, const Change_Told& Told) {
     std::vector<Step_Change> Made;
+    std::string Written;
     for (std::size_t I = 0; I < S.Parts.size(); ++I) {
         auto C = Step_Read(Back ? S.Parts[S.Parts.size() - 1 - I] : S.Parts[I]);
         if (!C) return;
         if (Back) C->Turn_Round();
         Made.push_back(std::move(*C));
         Make(Made.back(), false);
-        Journal_Step(Back ? Step_Write(Made.back()) : S.Parts[I], S.Kind,
+        Journal_Step(Back ? std::string_view(Written = Step_Write(Made.back())) : S.Parts[I], S.Kind,
                      {.Joins_Last = I > 0, .Is_Undo = Back, .Is_Redo = !Back});
     }
     if (Told)
@@ -345,7 +346,7 @@ bool History_Do(std::string_view Bytes, bool Joins_Last) {
     Make(*C, false);
     const Step_Kind Kind = Step_Kind_Of(*C);
     const bool Joins = Joins_Last && !H.Done.empty();
-    Journal_Step(std::string(Bytes), Joins ? H.Done.back().Kind : Kind, {.Joins_Last = Joins});
+    Journal_Step(Bytes, Joins ? H.Done.back().Kind : Kind, {.Joins_Last = Joins});
     Take_In(std::string(Bytes), Kind, {}, Joins);
     return true;
 }

@@ -1,4 +1,184 @@
-// core/journal.cpp
+// core/journal.cpp - writing the journal.
 #include "core/journal.h"
 
-void Journal_Step(const std::string&, Step_Kind, Step_Flags) {}
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <optional>
+
+#include "core/history.h"
+#include "core/host.h"
+#include "core/program.h"
+#include "core/resets.h"
+#include "platform/append_file.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+
+namespace {
+
+struct Journal_State {
+    std::unique_ptr<Append_File> File;
+    std::string Path;
+    std::optional<Project_Mark> Base;  // of the project file, for a journal to be made yet
+    bool Is_On = false;
+    bool Has_Steps = false;
+    bool As_On_Disk = false;
+    bool Has_Failed = false;
+};
+
+Journal_State The_Journal;
+const bool Is_Reset = At_Reset([] { The_Journal = {}; });
+
+constexpr int Most_Journals = 1000;
+
+std::string Record(const Byte_Writer& Out) {
+    Byte_Writer Whole;
+    Whole.Put(static_cast<std::uint32_t>(Out.Bytes.size()));
+    Whole.Put(Bytes_Sum(Out.Bytes));
+    return Whole.Bytes + Out.Bytes;
+}
+
+std::string Head() {
+    Byte_Writer Out;
+    Out.Bytes = Journal_Magic;
+    Out.Put(Journal_Version);
+    Out.Put(Byte_Order_Mark);
+    return Out.Bytes;
+}
+
+std::string Base_Record(const std::optional<Project_Mark>& Base, bool With_Model) {
+    Byte_Writer Out;
+    Out.Put(Journal_Record::Base);
+    Out.Put_Text(Nom_Projet);
+    Out.Put(static_cast<Byte>(Base ? 1 : 0));
+    const Project_Mark M = Base.value_or(Project_Mark{});
+    Out.Put(M.Size), Out.Put(M.Time), Out.Put(M.Sum);
+    Out.Put_Text(With_Model ? History_Whole_Model() : std::string());
+    return Record(Out);
+}
+
+// Told once a project: work goes on, and a save begins anew.
+void Fail() {
+    if (The_Journal.Has_Failed) return;
+    The_Journal.Has_Failed = true;
+    Plain_Box(In_Language(
+        "The journal cannot be written: what you do from now on would be lost in a crash. "
+        "Saving is not affected. ",
+        "Le journal ne peut pas \xEAtre \xE9"
+        "crit : ce que vous faites d\xE9sormais serait perdu en cas de panne. "
+        "L'enregistrement n'est pas concern\xE9. "));
+}
+
+void Drop_File() {
+    Journal_State& J = The_Journal;
+    J.File.reset();
+    if (!J.Path.empty()) File_Delete(J.Path);
+    J.Path.clear();
+}
+
+// The former journal goes when the new one stands.
+bool Begin_File(bool With_Model) {
+    Journal_State& J = The_Journal;
+    auto File = std::make_unique<Append_File>();
+    std::string Path;
+    for (int Try = 0; Try < 3 && !File->Is_Open(); ++Try) {
+        Path = Journal_Free_Path("");
+        if (!Path.empty()) File->Create(Path);
+    }
+    const bool Whole = File->Is_Open() && File->Append(Head() + Base_Record(J.Base, With_Model));
+    if (File->Is_Open() && !Whole) {
+        File.reset();
+        File_Delete(Path);
+    }
+    if (!Whole) return false;
+    Drop_File();
+    J.File = std::move(File);
+    J.Path = Path;
+    return true;
+}
+
+}  // namespace
+
+std::uint64_t Bytes_Sum(std::string_view Bytes) {
+    std::uint64_t Sum = 0x9E3779B97F4A7C15 ^ Bytes.size();
+    while (!Bytes.empty()) {
+        std::uint64_t Word = 0;
+        const std::size_t Count = std::min(Bytes.size(), sizeof Word);
+        std::memcpy(&Word, Bytes.data(), Count);
+        Sum = (Sum ^ Word) * 0xD6E8FEB86659FD93;
+        Sum ^= Sum >> 32;
+        Bytes.remove_prefix(Count);
+    }
+    return Sum;
+}
+
+std::optional<Project_Mark> Project_Mark_Of(std::string_view Path) {
+    const auto Mark = File_Mark_Of(Path);
+    const auto Text = Mark ? File_Read(Path) : std::nullopt;
+    if (!Text) return std::nullopt;
+    return Project_Mark{.Size = Mark->Size, .Time = Mark->Time, .Sum = Bytes_Sum(*Text)};
+}
+
+std::string Journal_Free_Path(std::string_view Mark) {
+    const std::string Dir = App_Path + "\\Temp";
+    if (!Dir_Create(Dir)) return {};
+    for (int I = 1; I <= Most_Journals; ++I) {
+        const std::string Path =
+            Dir + "\\Journal" + std::string(Mark) + std::to_string(I) + ".jnl";
+        if (!File_Exists(Path)) return Path;
+    }
+    return {};
+}
+
+const std::string& Journal_Path() {
+    return The_Journal.Path;
+}
+
+// A project whose file tells all of it has its journal made with the first step.
+void Journal_Start(bool As_On_Disk) {
+    Journal_End();
+    Journal_State& J = The_Journal;
+    J.Is_On = true;
+    if (As_On_Disk) J.Base = Project_Mark_Of(Nom_Projet);
+    J.As_On_Disk = J.Base.has_value();
+    if (!J.As_On_Disk && !Begin_File(true)) Fail();
+}
+
+void Journal_Saved() {
+    Journal_State& J = The_Journal;
+    if (!J.Is_On) return;
+    History_Act_Ended();
+    J.Base = Project_Mark_Of(Nom_Projet);
+    // A file does not hold deleted points and the like: reading it would give other rows.
+    J.As_On_Disk = J.As_On_Disk && J.Base && !J.Has_Steps;
+    J.Has_Failed = false;
+    if (J.As_On_Disk) return Drop_File();
+    J.Has_Steps = false;
+    if (!Begin_File(true)) Fail();
+}
+
+void Journal_End() {
+    Drop_File();
+    The_Journal = {};
+}
+
+void Journal_Sync() {
+    if (The_Journal.File) The_Journal.File->Sync();
+}
+
+void Journal_Step(std::string_view Bytes, Step_Kind Kind, Step_Flags Flags) {
+    Journal_State& J = The_Journal;
+    if (!J.Is_On) return;
+    const bool Is_First = !J.Has_Steps;
+    J.Has_Steps = true;
+    if (J.Has_Failed) return;
+    if (Is_First && !J.File && !Begin_File(false)) return Fail();
+    Byte_Writer Out;
+    Out.Put(Journal_Record::Step);
+    Out.Put(Kind);
+    Out.Put(static_cast<Byte>(Flags.Joins_Last));
+    Out.Put(static_cast<Byte>(Flags.Is_Undo ? 1 : Flags.Is_Redo ? 2 : 0));
+    Out.Put_Text(Date_Time_Text());
+    Out.Put_Text(Bytes);
+    if (!J.File || !J.File->Append(Record(Out))) Fail();
+}

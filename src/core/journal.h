@@ -1,7 +1,14 @@
 // core/journal.h - the steps of the open project on disk, so that a crash loses none of them.
+//
+// A file App_Path\Temp\Journal*.jnl: a head with version and order of bytes, what the steps begin
+// from, then a record for each step. A record has its length and a checksum of its bytes, so
+// that what a crash has cut off is told from what is whole. It is this program's alone while it
+// is open, and gone after a proper end.
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "core/step.h"
 
@@ -12,5 +19,38 @@ struct Step_Flags {
     bool Is_Redo = false;
 };
 
-/// Appends a step.
-void Journal_Step(const std::string& Bytes, Step_Kind Kind, Step_Flags Flags);
+/// A project has been opened. As_On_Disk when the model is what the reading of its file gives;
+/// else the journal begins with the whole model.
+void Journal_Start(bool As_On_Disk);
+/// The project has been saved: the journal begins afresh.
+void Journal_Saved();
+/// The project is closed: the journal goes.
+void Journal_End();
+/// What it holds is on the disk when this returns.
+void Journal_Sync();
+
+/// Appends a step. The first time that it cannot be written the user is told.
+void Journal_Step(std::string_view Bytes, Step_Kind Kind, Step_Flags Flags);
+
+/// The path of the journal being written, "" when there is none yet.
+const std::string& Journal_Path();
+/// A path for a journal in App_Path\Temp that no file has: "Journal", Mark, a number.
+std::string Journal_Free_Path(std::string_view Mark);
+
+/// A number that hardly any other bytes have.
+std::uint64_t Bytes_Sum(std::string_view Bytes);
+
+/// A project file as it was when the steps began.
+struct Project_Mark {
+    std::uint64_t Size = 0;
+    std::int64_t Time = 0;
+    std::uint64_t Sum = 0;
+    bool operator==(const Project_Mark&) const = default;
+};
+/// Nothing when it cannot be read.
+std::optional<Project_Mark> Project_Mark_Of(std::string_view Path);
+
+inline constexpr char Journal_Magic[] = "TfJournl";  // the first eight bytes
+inline constexpr std::uint32_t Journal_Version = 1;
+inline constexpr std::uint32_t Byte_Order_Mark = 0x01020304;
+enum class Journal_Record : Byte { Base = 1, Step = 2 };

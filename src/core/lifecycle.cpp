@@ -6,6 +6,7 @@
 #include "core/check.h"
 #include "core/history.h"
 #include "core/host.h"
+#include "core/journal.h"
 #include "core/messages.h"
 #include "core/model_ops.h"
 #include "core/names.h"
@@ -26,8 +27,9 @@ void Show_Title() {
 }
 
 // What a project needs to be worked on once its model stands.
-void Begin_Editing() {
+void Begin_Editing(bool As_On_Disk) {
     History_Start();
+    Journal_Start(As_On_Disk);
     Show_Title();
     Enable_Project_Cmds();
     New_Projet = 0;
@@ -62,6 +64,17 @@ void End_Failed_Opening() {
     Call(The_View.Ima_Unload);
     Projet_Open = 0;
     The_Host().Set_Pointer(Pointer_Shape::Normal);
+}
+
+bool Show_Loaded(bool As_On_Disk) {
+    if (The_View.Tiles_Build && !The_View.Tiles_Build()) {
+        End_Failed_Opening();
+        Init_Tables();  // a project without its map can't be worked on
+        return false;
+    }
+    Recent_Update(Nom_Projet, 1);
+    Begin_Editing(As_On_Disk);
+    return true;
 }
 
 void Open_In_View(std::string_view Path) {
@@ -102,17 +115,21 @@ bool Load_Project(std::string_view Path) {
 
 void Open_Project(std::string_view Path) {
     if (!Load_Project(Path)) return End_Failed_Opening();
-    if (The_View.Tiles_Build && !The_View.Tiles_Build()) {
-        End_Failed_Opening();
-        Init_Tables();  // a project without its map can't be worked on
-        return;
-    }
-    Recent_Update(Nom_Projet, 1);
-    Begin_Editing();
+    Show_Loaded(V24_Upgrade == 0);
+}
+
+bool Open_Restored(const std::function<bool()>& Load, bool As_On_Disk) {
+    The_Host().Set_Pointer(Pointer_Shape::Hourglass);
+    Call(The_View.View_Reset);
+    Call(The_View.Route_Reset);
+    if (Load()) return Show_Loaded(As_On_Disk);
+    End_Failed_Opening();
+    return false;
 }
 
 void Close_View() {
     History_End();
+    Journal_End();
     Call(The_View.Forms_Close);
     Call(The_View.Tiles_Remove);
     Call(The_View.Mode_Leave);
@@ -144,7 +161,7 @@ void Cmd_New() {
     Call(The_View.Tiles_Show);
     Recent_Update(Nom_Projet, 1);
     Call(The_View.Route_Reset);
-    Begin_Editing();
+    Begin_Editing(false);
 }
 
 void Mnu_File_Open() {

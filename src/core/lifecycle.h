@@ -5,6 +5,7 @@
 // the host; tiles, view and editing modes through view_calls.h.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -44,6 +45,10 @@ bool Load_Project(std::string_view Path);
 
 /// Opens the project file Path and shows it: Load_Project, map tiles, recent list, title.
 void Open_Project(std::string_view Path);
+
+/// Opens and shows what Load makes the model and Nom_Projet; As_On_Disk as in journal.h. False
+/// when it can't be shown.
+bool Open_Restored(const std::function<bool()>& Load, bool As_On_Disk);
 
 /// Ends the open project without asking.
 void Close_View();

@@ -35,11 +35,11 @@ std::vector<Long> Pt_Compact() {
         Pt Kept = Tab_Pt[P];
         Moved(Kept.Prev);
         Moved(Kept.Next);
-        Tab_Pt[To] = Kept;
+        Tab_Pt.Edit(To) = Kept;
     }
     Tab_Pt.Truncate(Nb);
     for (Long I = First_Obj; I <= Nb_Obj; ++I) {
-        Obj& O = Tab_Obj[I];
+        Obj& O = Tab_Obj.Edit(I);
         if (O.Nb_Pts == 0) O.First_Pt = O.Last_Pt = 0;
         Moved(O.First_Pt);
         Moved(O.Last_Pt);

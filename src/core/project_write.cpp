@@ -4,6 +4,7 @@
 
 #include "core/field_writer.h"
 #include "core/host.h"
+#include "core/journal.h"
 #include "core/messages.h"
 #include "core/model.h"
 #include "core/program.h"
@@ -189,7 +190,10 @@ bool Save_Project(Int Save_As, std::string_view New_Path) {
         return false;
     }
     const std::string Path = Save_As == 1 ? std::string(New_Path) : Nom_Projet;
-    if (Write_Project_File(Save_As, Path)) return true;
+    if (Write_Project_File(Save_As, Path)) {
+        if (Save_As == 0) Journal_Saved();
+        return true;
+    }
     Plain_Box(In_Language("The project could not be saved; the file is as it was before: ",
                           "Le projet n'a pas pu \xEAtre enregistr\xE9 ; le fichier est rest\xE9 "
                           "comme avant : ") +

@@ -3,10 +3,12 @@
 
 #include "core/history.h"
 #include "core/host.h"
+#include "core/journal.h"
 #include "core/lifecycle.h"
 #include "core/messages.h"
 #include "core/model_ops.h"
 #include "core/palette.h"
+#include "core/restore.h"
 #include "core/program.h"
 #include "core/settings.h"
 #include "core/view_calls.h"
@@ -114,12 +116,13 @@ bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
     if (Options.Confirmed) Fl1Fois = 1;
     Set_Up_Main_Form();
     Confirm_Parameters();
-    Open_Command_Line_Project();
+    if (!Offer_Restore()) Open_Command_Line_Project();
     return true;
 }
 
 void Program_End() {
     History_End();
+    Journal_End();
     Call(The_View.Forms_Close);
     Call(The_View.Tiles_Remove);
     Call(The_View.Ima_Unload);

@@ -26,6 +26,7 @@ struct View_Calls {
     std::function<void()> Ima_Load;        // prepares the pictures of Tab_Ima
     std::function<void()> Ima_Unload;      // drops the pictures of Tab_Ima
     std::function<void()> Ima_Clear;       // clears the texture selection and hides its lines
+    std::function<void()> History_Show;    // what can be undone and done again is told
 };
 
 inline View_Calls The_View;

@@ -16,6 +16,10 @@ public:
 
     /// Makes the file. False when anything has that name already.
     bool Create(const std::filesystem::path& Path);
+    /// Opens a file that is there, to write behind its end.
+    bool Open(const std::filesystem::path& Path);
+    /// Locks the open file against every other program that does so; false when one has it.
+    bool Lock();
     bool Is_Open() const { return Handle_ != None; }
 
     /// Gives the file the owner and permissions of Other, as far as this user may.

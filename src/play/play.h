@@ -12,6 +12,8 @@ struct Play_Options {
     std::string App_Dir;             // prepared; the program's form
     std::string Language = {};       // for this run; empty for that of the settings
     Long Width = 801, Height = 601;  // of the canvas
+    /// Called when all was played, before the program ends; tests look at it there.
+    std::function<void()> At_End = {};
 };
 
 /// How a play ended: 0 all was played, 2 the script makes no sense, 4 an act that no user could

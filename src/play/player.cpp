@@ -53,9 +53,11 @@ Play_End Player::Play_All() {
     Frm_Install();
     Open_.push_back({.Shown = &Frm()});
     The_View.Window_Show = [this] { Give_Canvas_Its_Room(Frm()); };
+    Take_First_Answers();
     Program_Start({}, Options_.App_Dir,
                   {.Alone = false, .Confirmed = true, .Language = Options_.Language});
     Play_While([] { return true; });
+    if (Options_.At_End && End_.Status == 0 && !Frm().Is_Closed()) Options_.At_End();
     Over_ = true;
     Forms_Close();
     End_Free_Forms();
@@ -63,6 +65,16 @@ Play_End Player::Play_All() {
     if (!Frm().Is_Closed()) Program_End();
     Open_.clear();
     return End_;
+}
+
+// The start of the program may ask already.
+void Player::Take_First_Answers() {
+    for (; Next_ < Script_.Acts.size(); ++Next_) {
+        const Act& A = Script_.Acts[Next_];
+        if (A.What != Verb::Answer && A.What != Verb::File) return;
+        Line_ = A.Line;
+        Play_Act(A);
+    }
 }
 
 void Player::Play_While(const std::function<bool()>& Goes_On) {

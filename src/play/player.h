@@ -55,6 +55,7 @@ private:
     using Answers = std::deque<Ready_Answer>;
 
     // player.cpp: one act after the other.
+    void Take_First_Answers();
     void Play_While(const std::function<bool()>& Goes_On);
     void Play_Act(const Act& A);
     void Fail(std::string Reason);

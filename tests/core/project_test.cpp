@@ -9,7 +9,7 @@
 namespace {
 
 template <typename T>
-std::vector<T> Rows_Of(const Table<T>& Tab) {
+std::vector<T> Rows_Of(const Project_Table<T>& Tab) {
     std::vector<T> Rows;
     for (const T& Row : Tab.Rows()) {
         if constexpr (requires { Row.Active; })

@@ -125,6 +125,6 @@ TEST_F(Model_Ops, DeletingATextureFreesItsObjects) {
     EXPECT_EQ(Nb_Ima, 2);
     EXPECT_EQ(Tab_Ima[2].Active, 0);
     EXPECT_EQ(Tab_Ima[Ima_Add({})].Num, 3) << "above that of the deleted one";
-    Tab_Ima[1].Num = std::numeric_limits<Int>::max();
+    Tab_Ima.Edit(1).Num = std::numeric_limits<Int>::max();
     EXPECT_EQ(Tab_Ima[Ima_Add({})].Num, 1) << "a free one, once the highest is taken";
 }

@@ -86,10 +86,10 @@ TEST_F(Project_File, DeletedRecordsAreNotSaved) {
 
 TEST_F(Project_File, WhatTheFileCannotHold) {
     ASSERT_TRUE(Open(Whole));
-    Tab_Obj[2].Attr.Text_Rt = "a \"good\"\r\nroad";
-    Tab_Pt[1].X = std::numeric_limits<Double>::infinity();
-    Tab_Pt[1].Y = -std::numeric_limits<Double>::max();
-    Tab_PtGrid[1].Alt = std::numeric_limits<Single>::quiet_NaN();
+    Tab_Obj.Edit(2).Attr.Text_Rt = "a \"good\"\r\nroad";
+    Tab_Pt.Edit(1).X = std::numeric_limits<Double>::infinity();
+    Tab_Pt.Edit(1).Y = -std::numeric_limits<Double>::max();
+    Tab_PtGrid.Edit(1).Alt = std::numeric_limits<Single>::quiet_NaN();
     ASSERT_TRUE(Open("0000 V5.0\r\n0002\r\n" + Saved()));
     EXPECT_EQ(Tab_Obj[2].Attr.Text_Rt, "a 'good'  road");
     EXPECT_EQ(Tab_Pt[1].X, 0.0);

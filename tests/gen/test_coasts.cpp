@@ -361,7 +361,7 @@ void Draw_Coasts(std::uint64_t Seed) {
         if (Seed % 7 == 0) O.resize(O.size() - 2);
         shapes::Add_Polygon(Seed % 3 == 0 ? shapes::With_Repeats(R, O) : O);
     }
-    for (Obj& O : Tab_Obj.Rows()) {
+    for (Obj& O : Tab_Obj.Edit_Rows()) {
         O.Attr.SurfShore = Surf_Coast;
         O.Attr.LandOnRight = static_cast<Int>(R.Whole(0, 1));
     }

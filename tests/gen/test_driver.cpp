@@ -92,10 +92,10 @@ TEST_F(Driver_Test, EveryTextureOfTheNumberIsTested) {
         Tab_Ima.Truncate(2);
     }
     EXPECT_TRUE(Outside(M));
-    Tab_Obj[First_Obj].Attr.SurfShore = Surf_Line;
+    Tab_Obj.Edit(First_Obj).Attr.SurfShore = Surf_Line;
     Call(The_View.Mode_Leave);
     EXPECT_EQ(Poly_Out_Of_Tex, 0) << "a line is not tested";
-    Tab_Obj[First_Obj].Attr.SurfShore = Surf_Polygon;
+    Tab_Obj.Edit(First_Obj).Attr.SurfShore = Surf_Polygon;
     Ima_Delete(1);
     Tex_Link_Check();
     EXPECT_EQ(Poly_Out_Of_Tex, 0) << "deleting the texture cleared the link";

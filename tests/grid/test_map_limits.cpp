@@ -143,7 +143,7 @@ R Record_At(const Cell_Pos& C) {
 
 TEST_F(Cell_Moves, RecordsStayOverTheirPixels) {
     Tab_Area.Append(Record_At<Area>(At));
-    Tab_Area[1].Texte = "kept";
+    Tab_Area.Edit(1).Texte = "kept";
     Tab_Excl.Append(Record_At<Excl>(At));
     Tab_LC.Append(Record_At<LC_Cell>(At));
     Tab_WC.Append(Record_At<WC_Cell>(At));

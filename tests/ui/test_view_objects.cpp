@@ -145,10 +145,10 @@ TEST_F(View_Objects, EveryChangeOfTheModelIsSeen) {
     EXPECT_EQ(Draw(), (Lines{{10, 10, 20, 10}})) << "the rows behind it have moved";
     EXPECT_EQ(Seen, I + 1);
 
-    for (Pt& P : Tab_Pt.Rows()) P.X += 1000.0;
+    for (Pt& P : Tab_Pt.Edit_Rows()) P.X += 1000.0;
     Objects_Changed();
     EXPECT_EQ(Draw().size(), 0U);
-    for (Pt& P : Tab_Pt.Rows()) P.X -= 1000.0;
+    for (Pt& P : Tab_Pt.Edit_Rows()) P.X -= 1000.0;
     Objects_Changed();
     EXPECT_EQ(Draw().size(), 1U);
     Init_Tables();

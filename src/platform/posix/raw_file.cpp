@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <pthread.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -54,6 +55,24 @@ bool Raw_File::Create(const fs::path& Path) {
     } while (Fd < 0 && errno == EINTR);
     Handle_ = Fd < 0 ? None : Fd;
     return Is_Open();
+}
+
+bool Raw_File::Open(const fs::path& Path) {
+    Close();
+    int Fd = -1;
+    do {
+        Fd = open(Path.c_str(), O_WRONLY | O_APPEND | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);
+    } while (Fd < 0 && errno == EINTR);
+    Handle_ = Fd < 0 ? None : Fd;
+    return Is_Open();
+}
+
+bool Raw_File::Lock() {
+    int Result = 0;
+    do {
+        Result = flock(static_cast<int>(Handle_), LOCK_EX | LOCK_NB);
+    } while (Result != 0 && errno == EINTR);
+    return Result == 0;
 }
 
 void Raw_File::Take_Rights_Of(const fs::path& Other) {

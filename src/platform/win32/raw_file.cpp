@@ -23,6 +23,19 @@ bool Raw_File::Create(const fs::path& Path) {
     return Is_Open();
 }
 
+bool Raw_File::Open(const fs::path& Path) {
+    Close();
+    const HANDLE Opened = CreateFileW(Path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ, nullptr,
+                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    Handle_ = reinterpret_cast<std::intptr_t>(Opened);
+    return Is_Open();
+}
+
+// Whoever writes to a file shares it with readers alone.
+bool Raw_File::Lock() {
+    return Is_Open();
+}
+
 // A new file inherits the rights of its directory, as the old one did.
 void Raw_File::Take_Rights_Of(const fs::path&) {}
 

@@ -161,6 +161,7 @@ void Install_View_Calls() {
     The_View.Ima_Load = Ima_Load;
     The_View.Ima_Unload = Ima_Unload;
     The_View.Ima_Clear = Ima_Leave;
+    The_View.History_Show = Undo_Controls_Show;
 }
 
 bool Is_Command(const Control& C) {

@@ -122,7 +122,7 @@ void Draw_Lines(std::uint64_t Seed) {
         if (R.Chance(0.6)) O = shapes::Snapped_To_Grid(R, O, 2);
         if (R.Chance(0.3)) O = shapes::With_Points_In_Line(R, O);
         if (R.Chance(0.3)) O = shapes::With_Repeats(R, O);
-        Tab_Obj[shapes::Add_Polygon(O)].Attr = Random_Attr(R);
+        Tab_Obj.Edit(shapes::Add_Polygon(O)).Attr = Random_Attr(R);
     }
 }
 
