@@ -175,7 +175,7 @@ TEST_F(View_Grid, ColoursTellTheRecords) {
     Mode_Area = 1;
     Area A = Record_At<Area>(3, 3);
     Tab_Area.Append(A);
-    Area& Stored = Tab_Area[1];
+    Area& Stored = Tab_Area.Edit(1);
     EXPECT_EQ(Colour(), 0x0000FF);
     Stored.Attrib = 1;
     EXPECT_EQ(Colour(), 0xFF00FF);
@@ -217,7 +217,7 @@ TEST_F(View_Grid, HatchLinesByWidth) {
 
 // The marks as the rule tells them: square after square, each looked up from the table's start.
 template <typename R>
-std::vector<Surface_Op> Plain_Marks(const Table<R>& Tab, Int Lines, Long Colour) {
+std::vector<Surface_Op> Plain_Marks(const Project_Table<R>& Tab, Int Lines, Long Colour) {
     const Grid_In_View& G = The_Grid_In_View;
     const auto At = [](Long I, Double Step, Double From) { return Round_Lng(I * Step + From); };
     std::vector<Surface_Op> Made;

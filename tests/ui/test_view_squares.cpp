@@ -26,7 +26,7 @@ protected:
         Show_Texture = true;
     }
     template <typename R>
-    void Put(Table<R>& Tab, int Col, int Row, Byte Num) {
+    void Put(Project_Table<R>& Tab, int Col, int Row, Byte Num) {
         R Record = Record_At<R>(Col, Row);
         Record.Num = Num;
         Tab.Append(Record);

@@ -1,6 +1,7 @@
 // ui/edit/route_tools.cpp - taking up a tool of Mode_Route, and stepping back from it.
 #include "ui/edit/route_tools.h"
 
+#include "core/history.h"
 #include "core/model.h"
 #include "core/point_pool.h"
 #include "core/program.h"
@@ -117,6 +118,7 @@ void Points_Tidy(Long Most) {
         const auto Old = static_cast<std::size_t>(*Row);
         *Row = Old < New_Row.size() ? New_Row[Old] : 0;
     }
+    if (History_Is_On()) History_Start();  // its steps name rows that are others now
 }
 
 void Cmd_New_Route() {

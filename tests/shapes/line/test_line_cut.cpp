@@ -144,7 +144,7 @@ protected:
         const auto Is = [&](const char* Word) {
             return static_cast<Int>(C[1].find(Word) != std::string::npos);
         };
-        Attr& A = Tab_Obj[shapes::Add_Polygon(O)].Attr;
+        Attr& A = Tab_Obj.Edit(shapes::Add_Polygon(O)).Attr;
         A.SurfShore = Is("coast") ? Surf_Coast : Surf_Line;
         A.FermerLine = Is("closed");
         A.LandOnRight = Is("right");
