@@ -111,3 +111,21 @@ TEST_F(Start_Up, ThePaletteIsReadInTheOrderOfABitmap) {
     EXPECT_TRUE(Start()) << "a palette of another size is no reason to end";
     EXPECT_EQ(Pal_Fs5[255].Red, 255) << "greys";
 }
+
+TEST_F(Start_Up, TilesOfAKilledProgramAreTakenAway) {
+    const std::vector<std::string> Tiles = {"App/Temp/$$$_00.bmp", "App/Temp/$$$_110.bmp"};
+    for (const std::string& Tile : Tiles) Dir.Write(Tile, "");
+    Dir.Write("App/Temp/map.bmp", "");
+    {
+        Instance_Lock Other;
+        ASSERT_TRUE(Other.Take());
+        EXPECT_FALSE(Start());
+        EXPECT_TRUE(Dir.Has(Tiles[0])) << "the other one's";
+    }
+    EXPECT_TRUE(Program_Start("", Dir.Path("App"), {.Alone = false}));
+    EXPECT_TRUE(Dir.Has(Tiles[0])) << "perhaps another one's";
+    Program_End();
+    EXPECT_TRUE(Start());
+    for (const std::string& Tile : Tiles) EXPECT_FALSE(Dir.Has(Tile)) << Tile;
+    EXPECT_TRUE(Dir.Has("App/Temp/map.bmp"));
+}

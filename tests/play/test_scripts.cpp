@@ -16,8 +16,10 @@
 #include <iterator>
 #include <vector>
 
+#include "platform/files.h"
 #include "platform/text1252.h"
 #include "play/play.h"
+#include "support/bitmap_file.h"
 #include "support/golden.h"
 #include "support/program_test.h"
 #include "ui_support/small_project.h"
@@ -59,6 +61,7 @@ protected:
         Write_Small_Project(Dir, "small");
         Write_Small_Project(Dir, "other");
         fs::create_directory(Dir.Native("\xC3\xA9t\xC3\xA9"));
+        Write_Maps();
         Dir.Write("App/Resource/Terrafold.Ini",
                   "[Terrafold]\r\nLanguage=US\r\nDerApt1=" + Dir.Path("gone.LWM") + "\r\n");
         for (const auto& Entry : fs::directory_iterator(Folder / "data"))
@@ -66,6 +69,18 @@ protected:
     }
     static std::string Place_Of(const fs::path& File) {
         return (File.extension() == ".Ref" ? "App/Resource/" : "") + File.string();
+    }
+    // Pictures of textures, and maps that can serve and that cannot.
+    void Write_Maps() {
+        Dir.Write("tex/a.bmp", Bitmap_Bytes({.Width = 40, .Height = 30}));
+        Dir.Write("tex/b.bmp", Bitmap_Bytes({.Width = 8, .Height = 4, .Bits = 8}));
+        Dir.Write("tex/c.txt", "no picture");
+        Dir.Write("maps/two.bmp", Bitmap_Bytes({.Width = 2, .Height = 2, .Bits = 8}));
+        Dir.Write("maps/tile.bmp", Bitmap_Bytes({.Width = 2000, .Height = 2, .Bits = 8}));
+        Dir.Write("maps/wide.bmp", Bitmap_Bytes({.Width = 2001, .Height = 3}));
+        Dir.Write("maps/flat.bmp", Bitmap_Bytes({.Width = 9, .Height = 1}));
+        Dir.Write("maps/fine.bmp", Bitmap_Bytes({.Width = 9, .Height = 9, .Bits = 16}));
+        Dir.Write("maps/cut.bmp", Bitmap_Bytes({.Width = 9, .Height = 9}).substr(0, 200));
     }
     std::string Filled(std::string Text) const {
         return Replaced(Replaced(std::move(Text), "@WDIR@", Dir.Path()), "@DIR@",
@@ -104,6 +119,7 @@ TEST_P(Scripts, PrintWhatStandsBesideThem) {
     Lay_Out();
     Play_And_Compare(GetParam());
     if (fs::exists(Folder / (GetParam() + ".2.txt"))) Play_And_Compare(GetParam() + ".2");
+    EXPECT_TRUE(Files_Matching(Dir.Path("App") + "\\Temp\\$$$_", "*").empty()) << "tiles are left";
     Compare_Projects(GetParam());
 }
 

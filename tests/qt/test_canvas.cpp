@@ -97,6 +97,13 @@ TEST_F(Canvas_Test, TheOverlayLiesAboveAndLeavesTheImage) {
     EXPECT_EQ(F.View->Surface_Of("Up"), nullptr);
 }
 
+TEST_F(Canvas_Test, IsToldThatAnotherWindowIsInFront) {
+    QEvent Gone(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(&Pic(), &Gone);
+    ASSERT_FALSE(Seen.empty());
+    EXPECT_EQ(Seen.back().What, Mouse_Event::Kind::Away);
+}
+
 TEST_F(Canvas_Test, SmallTurnsOfTheWheelAddUpToSteps) {
     const auto Turn_Wheel = [this](int Eighths) {
         QWheelEvent E(QPointF(5, 6), QPointF(5, 6), {}, {0, Eighths}, Qt::NoButton, Qt::NoModifier,
