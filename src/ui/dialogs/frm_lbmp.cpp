@@ -53,7 +53,7 @@ public:
         Add_Ok_Cancel(
             *this, [this] { Ok(); }, [this] { Close(Form_End::Closed); });
         Set_Layout(Column(
-            {"Path",
+            {Fields({"Path"}),
              Row({Column({Fields({"Drive1"}), "Dir1"}), Column({Fields({"Cbo_Filter"}), "File1"}),
                   Column({"Pic", "LRes", Space()})}),
              Buttons({"Cmd_Ok", "Cmd_Cancel"})}));
