@@ -41,7 +41,7 @@ struct History {
 };
 
 History The_History;
-const bool Is_Reset = At_Reset([] { The_History = {}; });
+const bool Is_Reset = At_Reset(History_End);
 
 template <typename T>
 Copy_Of<T>& Copy() {
@@ -92,13 +92,13 @@ void Find_Changed(const Project_Table<T>& Tab, Table_Change& To, Row_Store<T>& S
     }
 }
 
-using All_Stores = std::tuple<Row_Store<Obj>, Row_Store<Pt>, Row_Store<Area>, Row_Store<Lod8>,
-                              Row_Store<Excl>, Row_Store<LC_Cell>, Row_Store<WC_Cell>,
-                              Row_Store<Ima>, Row_Store<PtGrid>>;
+using All_Stores =
+    std::tuple<Row_Store<Obj>, Row_Store<Pt>, Row_Store<Area>, Row_Store<Lod8>, Row_Store<Excl>,
+               Row_Store<LC_Cell>, Row_Store<WC_Cell>, Row_Store<Ima>, Row_Store<PtGrid>>;
 
 template <typename T>
 void Compare_Table(const Project_Table<T>& Tab, Table_Change& To, Row_Store<T>& Store) {
-    if (Tab.Is_Untouched()) return;
+    if (Tab.Is_Untouched() && Tab.Max() == Copy<T>().Max) return;
     for (const Long I : Tab.Gone()) To.Gone.push_back({I, Old_Row<T>(I)});
     Find_Changed(Tab, To, Store);
     for (Long I = Tab.Kept() + 1; I <= Tab.Nb(); ++I)
@@ -245,7 +245,7 @@ std::string Difference(Step_Kind& Kind) {
         C.Calibration_Before = Bytes_Of_Packed(The_History.Cal),
         C.Calibration_After = Bytes_Of_Packed(Cal);
     const bool Any = !C.Head_After.empty() || !C.Calibration_After.empty() ||
-                     std::ranges::any_of(C.Tables, [](const auto& T) { return !T.Is_Empty(); });
+                     std::ranges::any_of(C.Tables, &Table_Change::Has_Rows);
     std::string Bytes;
     if (Any) {
         Kind = Step_Kind_Of(C);
@@ -267,8 +267,8 @@ void Go(const Step& S, bool Back, const Change_Told& Told) {
         if (Back) C->Turn_Round();
         Made.push_back(std::move(*C));
         Make(Made.back(), false);
-        Journal_Step(Back ? std::string_view(Written = Step_Write(Made.back())) : S.Parts[I], S.Kind,
-                     {.Joins_Last = I > 0, .Is_Undo = Back, .Is_Redo = !Back});
+        Journal_Step(Back ? std::string_view(Written = Step_Write(Made.back())) : S.Parts[I],
+                     S.Kind, {.Joins_Last = I > 0, .Is_Undo = Back, .Is_Redo = !Back});
     }
     if (Told)
         for (const Step_Change& C : Made) Told(C);

@@ -123,8 +123,7 @@ std::string Journal_Free_Path(std::string_view Mark) {
     const std::string Dir = App_Path + "\\Temp";
     if (!Dir_Create(Dir)) return {};
     for (int I = 1; I <= Most_Journals; ++I) {
-        const std::string Path =
-            Dir + "\\Journal" + std::string(Mark) + std::to_string(I) + ".jnl";
+        const std::string Path = Dir + "\\Journal" + std::string(Mark) + std::to_string(I) + ".jnl";
         if (!File_Exists(Path)) return Path;
     }
     return {};

@@ -44,9 +44,9 @@ bool Read_Step(std::string_view Bytes, Journal& J) {
     return true;
 }
 
-constexpr const char* Table_Names[Nb_Tables] = {"Tab_Obj",  "Tab_Pt", "Tab_Area",
+constexpr const char* Table_Names[Nb_Tables] = {"Tab_Obj",  "Tab_Pt",   "Tab_Area",
                                                 "Tab_Lod8", "Tab_Excl", "Tab_LC",
-                                                "Tab_WC",   "Tab_Ima", "Tab_PtGrid"};
+                                                "Tab_WC",   "Tab_Ima",  "Tab_PtGrid"};
 
 template <typename R>
 void Tell_Rows(std::string& Line, const char* What, const std::vector<R>& Rows) {
@@ -54,13 +54,12 @@ void Tell_Rows(std::string& Line, const char* What, const std::vector<R>& Rows) 
     Line += std::string(" ") + What;
     for (std::size_t I = 0; I < std::min(Rows.size(), Most_Rows_Told); ++I)
         Line += " " + std::to_string(Rows[I].At);
-    if (Rows.size() > Most_Rows_Told)
-        Line += " ... (" + std::to_string(Rows.size()) + ")";
+    if (Rows.size() > Most_Rows_Told) Line += " ... (" + std::to_string(Rows.size()) + ")";
 }
 
 void Tell_Change(const Step_Change& C, std::vector<std::string>& Out) {
     for (std::size_t I = 0; I < Nb_Tables; ++I) {
-        if (C.Tables[I].Is_Empty()) continue;
+        if (!C.Tables[I].Has_Rows()) continue;
         std::string Line = std::string("    ") + Table_Names[I];
         Tell_Rows(Line, "gone", C.Tables[I].Gone);
         Tell_Rows(Line, "changed", C.Tables[I].Changed);
@@ -74,8 +73,8 @@ void Tell_Change(const Step_Change& C, std::vector<std::string>& Out) {
 }  // namespace
 
 std::size_t Journal::Nb_Acts() const {
-    return static_cast<std::size_t>(std::ranges::count_if(
-        Steps, [](const Journal_Entry& E) { return !E.Flags.Joins_Last; }));
+    return static_cast<std::size_t>(
+        std::ranges::count_if(Steps, [](const Journal_Entry& E) { return !E.Flags.Joins_Last; }));
 }
 
 Journal Journal_Read(std::string_view Bytes) {

@@ -166,8 +166,8 @@ void Project_Reader::Read_Objects() {
 
 // A table that keeps its capacity has a Least of 0.
 template <typename R, typename F>
-void Project_Reader::Read_Section(std::string_view Tag, Project_Table<R>& Tab, Long Least, Long Margin,
-                                  Long Lines_A_Record, F&& Read_Record) {
+void Project_Reader::Read_Section(std::string_view Tag, Project_Table<R>& Tab, Long Least,
+                                  Long Margin, Long Lines_A_Record, F&& Read_Record) {
     if (Is_Damaged()) return;
     Tab.Dimension(Least == 0 ? Tab.Max() : Least);
     Tagged_Line(Tag);

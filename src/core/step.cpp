@@ -57,7 +57,7 @@ bool Fits_Its_Counts(const Table_Change& T) {
 
 bool Read_Table(Byte_Reader& In, Table_Change& T) {
     In.Take(T.Nb_Before), In.Take(T.Nb_After), In.Take(T.Max_Before), In.Take(T.Max_After);
-    return T.Is_Empty() && Read_Rows(In, T.Gone) && Read_Changed(In, T.Changed) &&
+    return !T.Has_Rows() && Read_Rows(In, T.Gone) && Read_Changed(In, T.Changed) &&
            Read_Rows(In, T.Came) && Fits_Its_Counts(T);
 }
 
@@ -191,13 +191,13 @@ Step_Kind Step_Kind_Of(const Step_Change& C) {
     if (!C.Calibration_After.empty()) return Step_Kind::Calibrate;
     if (Of_Objects) return *Of_Objects;
     constexpr std::pair<Table_Of, Step_Kind> Others[] = {
-        {Table_Of::Area, Step_Kind::Area_Data},   {Table_Of::Lod8, Step_Kind::Cell_Data},
-        {Table_Of::Excl, Step_Kind::Exclusions},  {Table_Of::LC, Step_Kind::Land_Class},
-        {Table_Of::WC, Step_Kind::Water_Class},   {Table_Of::PtGrid, Step_Kind::Altitude_Point},
+        {Table_Of::Area, Step_Kind::Area_Data},  {Table_Of::Lod8, Step_Kind::Cell_Data},
+        {Table_Of::Excl, Step_Kind::Exclusions}, {Table_Of::LC, Step_Kind::Land_Class},
+        {Table_Of::WC, Step_Kind::Water_Class},  {Table_Of::PtGrid, Step_Kind::Altitude_Point},
         {Table_Of::Pt, Step_Kind::Add_Point},
     };
     for (const auto& [Table, Kind] : Others)
-        if (!C[Table].Is_Empty()) return Kind;
+        if (C[Table].Has_Rows()) return Kind;
     return Step_Kind::Parameters;
 }
 

@@ -43,7 +43,8 @@ struct Table_Change {
     std::vector<Changed_Row> Changed;
     std::vector<Row_Bytes> Came;  // by their places after
 
-    bool Is_Empty() const { return Gone.empty() && Changed.empty() && Came.empty(); }
+    bool Has_Rows() const { return !Gone.empty() || !Changed.empty() || !Came.empty(); }
+    bool Is_Empty() const { return !Has_Rows() && Max_Before == Max_After; }
 };
 
 /// Views of the bytes that it was read from.

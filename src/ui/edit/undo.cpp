@@ -50,7 +50,7 @@ void Each_Now(const Table_Change& C, F&& Visit) {
 class Places {
 public:
     void Take(const Step_Change& C) {
-        const bool Any_Point = !C[Table_Of::Pt].Is_Empty();
+        const bool Any_Point = C[Table_Of::Pt].Has_Rows();
         Each<Pt>(C, Table_Of::Pt, [this](const Pt& P) { Take_Point({P.X, P.Y}); });
         if (!Any_Point) Each<Obj>(C, Table_Of::Obj, [this](const Obj& O) { Take_Chain(O); });
         Each<PtGrid>(C, Table_Of::PtGrid, [this](const PtGrid& P) { Take_Point({P.X, P.Y}); });
@@ -80,7 +80,8 @@ private:
         if (!First_) First_ = R;
         if (In_View_) return;
         const Rect_Pix On = Ima_On_Canvas(R);
-        In_View_ = On.Right >= 0.0 && On.Left < Pic_Width && On.Bottom >= 0.0 && On.Top < Pic_Height;
+        In_View_ =
+            On.Right >= 0.0 && On.Left < Pic_Width && On.Bottom >= 0.0 && On.Top < Pic_Height;
     }
     void Take_Point(Pix P) { Take_Rect({P.X, P.Y, P.X, P.Y}); }
     // The points of an object stay in the pool when it goes.
@@ -112,7 +113,7 @@ void Show_Picture_Of(Long I, const Ima& Now) {
 }
 
 void Follow_With_Pictures(const Table_Change& C) {
-    if (C.Is_Empty()) return;
+    if (!C.Has_Rows()) return;
     if (WPicIma.size() > static_cast<std::size_t>(Nb_Ima))
         WPicIma.resize(static_cast<std::size_t>(Nb_Ima));
     for (const Row_Bytes& R : C.Came) Show_Picture_Of(R.At, Record_Of<Ima>(R.Bytes));
@@ -148,7 +149,8 @@ struct Changed_Rows {
             Ima_Selected = 1;
             The_Host().Set_Enabled("Cmd_Sel_Crb_Ima", true);
         }
-        if (Mode_PtGrid != 0 && 1 <= Sample && Sample <= Nb_PtGrid && Tab_PtGrid[Sample].Active == 1)
+        if (Mode_PtGrid != 0 && 1 <= Sample && Sample <= Nb_PtGrid &&
+            Tab_PtGrid[Sample].Active == 1)
             Sel_Alt_Pt = Sample;
     }
 

@@ -1,0 +1,284 @@
+// tests/core/test_history.cpp - whatever is done to a project can be taken back, done again, and
+// restored from its journal; the states are compared bit by bit.
+#include "core/history.h"
+
+#include <random>
+
+#include "core/journal_read.h"
+#include "core/lifecycle.h"
+#include "core/model_ops.h"
+#include "core/project_file.h"
+#include "core/restore.h"
+#include "platform/files.h"
+#include "support/program_test.h"
+
+namespace {
+
+class History_Test : public Program_Test {
+protected:
+    Long Any(Long Nb) { return std::uniform_int_distribution<Long>(1, Nb)(Source_); }
+    Double Place() { return std::uniform_real_distribution<Double>(-10.0, 1000.0)(Source_); }
+    Attr Any_Attr() {
+        Attr A;
+        A.Text_Rt = std::string(static_cast<std::size_t>(Any(40)), 'r');
+        A.Texture_Name[2] = std::to_string(Any(9));
+        A.LC = static_cast<Int>(Any(5));
+        return A;
+    }
+
+    void Act_On_Objects() {
+        if (Nb_Obj < First_Obj || Any(4) == 1) {
+            Obj_Add(Any_Attr(), Place(), Place());
+            return;
+        }
+        const Long I = First_Obj - 1 + Any(Nb_Obj - 1);
+        const Obj O = Tab_Obj[I];
+        switch (Any(9)) {
+            case 1:
+                return Obj_Delete(I);
+            case 2:
+                return Obj_Set_Attr(I, Any_Attr());
+            case 3:
+                return Obj_Move(I, 1.0, -0.0);
+            case 4:
+                Pt_Delete(I, O.First_Pt);
+                return;
+            case 5:
+                Pt_Prepend(I, Place(), Place());
+                return;
+            case 6:
+                return Pt_Move(O.Last_Pt, Place(), Place());
+            case 7:
+                Pt_Insert(I, O.First_Pt, Place(), Place());
+                return;
+            default:
+                Pt_Append(I, Place(), Place());
+        }
+    }
+    template <typename R>
+    void Act_On_Squares(Project_Table<R>& Tab) {
+        std::vector<R> Records(static_cast<std::size_t>(Any(5)));
+        for (R& Record : Records) {
+            Record.AreaLon = static_cast<Int>(Any(3));
+            Record.AreaLat = static_cast<Int>(Any(3));
+        }
+        if (Any(2) == 1)
+            Squares_Store(Tab, std::span<const R>(Records));
+        else
+            Squares_Delete(Tab, std::span<const R>(Records));
+    }
+    void Act_On_Textures() {
+        if (Nb_Ima == 0 || Any(3) == 1) {
+            Ima M;
+            M.DirFic = "a.bmp";
+            Ima_Add(M);
+            return;
+        }
+        const Long I = Any(Nb_Ima);
+        if (Nb_Obj >= First_Obj) Obj_Link(Nb_Obj, Tab_Ima[I].Num);
+        if (Any(2) == 1)
+            Ima_Delete(I);
+        else
+            Ima_Place(I, Place(), Place(), Place(), Place());
+    }
+    void Act_On_Samples() {
+        if (Nb_PtGrid == 0 || Any(3) == 1)
+            PtGrid_Add(Place(), Place(), 1.5F);
+        else if (Any(2) == 1)
+            PtGrid_Delete(Any(Nb_PtGrid));
+        else
+            PtGrid_Change(Any(Nb_PtGrid), Place(), Place(), 2.5F);
+    }
+    void Act_On_Anything() {
+        switch (Any(14)) {
+            case 1:
+                return Act_On_Squares(Tab_Area);
+            case 2:
+                return Act_On_Squares(Tab_Lod8);
+            case 3:
+                return Act_On_Squares(Tab_Excl);
+            case 4:
+                return Act_On_Squares(Tab_LC);
+            case 5:
+                return Act_On_Squares(Tab_WC);
+            case 6:
+                return Act_On_Textures();
+            case 7:
+                return Act_On_Samples();
+            case 8:
+                NameBgl = std::to_string(Any(9));
+                LatGridNW = Place();
+                return;
+            case 9:
+                if (Any(40) == 1) Init_Tables();
+                return;
+            default:
+                return Act_On_Objects();
+        }
+    }
+    void Do_Acts(Long Nb) {
+        for (Long N = Any(3); N > 0; --N) Act_On_Anything();
+        if (History_Act_Ended()) States_.resize(History_Undo_Count()), Note_State();
+        if (Nb > 1) Do_Acts(Nb - 1);
+    }
+    void Note_State() { States_.push_back(Bytes_Sum(History_Whole_Model())); }
+    // The state after as many steps as there are to be undone.
+    void Expect_State() {
+        ASSERT_EQ(Bytes_Sum(History_Whole_Model()), States_.at(History_Undo_Count()));
+    }
+    void Begin() {
+        Model_Reset();
+        Nom_Projet = Dir.Path("p.LWM");
+        Projet_Open = 1;
+        ASSERT_TRUE(Save_Project(0, {}));
+        Open_Project(Nom_Projet);
+        States_.clear();
+        Note_State();
+    }
+    // As a crash leaves the program; the home stays.
+    void Crash() {
+        const std::string Home = App_Path;
+        Program_Reset();
+        Set_App_Path(Home);
+    }
+    bool Restore(std::initializer_list<Int> Answers) {
+        Host_Of_Test.Box_Answers = Answers;
+        Host_Of_Test.Boxes.clear();
+        return Offer_Restore();
+    }
+    std::vector<std::string> Journals() const {
+        return Files_Matching(App_Path + "\\Temp\\Journal", "*.jnl");
+    }
+
+    std::vector<std::uint64_t> States_;
+    std::mt19937 Source_{19};
+};
+
+}  // namespace
+
+TEST_F(History_Test, EveryStateComesBack) {
+    Begin();
+    for (int Round = 0; Round < 60; ++Round) {
+        for (int N = 0; N < 60; ++N) Do_Acts(1);
+        for (Long N = Any(50); N > 0 && History_Undo(nullptr); --N) Expect_State();
+        for (Long N = Any(50); N > 0 && History_Redo(nullptr); --N) Expect_State();
+    }
+    const std::size_t All = History_Undo_Count();
+    ASSERT_GT(All, 1000U);
+    while (History_Undo(nullptr)) Expect_State();
+    ASSERT_EQ(History_Undo_Count(), 0U);
+    while (History_Redo(nullptr)) Expect_State();
+    EXPECT_GE(History_Undo_Count(), All);
+}
+
+TEST_F(History_Test, NothingChangedIsNoStepAndTheOldestGoFirst) {
+    Begin();
+    const Long I = Obj_Add({}, 1.0, 2.0);
+    ASSERT_TRUE(History_Act_Ended());
+    Pt_Move(1, 3.0, 2.0);
+    Pt_Move(1, 1.0, 2.0);
+    Obj_Set_Attr(I, Attr(Tab_Obj[I].Attr));
+    EXPECT_FALSE(History_Act_Ended());
+    const std::size_t Limit = std::exchange(History_Limit, 2000);
+    for (int N = 0; N < 100; ++N) {
+        Pt_Move(1, N, 5.0);
+        History_Act_Ended();
+    }
+    EXPECT_GT(History_Undo_Count(), 2U);
+    EXPECT_LT(History_Undo_Count(), 40U);
+    History_Limit = Limit;
+}
+
+// What a form does by its ticks is one with what it did before, unless something came between.
+TEST_F(History_Test, TicksJoinTheStepOfTheirForm) {
+    Begin();
+    const Long I = Obj_Add_Empty({});
+    History_Act_Ended("Flight");
+    for (int N = 0; N < 5; ++N) {
+        Pt_Append(I, N, 0.0);
+        History_Act_Ended("Flight", true);
+    }
+    EXPECT_EQ(History_Undo_Count(), 1U);
+    EXPECT_EQ(History_Next_Undo(), Step_Kind::Flight);
+    PtGrid_Add(1.0, 1.0, 1.0F);
+    History_Act_Ended("Frm");
+    Pt_Append(I, 9.0, 0.0);
+    History_Act_Ended("Flight", true);
+    EXPECT_EQ(History_Undo_Count(), 3U);
+    while (History_Undo(nullptr)) {
+    }
+    EXPECT_EQ(Nb_Obj, 1);
+}
+
+TEST_F(History_Test, ACrashLosesNothingWhereverTheJournalIsCut) {
+    for (int Round = 0; Round < 12; ++Round) {
+        Begin();
+        for (int N = 0; N < 40; ++N) {
+            Do_Acts(1);
+            if (Round % 3 == 1 && N == 20) {
+                ASSERT_TRUE(Save_Project(0, {}));
+                States_.erase(States_.begin(), States_.end() - 1);
+                History_Start();
+            }
+        }
+        Journal_Sync();
+        const auto Left = Journals();
+        ASSERT_EQ(Left.size(), 1U);
+        std::string Bytes = *File_Read(Left[0]);
+        if (Round >= 2)
+            Bytes.resize(Bytes.size() - static_cast<std::size_t>(Any(3000)) % Bytes.size() / 2);
+        const Journal J = Journal_Read(Bytes);
+        ASSERT_EQ(J.What, Journal::State::Good);
+        Crash();
+        File_Delete(Left[0]);
+        Dir.Write("App/Temp/Journal1.jnl", Bytes);
+        if (J.Steps.empty()) continue;
+        ASSERT_TRUE(Restore({Button_Yes})) << Round;
+        ASSERT_EQ(Host_Of_Test.Boxes.size(), 1U);
+        ASSERT_EQ(History_Undo_Count(), J.Steps.size());
+        Expect_State();
+        while (History_Undo(nullptr)) Expect_State();
+        Close_View();
+        ASSERT_TRUE(Journals().empty());
+    }
+}
+
+TEST_F(History_Test, NoKeepsTheJournalOnceMore) {
+    Begin();
+    Do_Acts(5);
+    Crash();
+    EXPECT_FALSE(Restore({Button_No}));
+    EXPECT_EQ(Host_Of_Test.Boxes.size(), 2U) << "the question, and that it is kept";
+    ASSERT_EQ(Journals().size(), 1U);
+    EXPECT_FALSE(Restore({Button_No}));
+    EXPECT_TRUE(Journals().empty());
+    EXPECT_FALSE(Restore({}));
+    EXPECT_TRUE(Host_Of_Test.Boxes.empty());
+}
+
+TEST_F(History_Test, AChangedProjectIsRestoredIntoACopy) {
+    Begin();
+    Obj_Add({}, 5.0, 6.0);
+    History_Act_Ended();
+    const std::string Path = Nom_Projet;
+    Crash();
+    Dir.Write("p.LWM", Dir.Read("p.LWM") + " ");
+    ASSERT_TRUE(Restore({Button_Yes, Button_Yes}));
+    EXPECT_NE(Nom_Projet, Path);
+    EXPECT_EQ(Nb_Obj, 2);
+    EXPECT_FALSE(File_Exists(Nom_Projet)) << "until it is saved";
+}
+
+TEST_F(History_Test, AJournalInUseOrOfANewerVersionIsLeftAlone) {
+    Begin();
+    Do_Acts(5);
+    EXPECT_FALSE(Restore({Button_Yes}));
+    EXPECT_TRUE(Host_Of_Test.Boxes.empty());
+    std::string Bytes = *File_Read(Journals().at(0));
+    Crash();
+    Bytes[8] = 99;
+    Dir.Write("App/Temp/Journal1.jnl", Bytes);
+    EXPECT_FALSE(Restore({Button_Yes}));
+    EXPECT_EQ(Host_Of_Test.Boxes.size(), 1U);
+    EXPECT_EQ(Journals().size(), 1U);
+}
