@@ -74,5 +74,5 @@ bool Cli_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
 }
 
 void Cli_Host::Note_File(File_Event Event, std::string_view Path) {
-    Print((Event == File_Event::Deleted ? "delete " : "write ") + std::string(Path));
+    Print(Event_Word(Event) + std::string(Path));
 }

@@ -21,6 +21,7 @@ public:
     void Set_Caption(std::string_view Control, std::string_view Text) override;
     void Refresh() override;
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
+    bool Is_Dry_Run() const override { return Dry_Run_; }
     void Note_File(File_Event Event, std::string_view Path) override;
 
 private:

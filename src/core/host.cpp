@@ -68,6 +68,17 @@ bool Silent_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
 
 void Silent_Host::Note_File(File_Event, std::string_view) {}
 
+const char* Event_Word(File_Event Event) {
+    switch (Event) {
+        case File_Event::Deleted:
+            return "delete ";
+        case File_Event::Written:
+            return "write ";
+        default:
+            return "would delete ";
+    }
+}
+
 void Plain_Box(std::string_view Text) {
     The_Host().Show_Box({.Text = std::string(Text)});
 }

@@ -63,7 +63,14 @@ struct Display_Info {
 };
 
 /// What the generator does to files, told as it happens.
-enum class File_Event { Deleted, Written };
+enum class File_Event {
+    Deleted,
+    Written,
+    Would_Delete,  // in a dry run
+};
+
+/// The word that a line begins with which tells of the event.
+const char* Event_Word(File_Event Event);
 
 class Host {
 public:
@@ -98,6 +105,8 @@ public:
     /// Runs an outside tool by its command line and waits for it; Show_Mode 0 is hidden. True
     /// when it was started and has ended.
     virtual bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) = 0;
+    /// Whether tools are only taken as run: nothing but sources may change then.
+    virtual bool Is_Dry_Run() const = 0;
     /// Told of every file that the generator deletes or has written.
     virtual void Note_File(File_Event Event, std::string_view Path) = 0;
 };
@@ -135,6 +144,7 @@ public:
     void Turn() override;
     Display_Info Display() override;
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
+    bool Is_Dry_Run() const override { return false; }
     void Note_File(File_Event Event, std::string_view Path) override;
 };
 

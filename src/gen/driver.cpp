@@ -16,6 +16,7 @@
 #include "gen/emit_night_lines.h"
 #include "gen/emit_remesh.h"
 #include "gen/emit_vtp2_poly.h"
+#include "gen/outputs.h"
 #include "gen/source_frame.h"
 #include "gen/texture_bounds.h"
 
@@ -62,12 +63,18 @@ bool Special_Polygons_Are_Linked() {
     return true;
 }
 
+// "_" and digits, as outputs have behind their stem: what else matches is another's.
+bool Is_Numbered(std::string_view Path, std::size_t Stem_Size) {
+    Path.remove_prefix(Stem_Size + 1);
+    Path.remove_suffix(std::string_view(".bgl").size());
+    return !Path.empty() && Path.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
 void Delete_Older_Outputs() {
-    if (!NameBglExcl.empty()) Output_Delete(NameBglExcl);
+    if (!NameBglExcl.empty()) Bgl_Delete(NameBglExcl);
     const std::string Stem = Bgl_Stem();
-    if (Stem.empty()) return;
-    for (const char* Pattern : {"_*.bgl", "_****.bgl"})
-        for (const std::string& Path : Files_Matching(Stem, Pattern)) Output_Delete(Path);
+    for (const std::string& Path : Files_Matching(Stem, "_*.bgl"))
+        if (Is_Numbered(Path, Stem.size())) Bgl_Delete(Path);
 }
 
 void Show_Progress(bool On) {
@@ -101,6 +108,7 @@ void Cmd_API() {
     Call(The_View.View_Redraw);
     The_Host().Set_Caption("LCompileNom", "");
     Show_Progress(true);
+    Outputs_Begin();
     Delete_Older_Outputs();
     for (const Emitter& E : The_Emitters)
         if (!E.FS_Only || FS_CFS == For_FS) E.Run();

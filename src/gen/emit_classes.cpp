@@ -8,9 +8,11 @@
 #include "core/program.h"
 #include "gen/class_raster.h"
 #include "gen/emitter.h"
+#include "gen/outputs.h"
 #include "gen/source_frame.h"
 #include "geometry/exchange_order.h"
 #include "grid/terrain_grid.h"
+#include "platform/paths.h"
 
 namespace {
 
@@ -42,6 +44,11 @@ std::string Temp_Path(std::string_view Name) {
 
 std::string Quoted(const std::string& Path) {
     return "\"" + Path + "\"";
+}
+
+// The last tool gets its output without quotes, unless a blank would part it in two.
+std::string Quoted_With_Blanks(const std::string& Path) {
+    return Path.find_first_of(" \t") == std::string::npos ? Path : Quoted(Path);
 }
 
 // The path of a file of the square in Dir.
@@ -112,7 +119,7 @@ bool Run_Tools(const Class_Kind& Kind, const std::string& Bgl) {
     const std::string Packed = Quoted(Temp_Path("LWCcompress.tmf"));
     return Run_Process(Source_Path("ResampleV11.exe  ") + Quoted(Temp_Path(Kind.Inf)), 0) &&
            Run_Process(Source_Path("tmfcompress.exe  ") + Raster + " " + Packed, 0) &&
-           Run_Process(Source_Path("tmf2bgl.exe  ") + Packed + " " + Bgl, 0);
+           Run_Process(Source_Path("tmf2bgl.exe  ") + Packed + " " + Quoted_With_Blanks(Bgl), 0);
 }
 
 // The tools say nothing of an output that they could not write.
@@ -128,18 +135,36 @@ Class_Raster Raster_Of(Lod5_Cells Cells, const std::string& Earlier) {
     return Class_Grid;
 }
 
+bool Is_Directory(const std::string& Dir) {
+    if (Dir_Exists(Dir)) return true;
+    Plain_Box(In_Language("No classes are generated, this is no directory: ",
+                          "Aucune classe n'est g\xE9n\xE9r\xE9"
+                          "e, ceci n'est pas un r\xE9pertoire : ") +
+              Dir);
+    return false;
+}
+
+// A dry run touches neither.
+bool Directories_Stand() {
+    if (The_Host().Is_Dry_Run()) return true;
+    const bool Needs_Raw = Dir_Raw_On != 0 || ReUse_Raw != 0;
+    return Is_Directory(Dir_LCWC) && (!Needs_Raw || Is_Directory(Dir_Raw));
+}
+
 // One square: raster, description, tools. Whether the next one may follow.
 bool Generate_Square(const Class_Kind& Kind, Lod5_Cells Cells) {
     const Lod5_Pos& Square = Cells.front().Pos;
     const std::string Raw_File = Square_Path(Dir_Raw, Kind, Square, ".Raw");
     const std::string Bgl = Square_Path(Dir_LCWC, Kind, Square, ".bgl");
+    if (!Bgl_May_Be_Made(Bgl)) return true;
     const Class_Raster Class_Grid = Raster_Of(Cells, Raw_File);
     for (const char* Name : {"FicRaw.Raw", "FicTemp.Tmf", "Compress.Tmf", Kind.Inf})
         Output_Delete(Temp_Path(Name));
     using enum File_Writer::Mode;
     if (!Write_Raw(Temp_Path("FicRaw.Raw"), In_Place, Class_Grid.Bytes())) return false;
     // The raw file holds the work of earlier generations: it is replaced as a whole or not at all.
-    if (ReUse_Raw != 0 && !Write_Raw(Raw_File, Safe, Class_Grid.Bytes())) return true;
+    const std::string New_Raw = The_Host().Is_Dry_Run() ? Temp_Path(Path_Name(Raw_File)) : Raw_File;
+    if (ReUse_Raw != 0 && !Write_Raw(New_Raw, Safe, Class_Grid.Bytes())) return true;
     if (!Write_Inf(Kind, Square)) return false;
     Show_Stage(NameBgl, "ResampleV11.exe");
     if (!Run_Tools(Kind, Bgl)) {
@@ -155,7 +180,7 @@ bool Generate_Square(const Class_Kind& Kind, Lod5_Cells Cells) {
 template <typename Record>
 void Generate(const Class_Kind& Kind, const Project_Table<Record>& Tab) {
     const auto Has_Class = [](const Record& R) { return R.Num != No_Class; };
-    if (!std::ranges::any_of(Tab.Rows(), Has_Class)) return;
+    if (!std::ranges::any_of(Tab.Rows(), Has_Class) || !Directories_Stand()) return;
     const Hourglass Shown;
     Show_Stage(Kind.Stage, "ResampleV11.exe");
     Dir_Create(App_Path + "\\Temp");

@@ -8,6 +8,7 @@
 
 #include "core/attr_kinds.h"
 #include "core/host.h"
+#include "gen/outputs.h"
 #include "gen/source_frame.h"
 
 namespace {
@@ -97,7 +98,7 @@ void Write_Source(Source_File& Out, const std::vector<Excl_Area>& Areas) {
 
 void Emit_Excl() {
     const std::vector<Excl_Area> Areas = Group(Sorted_Records());
-    if (Areas.empty()) return;
+    if (Areas.empty() || !Bgl_May_Be_Made(NameBglExcl)) return;
     Show_Stage(NameBglExcl, "Exclude : BGLC.exe");
     Source_File Out(Source_Path("Terrafold$_Excl.ASM"));
     if (!Out.Is_Open()) return;

@@ -10,6 +10,7 @@
 #include "core/host.h"
 #include "gen/emitter.h"
 #include "gen/night_offset.h"
+#include "gen/outputs.h"
 #include "gen/source_frame.h"
 #include "geometry/box.h"
 #include "geometry/exchange_order.h"
@@ -142,12 +143,14 @@ bool Write_Source(Source_File& Out, NLines Lines) {
 // Compiles to a scratch file, so that an output is there only when the compiler made one.
 void Compile(const std::string& Source, Long Num) {
     const std::string Made = Source_Path("Tmp.Bgl"), Bgl = Bgl_Path("_9" + Mask_000(Num));
+    if (!Bgl_May_Be_Made(Bgl)) return;
     Output_Delete(Made);
     if (!Run_Process(Source_Path("scasm.exe") + " \"" + Source + "\" \"" + Made + "\" -l", 0)) {
         Plain_Box("error during Scasm generation");
         return;
     }
     if (!File_Exists(Made)) return;
+    if (!Bgl_Stem().empty()) Bgl_Delete(Bgl);
     if (File_Copy(Made, Bgl))
         The_Host().Note_File(File_Event::Written, Bgl);
     else

@@ -4,6 +4,7 @@
 #include "core/attr_kinds.h"
 #include "core/messages.h"
 #include "core/model.h"
+#include "gen/outputs.h"
 #include "gen/source_frame.h"
 #include "geo/calibration.h"
 
@@ -31,7 +32,8 @@ std::string Mask_000(Long Num) {
 }
 
 bool Compile_Source(std::string_view Source, std::string_view Bgl, std::string_view Failure) {
-    if (!Bgl_Stem().empty()) Output_Delete(Bgl);
+    if (!Bgl_May_Be_Made(Bgl)) return true;
+    if (!Bgl_Stem().empty()) Bgl_Delete(Bgl);
     if (Run_BGLC(Source, Bgl)) return true;
     Plain_Box(Failure);
     return false;

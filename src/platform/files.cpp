@@ -54,6 +54,14 @@ bool File_Exists(std::string_view Path) {
     return Native && Is_File(*Native);
 }
 
+bool File_Or_Link_Exists(std::string_view Path) {
+    const std::optional<fs::path> Native = Native_Path(Path);
+    std::error_code Error;
+    if (!Native) return false;
+    const fs::file_status Status = fs::symlink_status(*Native, Error);
+    return fs::is_regular_file(Status) || fs::is_symlink(Status);
+}
+
 bool Dir_Exists(std::string_view Path) {
     const std::optional<fs::path> Native = Native_Path(Path);
     std::error_code Error;
@@ -69,18 +77,28 @@ bool Dir_Create(std::string_view Path) {
 }
 
 bool File_Delete(std::string_view Path) {
-    const std::optional<fs::path> Native = Native_Path(Path);
-    if (!Native) return false;
+    if (!File_Or_Link_Exists(Path)) return false;
     std::error_code Error;
-    const fs::file_status Status = fs::symlink_status(*Native, Error);
-    if (!fs::is_regular_file(Status) && !fs::is_symlink(Status)) return false;
-    return fs::remove(*Native, Error);
+    return fs::remove(*Native_Path(Path), Error);
 }
 
 bool File_Same(std::string_view A, std::string_view B) {
     const std::optional<fs::path> Native_A = Native_Path(A), Native_B = Native_Path(B);
     std::error_code Error;
     return Native_A && Native_B && fs::equivalent(*Native_A, *Native_B, Error);
+}
+
+std::string File_Key(std::string_view Path, bool Through_Link) {
+    const std::optional<fs::path> Native = Native_Path(Path);
+    if (!Native) return {};
+    std::error_code Error;
+    const fs::path Whole = fs::absolute(*Native, Error);
+    if (Through_Link) {
+        const fs::path End = fs::weakly_canonical(Whole, Error);
+        return Utf8_From_Path(Error ? Whole : End);
+    }
+    const fs::path Dir = fs::weakly_canonical(Whole.parent_path(), Error);
+    return Utf8_From_Path(Error ? Whole : Dir / Whole.filename());
 }
 
 bool File_Copy(std::string_view From, std::string_view To) {

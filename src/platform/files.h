@@ -13,6 +13,7 @@
 #include <vector>
 
 bool File_Exists(std::string_view Path);  // a file: no directory, device or pipe
+bool File_Or_Link_Exists(std::string_view Path);  // a link counts wherever it leads
 bool Dir_Exists(std::string_view Path);
 bool Dir_Create(std::string_view Path);  // with its parents; true when it stands at the end
 
@@ -21,6 +22,11 @@ bool File_Delete(std::string_view Path);
 
 /// Whether both paths lead to one file that is there, be it by other names or links.
 bool File_Same(std::string_view A, std::string_view B);
+
+/// A text that two paths share when they are one name in one directory, by whatever links the
+/// directory is reached; empty when Path can't exist. With Through_Link that of what the name, if
+/// it is a link, leads to.
+std::string File_Key(std::string_view Path, bool Through_Link = false);
 
 /// Copies a file, replacing an older one.
 bool File_Copy(std::string_view From, std::string_view To);

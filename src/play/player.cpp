@@ -303,7 +303,7 @@ bool Player::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
 }
 
 void Player::Note_File(File_Event Event, std::string_view Path) {
-    Print((Event == File_Event::Deleted ? "delete " : "write ") + std::string(Path));
+    Print(Event_Word(Event) + std::string(Path));
 }
 
 Play_End Play(const Script& S, const Play_Options& Options,

@@ -28,6 +28,32 @@ TEST_F(Driver_Test, NamesAreNoPatterns) {
     }
 }
 
+TEST_F(Driver_Test, ThePartsOfAProjectAreNoOutputsOfIt) {
+    Exclude_Something();
+    Nom_Projet = Dir.Path("p.bgl");
+    Carte = Dir.Path("map.bgl");
+    Ima M;
+    M.DirFic = Dir.Path("tex.bgl");
+    Tab_Ima.Append(M);
+    std::error_code Without_Links;
+    std::filesystem::create_directory_symlink(Dir.Native(), Dir.Native("here"), Without_Links);
+    for (const char* Name : {"p.bgl", "here/p.bgl", "map.bgl", "tex.bgl", "notes.txt"}) {
+        if (!Without_Links || std::string_view(Name) != "here/p.bgl") Dir.Write(Name, "mine");
+        NameBglExcl = Dir.Path(Name);
+        Host_Of_Test = {};
+        Host_Of_Test.Tool = [](std::string_view) { return true; };
+        Cmd_API();
+        EXPECT_EQ(Host_Of_Test.Boxes.size(), 1U) << Name;
+        EXPECT_FALSE(Has_Source("Terrafold$_Excl.ASM")) << "the output is passed over";
+        EXPECT_EQ(Dir.Read(Name), "mine");
+    }
+    NameBglExcl = Dir.Path("link.bgl");
+    std::filesystem::create_symlink("p.bgl", Dir.Native("link.bgl"), Without_Links);
+    Cmd_API();
+    EXPECT_FALSE(Dir.Has("link.bgl")) << "the link goes";
+    EXPECT_EQ(Dir.Read("p.bgl"), "mine") << "not what it leads to";
+}
+
 TEST_F(Driver_Test, ToolsForReal) {
     Make_Map(64);
     Exclude_Something();
@@ -36,8 +62,8 @@ TEST_F(Driver_Test, ToolsForReal) {
     Put_Tool("tmfcompress.exe", "copy $1 $2\n");
     Put_Tool("tmf2bgl.exe", "copy $1 $2\n");
     Put_Tool("scasm.exe", "same $3 -l\ncopy $1 $2\n");
-    Dir.Write("Classes/LC_048_032.bgl", "older");
-    Dir_LCWC = Dir.Path("Classes");
+    Dir.Write("My Classes/LC_048_032.bgl", "older");
+    Dir_LCWC = Dir.Path("My Classes");
     LC_Cell Class;
     Class.AreaLon = 384;
     Class.AreaLat = 256;
@@ -49,7 +75,7 @@ TEST_F(Driver_Test, ToolsForReal) {
     Dir.Write("Out_9002.bgl/in the way", "");
     Cmd_API();
     EXPECT_EQ(Dir.Read("Excl.bgl"), Source("Terrafold$_Excl.ASM")) << "whatever the exit status";
-    EXPECT_EQ(Dir.Read("Classes/LC_048_032.bgl").size(), 257U * 257U);
+    EXPECT_EQ(Dir.Read("My Classes/LC_048_032.bgl").size(), 257U * 257U);
     EXPECT_FALSE(Has_Source("Temp/landclass.tmf") || Has_Source("Temp/LWCcompress.tmf"));
     EXPECT_EQ(Dir.Read("Out_9003.bgl"), Source("TmpRt.Sca"));
     EXPECT_EQ(Dir.Read("Out_9001.bgl").substr(0, 9), "Header( 1");
