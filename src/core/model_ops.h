@@ -85,7 +85,7 @@ void Squares_Delete(Project_Table<R>& Tab, std::span<const K> Of) {
     std::vector<Long> Rows = Squares_Find(Tab, Of);
     std::ranges::sort(Rows);
     Rows.erase(Rows.begin(), std::ranges::upper_bound(Rows, 0));  // squares without a record
-    Rows.erase(std::ranges::unique(Rows).begin(), Rows.end());
+    Rows.erase(std::unique(Rows.begin(), Rows.end()), Rows.end());
     Tab.Remove_Rows(Rows);
 }
 
