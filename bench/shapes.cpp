@@ -283,8 +283,10 @@ Outline Some_Shape(Random& R, const Frame& F, Kind K, Int Mode) {
         }
         case Kind::Ties:
             // Whole pixels, so that equal means equal and in line means in line.
-            return Tangle(R, F, R.Whole(4, 16),
-                          std::max(1.0, std::floor(F.Radius() / R.Whole(2, 6))));
+            {
+                const Long Points = R.Whole(4, 16), Parts = R.Whole(2, 6);
+                return Tangle(R, F, Points, std::max(1.0, std::floor(F.Radius() / Parts)));
+            }
         case Kind::Twisted:
             return Twisted(R, F);
         default:
@@ -327,8 +329,9 @@ void Add_Nest(Random& R, const Frame& F, Int Depth, Int Mode) {
 void Add_Crossing(Random& R, Int Mode) {
     const Frame F = Map_Frame();
     for (Long I = R.Whole(1, 4); I > 0; --I) {
-        const Frame Part = Tile(F, 3, R.Whole(0, 2), R.Whole(0, 2));
-        Outline O = Tangle(R, R.Chance(0.5) ? F : Part, R.Whole(3, 8));
+        const Long Col = R.Whole(0, 2), Row = R.Whole(0, 2);
+        const Frame In = R.Chance(0.5) ? F : Tile(F, 3, Col, Row);
+        Outline O = Tangle(R, In, R.Whole(3, 8));
         if (R.Chance(0.2)) std::swap(O[0], O[2]);
         Add_Polygon(Roughened(R, O), Mode);
     }
@@ -344,8 +347,8 @@ void Add_Tiled(Random& R, Kind K, Int Mode) {
         while (Of == Kind::Mixed || Of == Kind::Texts || Of == Kind::Nested || Of == Kind::Crossing)
             Of = static_cast<Kind>(R.Whole(0, Nb_Kind - 1));
         const bool Named = R.Chance(K == Kind::Texts ? 0.6 : K == Kind::Mixed ? 0.1 : 0.0);
-        Add_Polygon(Roughened(R, Some_Shape(R, F, Of, Mode)), Mode,
-                    Named ? Random_Text(R) : std::string());
+        const Outline O = Roughened(R, Some_Shape(R, F, Of, Mode));
+        Add_Polygon(O, Mode, Named ? Random_Text(R) : std::string());
     }
 }
 
@@ -354,7 +357,8 @@ void Add_Tiled(Random& R, Kind K, Int Mode) {
 void Make_Project(std::uint64_t Seed, Kind K, Int Mode) {
     Random R(Seed);
     Model_Reset();
-    Make_Map(R, R.Whole(1, 8), Mode, R.Chance(0.5));
+    const Long Cells = R.Whole(1, 8);
+    Make_Map(R, Cells, Mode, R.Chance(0.5));
     if (K == Kind::Crossing)
         Add_Crossing(R, Mode);
     else if (K == Kind::Nested)

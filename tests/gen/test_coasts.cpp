@@ -311,8 +311,8 @@ TEST_F(Coast_Test, LinesThatEndOnTheMapAreClosedByConnectors) {
     int Checked = 0;
     for (int Round = 0; Round < 300; ++Round) {
         SCOPED_TRACE(Round);
-        Outline Line =
-            Wavering(R, Some_Way(R.Whole(0, 3)), Some_Way(R.Whole(0, 3)), R.Whole(10, 40));
+        const Double From = Some_Way(R.Whole(0, 3)), To = Some_Way(R.Whole(0, 3));
+        Outline Line = Wavering(R, From, To, R.Whole(10, 40));
         Line.resize(static_cast<std::size_t>(R.Whole(6, static_cast<Long>(Line.size()))));
         if (R.Chance(0.5)) Line.erase(Line.begin(), Line.begin() + R.Whole(0, 4));
         if (R.Chance(0.5)) std::reverse(Line.begin(), Line.end());
