@@ -30,6 +30,6 @@ std::string Bgl_Path(std::string_view Suffix);
 /// Num with three digits at least: "007".
 std::string Mask_000(Long Num);
 
-/// Deletes an older Bgl and compiles Source to it, unless it may not be made (outputs.h). When the assembler cannot be started, a plain
-/// box shows Failure and the result is false.
+/// Deletes an older Bgl and compiles Source to it, unless it may not be made (outputs.h). When the
+/// assembler cannot be started, a plain box shows Failure and the result is false.
 bool Compile_Source(std::string_view Source, std::string_view Bgl, std::string_view Failure);

@@ -106,7 +106,8 @@ std::optional<File_Mark> File_Mark_Of(std::string_view Path) {
     if (Error) return std::nullopt;
     const auto Time = fs::last_write_time(*Native, Error);
     if (Error) return std::nullopt;
-    return File_Mark{.Size = Size, .Time = static_cast<std::int64_t>(Time.time_since_epoch().count())};
+    return File_Mark{.Size = Size,
+                     .Time = static_cast<std::int64_t>(Time.time_since_epoch().count())};
 }
 
 bool File_Rename(std::string_view From, std::string_view To) {

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-bool File_Exists(std::string_view Path);  // a file: no directory, device or pipe
+bool File_Exists(std::string_view Path);          // a file: no directory, device or pipe
 bool File_Or_Link_Exists(std::string_view Path);  // a link counts wherever it leads
 bool Dir_Exists(std::string_view Path);
 bool Dir_Create(std::string_view Path);  // with its parents; true when it stands at the end

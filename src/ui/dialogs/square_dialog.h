@@ -44,8 +44,8 @@ private:
 template <typename R>
 class Record_Dialog : public Square_Dialog {
 protected:
-    Record_Dialog(std::string Name, Wording Title, std::string State_Label, Project_Table<R>& Tab, R& Cur,
-                  Int& Cancelled)
+    Record_Dialog(std::string Name, Wording Title, std::string State_Label, Project_Table<R>& Tab,
+                  R& Cur, Int& Cancelled)
         : Square_Dialog(std::move(Name), Title, std::move(State_Label)),
           Tab_(Tab),
           Cur_(Cur),
