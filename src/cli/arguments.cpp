@@ -10,6 +10,7 @@ const char Cli_Help[] =
 
 Usage:
   terrafold-cli generate PROJECT [--app-path DIR] [--language FR|US] [--dry-run]
+  terrafold-cli restore-outputs PROJECT [--app-path DIR] [--language FR|US]
   terrafold-cli play SCRIPT [--app-path DIR] [--language FR|US] [--canvas WxH]
   terrafold-cli play --journal FILE
   terrafold-cli resave IN OUT
@@ -22,7 +23,12 @@ generate  writes the scenery sources of PROJECT (a .LWM file) and compiles them 
               delete PATH             an older output or source was deleted
               write PATH              a source was written
               run COMMAND LINE        an outside tool is started
+              missing PATH            an outside tool has ended without having made it
               message NUMBER TEXT     a message; NUMBER 0 is one without a number
+          Older outputs are kept in the home until the next generation has ended.
+restore-outputs
+          puts those that the last generation of PROJECT found back in their places;
+          a second time undoes it.
 play      runs the whole program without a screen and does what SCRIPT (a file, or "-"
           for standard input) says a user does. docs/play.md tells of its language.
           With --journal it tells what the steps of a journal change which a crash has
@@ -32,7 +38,7 @@ info      prints counts, extent and outputs of PROJECT as JSON.
 texture   writes the texture file IN, of any format of the simulator, as a bitmap of
           24 bits and prints what it is.
 
-Options of generate and play:
+Options of generate, restore-outputs and play:
   --app-path DIR     directory of the outside tools, where the sources go as well
                      (default: TERRAFOLD_HOME, else the program's own directory if it
                      can be written, else the user's data directory)
@@ -43,8 +49,8 @@ Options of generate and play:
 Option of texture:
   --palette FILE     colours of textures of type R8 (default: Fs5.pal of the home)
 
-Exit status: 0 all well, 1 a message was shown or IN is no texture, 2 wrong usage,
-3 the project could not be opened. Of play: 0 all was played, 2 wrong usage or a line
+Exit status: 0 all well, 1 a message was shown, an output is missing or IN is no
+texture, 2 wrong usage, 3 the project could not be opened. Of play: 0 all was played, 2 wrong usage or a line
 that makes no sense, 4 an act that no user could do.
 )";
 
@@ -93,10 +99,11 @@ bool Read_Size(const std::string& Text, Long& Width, Long& Height) {
 
 void Parse_Option(const std::string& Word, Word_List& Words, Cli_Arguments& A) {
     const bool Plays = A.What == Cli_Arguments::Command::Play;
+    const bool Generates = A.What == Cli_Arguments::Command::Generate;
     std::string Size;
     if (Plays && Word == "--journal") {
         A.Is_Journal = true;
-    } else if (!Plays && Word == "--dry-run") {
+    } else if (Generates && Word == "--dry-run") {
         A.Dry_Run = true;
     } else if (Plays && Take_Value(Word, "--canvas", Words, Size)) {
         if (!Read_Size(Size, A.Canvas_Width, A.Canvas_Height))
@@ -129,8 +136,7 @@ void Parse_Rest(Word_List& Words, Cli_Arguments& A, std::size_t Nb_Files, const 
         const bool Is_Option = !Options_Ended && Word.size() > 1 && Word[0] == '-';
         if (Is_Option && Word == "--")
             Options_Ended = true;
-        else if (Is_Option && (A.What == Cli_Arguments::Command::Generate ||
-                               A.What == Cli_Arguments::Command::Play))
+        else if (Is_Option && Has_Home_Options(A.What))
             Parse_Option(Word, Words, A);
         else if (Is_Option && A.What == Cli_Arguments::Command::Texture)
             Parse_Texture_Option(Word, Words, A);
@@ -146,6 +152,11 @@ void Parse_Rest(Word_List& Words, Cli_Arguments& A, std::size_t Nb_Files, const 
 }
 
 }  // namespace
+
+bool Has_Home_Options(Cli_Arguments::Command What) {
+    using enum Cli_Arguments::Command;
+    return What == Generate || What == Restore_Outputs || What == Play;
+}
 
 Cli_Arguments Cli_Parse(std::span<const std::string> Words) {
     using Command = Cli_Arguments::Command;
@@ -164,6 +175,9 @@ Cli_Arguments Cli_Parse(std::span<const std::string> Words) {
         Parse_Rest(List, A, 0, "nothing behind --version");
     } else if (Name == "generate") {
         A.What = Command::Generate;
+        Parse_Rest(List, A, 1, "one PROJECT");
+    } else if (Name == "restore-outputs") {
+        A.What = Command::Restore_Outputs;
         Parse_Rest(List, A, 1, "one PROJECT");
     } else if (Name == "play") {
         A.What = Command::Play;

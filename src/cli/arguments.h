@@ -7,7 +7,7 @@
 #include "core/numbers.h"
 
 struct Cli_Arguments {
-    enum class Command { Generate, Play, Resave, Info, Texture, Help, Version };
+    enum class Command { Generate, Restore_Outputs, Play, Resave, Info, Texture, Help, Version };
     Command What = Command::Help;
     std::string Project;   // or script or texture: the system's path, as typed; so are the next two
     std::string Target;    // of resave and texture
@@ -20,6 +20,9 @@ struct Cli_Arguments {
 
     std::string Error;  // what is wrong with the command line; empty when it is right
 };
+
+/// Whether a command works in the home, and takes the options that tell of it.
+bool Has_Home_Options(Cli_Arguments::Command What);
 
 /// The meaning of Words, the command line behind the program's name.
 Cli_Arguments Cli_Parse(std::span<const std::string> Words);

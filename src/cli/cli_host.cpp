@@ -63,7 +63,8 @@ void Cli_Host::Set_Caption(std::string_view Control, std::string_view Text) {
 
 void Cli_Host::Refresh() {
     if (!Shows_Progress_ || !Progress_Is_Due()) return;
-    std::fprintf(stderr, "\r\x1b[K%s  %s", To_Utf8(Name_).c_str(), To_Utf8(Stage_).c_str());
+    std::fprintf(stderr, "\r\x1b[K%s  %s", To_Utf8(As_One_Line(Name_)).c_str(),
+                 To_Utf8(As_One_Line(Stage_)).c_str());
     std::fflush(stderr);
     Progress_Is_Up_ = true;
 }
@@ -74,5 +75,6 @@ bool Cli_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
 }
 
 void Cli_Host::Note_File(File_Event Event, std::string_view Path) {
+    if (Event == File_Event::Missing) Any_Message_ = true;
     Print(Event_Word(Event) + std::string(Path));
 }

@@ -14,6 +14,7 @@ public:
     Cli_Host(std::FILE* Out, bool Dry_Run);
     ~Cli_Host() override;
 
+    /// Whether a message was shown, or an output is missing.
     bool Any_Message() const { return Any_Message_; }
 
     Int Show_Box(const Box& B) override;

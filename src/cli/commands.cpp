@@ -15,6 +15,8 @@
 #include "core/program.h"
 #include "core/project_file.h"
 #include "gen/driver.h"
+#include "gen/home_turn.h"
+#include "gen/restore_outputs.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/program_dir.h"
@@ -30,8 +32,17 @@ constexpr int Message_Shown = 1;
 constexpr int Wrong_Usage = 2;
 constexpr int Not_Opened = 3;
 
+// What is UTF-8 with line ends of the program's own. It may hold what was typed, which a terminal
+// is to show and not to obey: control characters are one byte, or two that begin with 0xC2.
 void Complain(const std::string& What) {
-    std::fprintf(stderr, "terrafold-cli: %s\n", What.c_str());
+    std::string Shown;
+    for (const char C : What) {
+        const auto Byte = static_cast<unsigned char>(C);
+        const bool Is_Second = Shown.ends_with('\xC2') && Byte < 0xA0;
+        if (Is_Second) Shown.pop_back();
+        Shown += (Byte < 0x20 && C != '\n') || Byte == 0x7F || Is_Second ? '?' : C;
+    }
+    std::fprintf(stderr, "terrafold-cli: %s\n", Shown.c_str());
 }
 
 // The program's form of a path that was typed.
@@ -70,12 +81,15 @@ bool Open_Typed(const std::string& Typed) {
     return Path && Load_Project(*Path);
 }
 
-int Generate(const Cli_Arguments& A) {
+// Does Work on the open project, in a home that no other program works in.
+int With_Home(const Cli_Arguments& A, void (*Work)()) {
     Cli_Host Host(stdout, A.Dry_Run);
     const Host_Scope Scope(Host);
     Gen_Install();
+    const Home_Turn Turn;
+    if (!Turn.Is_Taken()) return Message_Shown;
     if (!Open_Typed(A.Project)) return Not_Opened;
-    Cmd_API();
+    Work();
     return Host.Any_Message() ? Message_Shown : All_Well;
 }
 
@@ -184,12 +198,14 @@ int Cli_Run(const std::vector<std::string>& Words) {
     }
     Program_Reset();
     const bool Has_Home = Set_Up_App_Path(A);
-    if (!Has_Home && (A.What == Command::Generate || A.What == Command::Play)) return Wrong_Usage;
+    if (!Has_Home && Has_Home_Options(A.What)) return Wrong_Usage;
     switch (A.What) {
         case Command::Play:
             return Play_Script(A);
         case Command::Generate:
-            return Generate(A);
+            return With_Home(A, Cmd_API);
+        case Command::Restore_Outputs:
+            return With_Home(A, Restore_Outputs);
         case Command::Resave:
             return Resave(A);
         case Command::Texture:

@@ -74,6 +74,8 @@ const char* Event_Word(File_Event Event) {
             return "delete ";
         case File_Event::Written:
             return "write ";
+        case File_Event::Missing:
+            return "missing ";
         default:
             return "would delete ";
     }

@@ -67,6 +67,7 @@ enum class File_Event {
     Deleted,
     Written,
     Would_Delete,  // in a dry run
+    Missing,       // a tool has ended without having made it
 };
 
 /// The word that a line begins with which tells of the event.
@@ -107,6 +108,8 @@ public:
     virtual bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) = 0;
     /// Whether tools are only taken as run: nothing but sources may change then.
     virtual bool Is_Dry_Run() const = 0;
+    /// Whether Run_Tool starts tools; else what they were to make is not to be looked for.
+    virtual bool Starts_Tools() const = 0;
     /// Told of every file that the generator deletes or has written.
     virtual void Note_File(File_Event Event, std::string_view Path) = 0;
 };
@@ -145,6 +148,7 @@ public:
     Display_Info Display() override;
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
     bool Is_Dry_Run() const override { return false; }
+    bool Starts_Tools() const override { return !Is_Dry_Run(); }
     void Note_File(File_Event Event, std::string_view Path) override;
 };
 

@@ -10,12 +10,15 @@
 #include "core/messages.h"
 #include "core/model.h"
 #include "core/view_calls.h"
+#include "core/within_memory.h"
 #include "gen/emit_classes.h"
 #include "gen/emit_excl.h"
 #include "gen/emit_lwm_poly.h"
 #include "gen/emit_night_lines.h"
 #include "gen/emit_remesh.h"
 #include "gen/emit_vtp2_poly.h"
+#include "gen/home_turn.h"
+#include "gen/kept_outputs.h"
 #include "gen/outputs.h"
 #include "gen/source_frame.h"
 #include "gen/texture_bounds.h"
@@ -63,23 +66,20 @@ bool Special_Polygons_Are_Linked() {
     return true;
 }
 
-// "_" and digits, as outputs have behind their stem: what else matches is another's.
-bool Is_Numbered(std::string_view Path, std::size_t Stem_Size) {
-    Path.remove_prefix(Stem_Size + 1);
-    Path.remove_suffix(std::string_view(".bgl").size());
-    return !Path.empty() && Path.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
-void Delete_Older_Outputs() {
-    if (!NameBglExcl.empty()) Bgl_Delete(NameBglExcl);
-    const std::string Stem = Bgl_Stem();
-    for (const std::string& Path : Files_Matching(Stem, "_*.bgl"))
-        if (Is_Numbered(Path, Stem.size())) Bgl_Delete(Path);
-}
-
 void Show_Progress(bool On) {
     The_Host().Set_Visible("Fram_Compile", On);
     The_Host().Refresh();
+}
+
+// What the emitters had taken is free by the time the box is made.
+void Make_All() {
+    const bool Fits = Within_Memory([] {
+        Delete_Older_Outputs();
+        for (const Emitter& E : The_Emitters)
+            if (!E.FS_Only || FS_CFS == For_FS) E.Run();
+    });
+    if (!Fits) Box_No_Memory("The generation", "La g\xE9n\xE9ration");
+    if (!The_Host().Is_Dry_Run()) Kept_Close();
 }
 
 }  // namespace
@@ -102,6 +102,8 @@ void Mode_Leave() {
 }
 
 void Cmd_API() {
+    const Home_Turn Turn;
+    if (!Turn.Is_Taken()) return;
     Mode_Leave();
     if (Poly_Out_Of_Tex == 1) return;
     if (!Special_Polygons_Are_Linked()) return;
@@ -109,9 +111,7 @@ void Cmd_API() {
     The_Host().Set_Caption("LCompileNom", "");
     Show_Progress(true);
     Outputs_Begin();
-    Delete_Older_Outputs();
-    for (const Emitter& E : The_Emitters)
-        if (!E.FS_Only || FS_CFS == For_FS) E.Run();
+    Make_All();
     The_Host().Set_Pointer(Pointer_Shape::Normal);
     Show_Progress(false);
 }

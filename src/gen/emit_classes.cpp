@@ -167,11 +167,14 @@ bool Generate_Square(const Class_Kind& Kind, Lod5_Cells Cells) {
     if (ReUse_Raw != 0 && !Write_Raw(New_Raw, Safe, Class_Grid.Bytes())) return true;
     if (!Write_Inf(Kind, Square)) return false;
     Show_Stage(NameBgl, "ResampleV11.exe");
-    if (!Run_Tools(Kind, Bgl)) {
+    if (!Bgl_Set_Aside(Bgl)) return true;
+    const bool Have_Run = Run_Tools(Kind, Bgl);
+    Bgl_Ended(Bgl, Have_Run);
+    if (!Have_Run) {
         Plain_Box(Kind.Failure);
         return false;
     }
-    Tell_When_Unwritable(Bgl);
+    if (!The_Host().Is_Dry_Run()) Tell_When_Unwritable(Bgl);
     Output_Delete(Temp_Path("landclass.tmf"));
     Output_Delete(Temp_Path("LWCcompress.tmf"));
     return true;

@@ -104,5 +104,7 @@ void Emit_Excl() {
     if (!Out.Is_Open()) return;
     Write_Source(Out, Areas);
     if (!Out.Close()) return;
-    if (!Run_BGLC(Out.Path(), NameBglExcl, " ")) Plain_Box("BGLC.exe not found");
+    const bool Has_Run = Run_BGLC(Out.Path(), NameBglExcl, " ");
+    Bgl_Ended(NameBglExcl, Has_Run);
+    if (!Has_Run) Plain_Box("BGLC.exe not found");
 }

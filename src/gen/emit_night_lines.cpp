@@ -140,22 +140,26 @@ bool Write_Source(Source_File& Out, NLines Lines) {
     return Out.Close();
 }
 
-// Compiles to a scratch file, so that an output is there only when the compiler made one.
-void Compile(const std::string& Source, Long Num) {
-    const std::string Made = Source_Path("Tmp.Bgl"), Bgl = Bgl_Path("_9" + Mask_000(Num));
-    if (!Bgl_May_Be_Made(Bgl)) return;
-    Output_Delete(Made);
-    if (!Run_Process(Source_Path("scasm.exe") + " \"" + Source + "\" \"" + Made + "\" -l", 0)) {
-        Plain_Box("error during Scasm generation");
-        return;
-    }
-    if (!File_Exists(Made)) return;
+void Take_Over(const std::string& Made, const std::string& Bgl) {
     if (!Bgl_Stem().empty()) Bgl_Delete(Bgl);
+    if (!Bgl_May_Be_Made(Bgl)) return;
     if (File_Copy(Made, Bgl))
         The_Host().Note_File(File_Event::Written, Bgl);
     else
         Box_Not_Whole(Bgl);
     Output_Delete(Made);
+}
+
+// Compiles to a scratch file, so that an output is there only when the compiler made one.
+void Compile(const std::string& Source, Long Num) {
+    const std::string Made = Source_Path("Tmp.Bgl"), Bgl = Bgl_Path("_9" + Mask_000(Num));
+    if (!Bgl_May_Be_Made(Bgl)) return;
+    Output_Delete(Made);
+    const bool Has_Run =
+        Run_Process(Source_Path("scasm.exe") + " \"" + Source + "\" \"" + Made + "\" -l", 0);
+    if (File_Exists(Made)) Take_Over(Made, Bgl);
+    Bgl_Ended(Bgl, Has_Run);
+    if (!Has_Run) Plain_Box("error during Scasm generation");
 }
 
 void Night_Write_All() {

@@ -32,9 +32,10 @@ std::string Mask_000(Long Num) {
 }
 
 bool Compile_Source(std::string_view Source, std::string_view Bgl, std::string_view Failure) {
-    if (!Bgl_May_Be_Made(Bgl)) return true;
     if (!Bgl_Stem().empty()) Bgl_Delete(Bgl);
-    if (Run_BGLC(Source, Bgl)) return true;
-    Plain_Box(Failure);
-    return false;
+    if (!Bgl_May_Be_Made(Bgl)) return true;
+    const bool Has_Run = Run_BGLC(Source, Bgl);
+    Bgl_Ended(Bgl, Has_Run);
+    if (!Has_Run) Plain_Box(Failure);
+    return Has_Run;
 }

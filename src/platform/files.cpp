@@ -116,6 +116,29 @@ bool File_Copy(std::string_view From, std::string_view To) {
     return Whole && Out.Commit();
 }
 
+bool File_Move(std::string_view From, std::string_view To) {
+    const std::optional<fs::path> Old = Native_Path(From), New = Native_Path(To);
+    if (!Old || !New) return false;
+    std::error_code Error;
+    fs::rename(*Old, *New, Error);
+    if (!Error) return true;
+    if (fs::is_symlink(fs::symlink_status(*Old, Error))) {
+        fs::copy_symlink(*Old, *New, Error);
+        if (Error) return false;
+    } else if (!File_Copy(From, To)) {
+        return false;
+    }
+    if (fs::remove(*Old, Error)) return true;
+    fs::remove(*New, Error);
+    return false;
+}
+
+bool Dir_Delete(std::string_view Dir) {
+    const std::optional<fs::path> Native = Native_Path(Dir);
+    std::error_code Error;
+    return Native && fs::is_directory(*Native, Error) && fs::remove(*Native, Error);
+}
+
 std::optional<std::string> File_Read(std::string_view Path) {
     std::ifstream In = Open_To_Read(Path);
     if (!In.is_open()) return std::nullopt;

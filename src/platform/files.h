@@ -31,6 +31,13 @@ std::string File_Key(std::string_view Path, bool Through_Link = false);
 /// Copies a file, replacing an older one.
 bool File_Copy(std::string_view From, std::string_view To);
 
+/// Gives a file, or a link, the path To, on another disk as well; what has that path goes. False
+/// when it is still where it was.
+bool File_Move(std::string_view From, std::string_view To);
+
+/// Deletes a directory in which nothing is. False when it is still there.
+bool Dir_Delete(std::string_view Dir);
+
 /// The whole file, or nothing when it cannot be read.
 std::optional<std::string> File_Read(std::string_view Path);
 

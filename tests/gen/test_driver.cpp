@@ -4,6 +4,8 @@
 #include "core/view_calls.h"
 #include "gen/emit_classes.h"
 #include "gen/emit_night_lines.h"
+#include "gen/outputs.h"
+#include "gen/restore_outputs.h"
 #include "gen_test.h"
 
 namespace {
@@ -85,6 +87,34 @@ TEST_F(Driver_Test, ToolsForReal) {
     ASSERT_EQ(Host_Of_Test.Boxes.size(), 1U) << "a directory stands where an output goes";
     EXPECT_NE(Host_Of_Test.Boxes[0].Text.find("Out_9002.bgl"), std::string::npos);
     EXPECT_EQ(Host_Of_Test.Boxes[0].Style, Box_Ok);
+}
+
+TEST_F(Driver_Test, WhatWasThereComesBack) {
+    Exclude_Something();
+    Put_Tool("bglc.exe", "copy $1 $2\n");
+    Put_Tool("ResampleV11.exe", "");
+    Put_Tool("tmfcompress.exe", "");
+    Put_Tool("tmf2bgl.exe", "");
+    Tab_LC.Append({});
+    for (const char* Name : {"Excl.bgl", "Out_3.bgl", "Classes/LC_000_000.bgl"})
+        Dir.Write(Name, "former");
+    Cmd_API();
+    const std::string Made = Source("Terrafold$_Excl.ASM");
+    EXPECT_EQ(Host_Of_Test.Events.back(), "missing " + Dir.Path("Classes\\LC_000_000.bgl"));
+    EXPECT_EQ(Output_Facts().back().State, Output_State::Missing);
+    EXPECT_EQ(Dir.Read("Classes/LC_000_000.bgl"), "former") << "no tool has made another";
+    EXPECT_TRUE(Dir.Read("Excl.bgl") == Made && !Dir.Has("Out_3.bgl"));
+    Restore_Outputs();
+    EXPECT_TRUE(Dir.Read("Excl.bgl") == "former" && Dir.Read("Out_3.bgl") == "former");
+    Restore_Outputs();
+    EXPECT_TRUE(Dir.Read("Excl.bgl") == Made && !Dir.Has("Out_3.bgl"));
+    Put_Tool("bglc.exe", "");
+    for (int Times = 0; Times < 2; ++Times) Cmd_API();
+    EXPECT_FALSE(Dir.Has("Excl.bgl"));
+    Restore_Outputs();
+    EXPECT_EQ(Dir.Read("Excl.bgl"), Made) << "kept for as long as there is no other";
+    Restore_Outputs();
+    EXPECT_EQ(Host_Of_Test.Boxes.size(), 1U) << "nothing is kept any more";
 }
 
 // A polygon from (10, 10) to (20, 20) linked to textures of one number: numbers are unique in what

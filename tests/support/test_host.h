@@ -13,7 +13,7 @@
 class Test_Host : public Silent_Host {
 public:
     // What happened, in order, a line each: "message NUM TEXT" (CR LF as a blank), "form NAME",
-    // "delete PATH", "write PATH", "run COMMAND LINE", "ask TITLE".
+    // "delete PATH", "write PATH", "missing PATH", "run COMMAND LINE", "ask TITLE".
     std::vector<std::string> Events;
     std::vector<Box> Boxes;
     std::vector<File_Question> Questions;
@@ -48,5 +48,6 @@ public:
     void Set_Pointer(Pointer_Shape Shape) override;
     Display_Info Display() override;
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
+    bool Starts_Tools() const override { return !Tool; }
     void Note_File(File_Event Event, std::string_view Path) override;
 };

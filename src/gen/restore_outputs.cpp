@@ -1,0 +1,45 @@
+// gen/restore_outputs.cpp - what is kept and what stands change places.
+#include "gen/restore_outputs.h"
+
+#include "core/host.h"
+#include "core/model.h"
+#include "core/program.h"
+#include "gen/home_turn.h"
+#include "gen/kept_outputs.h"
+#include "gen/outputs.h"
+#include "gen/source_frame.h"
+
+namespace {
+
+bool Put_Back(const Kept_Output& Output) {
+    if (!Bgl_May_Be_Made(Output.Path)) return true;
+    if (!File_Move(Output.File, Output.Path)) {
+        Box_Not_Whole(Output.Path);
+        return false;
+    }
+    Kept_Forget(Output);
+    The_Host().Note_File(File_Event::Written, Output.Path);
+    return true;
+}
+
+}  // namespace
+
+// Of those that could not be moved back the set before keeps what it can.
+void Restore_Outputs() {
+    const Home_Turn Turn;
+    if (!Turn.Is_Taken()) return;
+    if (Kept_Is_Open()) Kept_Close();
+    Outputs_Begin();
+    const std::vector<Kept_Output> Outputs = Kept_Outputs();
+    if (Outputs.empty()) {
+        Plain_Box(In_Language("No former outputs are kept of ",
+                              "Aucun ancien fichier de sortie n'est gard\xE9 de ") +
+                  Nom_Projet);
+        return;
+    }
+    Delete_Older_Outputs();
+    for (const Kept_Output& K : Outputs) Bgl_Delete(K.Path);
+    bool All_Back = true;
+    for (const Kept_Output& K : Outputs) All_Back = Put_Back(K) && All_Back;
+    if (All_Back) Kept_Close();
+}
