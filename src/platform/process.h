@@ -11,4 +11,11 @@
 /// stands before it names a file. A name that is no file is looked for as it is written. On a
 /// POSIX system a Windows program is run by wine, if that is installed, and arguments that are
 /// paths are handed over in the form that the started program understands.
+///
+/// A signal that ends this program (SIGTERM, SIGINT, SIGHUP) ends the started one and what that
+/// has started first; on Windows they end with this program, however that ends.
 bool Process_Run(std::string_view Cmd_Line, bool Hidden);
+
+/// Ends the program that Process_Run waits for, if there is one; Process_Run then returns true.
+/// May be called from another thread.
+void Process_End_Running();

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <mutex>
 #include <string>
 
 #include "platform/system.h"
@@ -34,6 +35,25 @@ Owned_Handle Error_Output() {
     return Own(Copy);
 }
 
+// What is in it ends when its last handle is closed, be it by the end of this program.
+Owned_Handle Job_For_One() {
+    Owned_Handle Job = Own(CreateJobObjectW(nullptr, nullptr));
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION Limits{};
+    Limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    if (Job)
+        SetInformationJobObject(Job.get(), JobObjectExtendedLimitInformation, &Limits,
+                                sizeof Limits);
+    return Job;
+}
+
+std::mutex Running_Mutex;
+HANDLE Running_Job = nullptr;
+
+void Set_Running(HANDLE Job) {
+    const std::lock_guard Held(Running_Mutex);
+    Running_Job = Job;
+}
+
 }  // namespace
 
 bool Process_Run(std::string_view Cmd_Line, bool Hidden) {
@@ -54,10 +74,21 @@ bool Process_Run(std::string_view Cmd_Line, bool Hidden) {
         Start.hStdOutput = Start.hStdError = Output.get();
     }
     PROCESS_INFORMATION Child{};
-    if (CreateProcessW(nullptr, Line.data(), nullptr, nullptr, TRUE, NORMAL_PRIORITY_CLASS, nullptr,
-                       nullptr, &Start, &Child) == 0)
+    constexpr DWORD Flags = NORMAL_PRIORITY_CLASS | CREATE_SUSPENDED;
+    if (CreateProcessW(nullptr, Line.data(), nullptr, nullptr, TRUE, Flags, nullptr, nullptr,
+                       &Start, &Child) == 0)
         return false;
+    const Owned_Handle Job = Job_For_One();
     const Owned_Handle Process = Own(Child.hProcess), Thread = Own(Child.hThread);
+    if (Job) AssignProcessToJobObject(Job.get(), Process.get());
+    Set_Running(Job.get());
+    ResumeThread(Thread.get());
     WaitForSingleObject(Process.get(), INFINITE);
+    Set_Running(nullptr);
     return true;
+}
+
+void Process_End_Running() {
+    const std::lock_guard Held(Running_Mutex);
+    if (Running_Job != nullptr) TerminateJobObject(Running_Job, 1);
 }
