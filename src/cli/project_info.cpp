@@ -15,16 +15,16 @@ namespace {
 
 std::string Quoted(std::string_view Text) {
     std::string Json = "\"";
-    for (const char C : To_Utf8(Text)) {
+    for (const char& C : Text) {
         if (C == '"' || C == '\\') {
             Json += '\\';
             Json += C;
-        } else if (static_cast<unsigned char>(C) < 0x20) {
+        } else if (Is_Control(C)) {
             std::array<char, 8> Escape;
-            std::snprintf(Escape.data(), Escape.size(), "\\u%04x", static_cast<unsigned>(C));
+            std::snprintf(Escape.data(), Escape.size(), "\\u%04x", static_cast<unsigned char>(C));
             Json += Escape.data();
         } else {
-            Json += C;
+            Json += To_Utf8({&C, 1});
         }
     }
     return Json + '"';

@@ -59,13 +59,16 @@ public:
         return !Cur_Token.empty();
     }
 
-    /// The string of the next line; one that is not there is empty.
+    /// The string of the next line; one that is not there is empty. One too long damages the file.
     void Quoted_Line(std::string& Field) {
         Line();
         Next_Quoted();
+        if (Cur_Token.size() > Longest_String) return Damage();
         Field.assign(Cur_Token);
     }
 
 private:
+    static constexpr std::size_t Longest_String = 32767;
+
     bool Damaged_ = false;
 };

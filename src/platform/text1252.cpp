@@ -127,11 +127,24 @@ std::string_view Trim(std::string_view Text) {
     return Text.substr(First, Text.find_last_not_of(" \t") - First + 1);
 }
 
+bool Is_Control(char C) {
+    const auto Byte = static_cast<unsigned char>(C);
+    return Byte < 0x20 || Byte == 0x7F ||
+           std::string_view("\x81\x8D\x8F\x90\x9D").find(C) != std::string_view::npos;
+}
+
 std::string As_One_Line(std::string_view Text) {
+    constexpr char Digits[] = "0123456789ABCDEF";
     std::string Line;
     for (std::size_t I = 0; I < Text.size(); ++I) {
-        if (Text[I] == '\r' && I + 1 < Text.size() && Text[I + 1] == '\n') continue;
-        Line += Text[I] == '\r' || Text[I] == '\n' ? ' ' : Text[I];
+        const char C = Text[I];
+        if (C == '\r' && I + 1 < Text.size() && Text[I + 1] == '\n') continue;
+        if (C == '\r' || C == '\n' || C == '\t')
+            Line += ' ';
+        else if (Is_Control(C))
+            Line.append("\\x").append({Digits[(C >> 4) & 15], Digits[C & 15]});
+        else
+            Line += C;
     }
     return Line;
 }

@@ -23,5 +23,9 @@ bool Equal_No_Case(std::string_view A, std::string_view B);
 /// Without blanks and tabs at both ends.
 std::string_view Trim(std::string_view Text);
 
-/// Text with every line end as one blank.
+/// Whether C is a control character: a terminal obeys it in place of showing it.
+bool Is_Control(char C);
+
+/// Text as a line to print: every line end and tab is one blank, any other control character
+/// "\x" and two digits.
 std::string As_One_Line(std::string_view Text);
