@@ -8,6 +8,7 @@
 #include "grid/grid_lines.h"
 #include "grid/terrain_grid.h"
 #include "support/program_test.h"
+#include "support/rational.h"
 #include "support/rows.h"
 
 namespace {
@@ -73,37 +74,71 @@ TEST(Map_Limits, AsInTheRows) {
     The_Calibration = {};
 }
 
-TEST(Map_Limits, TheWorkGridHoldsAnyMapAndServes) {
+// One axis of a map in exact fractions: degrees lie on a line through both points, Cells follow
+// each other from Origin on.
+struct Exact_Axis {
+    Rational Pixel_1, Pixel_2, Degrees_1, Degrees_2, Origin, Step;
+
+    Rational Degrees(Double Pixel) const {
+        return Degrees_1 + (Pixel - Pixel_1) * (Degrees_2 - Degrees_1) / (Pixel_2 - Pixel_1);
+    }
+    Double Pixel_Of(Long Edge) const {
+        return ((Origin + Step * Edge - Degrees(0)) / (Degrees(1) - Degrees(0))).Nearest();
+    }
+    Long Cell(Double Pixel) const { return ((Degrees(Pixel) - Origin) / Step).Floor(); }
+};
+
+// What a calibration says of one end of an axis.
+struct End {
+    Double Map, Grid, Grid_Pixel;
+    Int Map_Area, Map_Cell, Grid_Area, Grid_Cell;
+};
+
+// Margin is the Cell that the work grid has beyond the map there, -1 or 1.
+void Expect_End(const Exact_Axis& A, const End& E, Double Pixel, Long Margin) {
+    const Long Cell = A.Cell(Pixel), Grid_Cell = Cell + Margin, Edge = Grid_Cell + (Margin > 0);
+    const Double Pixels_A_Degree = std::fabs((1.0 / (A.Degrees(1) - A.Degrees(0))).Nearest());
+    ASSERT_NEAR(E.Map, A.Degrees(Pixel).Nearest(), 1e-13);
+    ASSERT_EQ(E.Map_Area * 32 + E.Map_Cell, Cell);
+    ASSERT_EQ(E.Grid_Area * 32 + E.Grid_Cell, Grid_Cell);
+    ASSERT_LT(E.Grid_Cell, 32);
+    ASSERT_EQ(E.Grid, (A.Origin + A.Step * Edge).Nearest());
+    ASSERT_NEAR(E.Grid_Pixel, A.Pixel_Of(Edge), 1e-13 * Pixels_A_Degree);
+}
+
+TEST(Map_Limits, AreThoseOfExactFractions) {
     std::mt19937 Random(17);
-    std::uniform_real_distribution<Double> Part(0.0, 1.0);
+    const auto Up_To = [&Random](Double Most) {  // in steps of 2^-24 degrees
+        return std::floor(Most * (Random() >> 8)) / 16777216.0;
+    };
     for (int I = 0; I < 2000; ++I) {
-        const Geo NW{170.0 * Part(Random) - 83.0, 350.0 * Part(Random) - 178.0};
-        const Geo SE{NW.Lat - 0.01 - 2.0 * Part(Random), NW.Lon + 0.01 + 2.0 * Part(Random)};
-        const Long Width = 300 + static_cast<Long>(Random() % 9000);
-        const Long Height = 300 + static_cast<Long>(Random() % 9000);
-        Calibration Cal =
-            Points(NW, SE, static_cast<Long>(Random() % 20), static_cast<Long>(Random() % 20),
-                   Width - 1 - static_cast<Long>(Random() % 20),
-                   Height - 1 - static_cast<Long>(Random() % 20));
-        Compute_Map_Limits(Cal, Width, Height);
-        // All limits lie on the line between pixels and degrees.
-        const Geo First = Pixel_To_LatLon({0.0, 0.0}, Cal);
-        const Geo Last = Pixel_To_LatLon({Width - 1.0, Height - 1.0}, Cal);
-        ASSERT_NEAR(Cal.LatMapNW, First.Lat, 1e-11);
-        ASSERT_NEAR(Cal.LonMapNW, First.Lon, 1e-11);
-        ASSERT_NEAR(Cal.LatMapSE, Last.Lat, 1e-11);
-        ASSERT_NEAR(Cal.LonMapSE, Last.Lon, 1e-11);
-        const Pix Grid_First = LatLon_To_Pixel({Cal.LatGridNW, Cal.LonGridNW}, Cal);
-        const Pix Grid_Last = LatLon_To_Pixel({Cal.LatGridSE, Cal.LonGridSE}, Cal);
-        ASSERT_NEAR(Cal.XGridNW, Grid_First.X, 1e-5);
-        ASSERT_NEAR(Cal.YGridNW, Grid_First.Y, 1e-5);
-        ASSERT_NEAR(Cal.XGridSE, Grid_Last.X, 1e-5);
-        ASSERT_NEAR(Cal.YGridSE, Grid_Last.Y, 1e-5);
-        ASSERT_LE(Cal.XGridNW, 0.0);
-        ASSERT_LE(Cal.YGridNW, 0.0);
-        ASSERT_GE(Cal.XGridSE, Width - 1.0);
-        ASSERT_GE(Cal.YGridSE, Height - 1.0);
-        ASSERT_TRUE(Calibration_Can_Serve(Cal));
+        const Geo NW{Up_To(170) - 83, Up_To(350) - 177};
+        const Geo SE{NW.Lat - 0.0078125 - Up_To(2), NW.Lon + 0.0078125 + Up_To(2)};
+        const Long W = 300 + Random() % 9000, H = 300 + Random() % 9000;
+        const Long X1 = Random() % (W / 3), Y1 = Random() % (H / 3);
+        const Long X2 = W - 1 - Random() % (W / 3), Y2 = H - 1 - Random() % (H / 3);
+        Calibration C = Points(NW, SE, X1, Y1, X2, Y2);
+        Compute_Map_Limits(C, W, H);
+        const Exact_Axis Lat{Y1, Y2, NW.Lat, SE.Lat, 90, -Cell_StepLat};
+        const Exact_Axis Lon{X1, X2, NW.Lon, SE.Lon, -180, Cell_StepLon};
+        Expect_End(Lat,
+                   {C.LatMapNW, C.LatGridNW, C.YGridNW, C.AreaLatMapNW, C.CellLatMapNW,
+                    C.AreaLatGridNW, C.CellLatGridNW},
+                   0, -1);
+        Expect_End(Lat,
+                   {C.LatMapSE, C.LatGridSE, C.YGridSE, C.AreaLatMapSE, C.CellLatMapSE,
+                    C.AreaLatGridSE, C.CellLatGridSE},
+                   H - 1.0, 1);
+        Expect_End(Lon,
+                   {C.LonMapNW, C.LonGridNW, C.XGridNW, C.AreaLonMapNW, C.CellLonMapNW,
+                    C.AreaLonGridNW, C.CellLonGridNW},
+                   0, -1);
+        Expect_End(Lon,
+                   {C.LonMapSE, C.LonGridSE, C.XGridSE, C.AreaLonMapSE, C.CellLonMapSE,
+                    C.AreaLonGridSE, C.CellLonGridSE},
+                   W - 1.0, 1);
+        ASSERT_TRUE(Calibration_Can_Serve(C));
+        if (testing::Test::HasFatalFailure()) return;
     }
 }
 
