@@ -107,7 +107,7 @@ void Canvas_Widget::Clear() {
     Image_.fill(palette().color(QPalette::Mid));
 }
 
-void Canvas_Widget::Stretch_Copy(const Picture& P, Box_Px Source, Box_Px Dest) {
+void Canvas_Widget::Stretch_Copy(const Picture& P, Box_Px Source, const Edges_Px& Dest) {
     Raster_Copy(Raster_Of(Image_), P, Source, Dest);
 }
 

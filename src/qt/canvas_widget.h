@@ -15,7 +15,7 @@ public:
     std::function<void(Long Width, Long Height)> On_Resize = {};
 
     void Clear() override;
-    void Stretch_Copy(const Picture& P, Box_Px Source, Box_Px Dest) override;
+    void Stretch_Copy(const Picture& P, Box_Px Source, const Edges_Px& Dest) override;
     void Lines(std::span<const Line_Px> Segments, const Pen& With) override;
     void Refresh() override;
     void Set_Cursor(Pointer_Shape Shape) override;

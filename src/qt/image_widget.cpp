@@ -43,7 +43,7 @@ private:
                        .Stride = Image_.bytesPerLine() / 4,
                        .Width = Image_.width(),
                        .Height = Image_.height()};
-        Raster_Copy(R, P, {0, 0, P.Width, P.Height}, {0, 0, R.Width, R.Height});
+        Raster_Copy(R, P, {0, 0, P.Width, P.Height}, Edges_Of({0, 0, R.Width, R.Height}));
     }
 
     QSize Fixed_;

@@ -39,19 +39,27 @@ struct Side {
 };
 
 struct Stretch {
-    std::int64_t Dest, Dest_Size, Source, Source_Size;
+    double Dest, Dest_End;  // image pixels
+    std::int64_t Source, Source_Size;
     std::int64_t Image_Size, Picture_Size;
 };
 
-Side Nearest(const Stretch& S, double Scale) {
-    const auto From = static_cast<std::int64_t>(std::lround(static_cast<double>(S.Dest) * Scale));
-    const auto To =
-        static_cast<std::int64_t>(std::lround(static_cast<double>(S.Dest + S.Dest_Size) * Scale));
+// The first pixel of the image whose middle lies at Edge or behind it.
+std::int64_t Pixel_From(double Edge, std::int64_t Image_Size) {
+    return static_cast<std::int64_t>(
+        std::clamp(std::ceil(Edge - 0.5), 0.0, static_cast<double>(Image_Size)));
+}
+
+Side Nearest(const Stretch& S) {
     Side Made;
-    if (To <= From || S.Source_Size <= 0) return Made;
-    const std::int64_t Begin = std::max<std::int64_t>(From, 0), End = std::min(To, S.Image_Size);
-    for (std::int64_t I = Begin; I < End; ++I) {
-        const std::int64_t At = S.Source + (2 * (I - From) + 1) * S.Source_Size / (2 * (To - From));
+    if (!(S.Dest < S.Dest_End) || S.Source_Size <= 0) return Made;
+    const auto Size = static_cast<double>(S.Source_Size);
+    const double Length = S.Dest_End - S.Dest;
+    const std::int64_t End = Pixel_From(S.Dest_End, S.Image_Size);
+    for (std::int64_t I = Pixel_From(S.Dest, S.Image_Size); I < End; ++I) {
+        const auto Of_Source =
+            static_cast<std::int64_t>((static_cast<double>(I) + 0.5 - S.Dest) * Size / Length);
+        const std::int64_t At = S.Source + std::min(Of_Source, S.Source_Size - 1);
         if (At < 0) continue;
         if (At >= S.Picture_Size) break;
         if (Made.Taken.empty()) Made.First = I;
@@ -165,10 +173,13 @@ bool Is_Painted(const Line_Px& L, const Line_Px& Before) {
 
 }  // namespace
 
-void Raster_Copy(const Raster& R, const Picture& P, Box_Px Source, Box_Px Dest) {
+void Raster_Copy(const Raster& R, const Picture& P, Box_Px Source, const Edges_Px& Dest) {
     if (P.Is_Empty()) return;
-    const Side Columns = Nearest({Dest.X, Dest.W, Source.X, Source.W, R.Width, P.Width}, R.Scale);
-    const Side Rows = Nearest({Dest.Y, Dest.H, Source.Y, Source.H, R.Height, P.Height}, R.Scale);
+    const double F = R.Scale;
+    const Side Columns =
+        Nearest({Dest.Left * F, Dest.Right * F, Source.X, Source.W, R.Width, P.Width});
+    const Side Rows =
+        Nearest({Dest.Top * F, Dest.Bottom * F, Source.Y, Source.H, R.Height, P.Height});
     if (Columns.Taken.empty()) return;
     const Colours Of = Palette_Of(P);
     const std::size_t Bytes = Columns.Taken.size() * sizeof(std::uint32_t);

@@ -20,7 +20,7 @@ struct Raster {
 
 /// Copies Source of P onto Dest by nearest pixels: those of the image whose centre lies in a
 /// source pixel take its colour. What Source has outside P is left out.
-void Raster_Copy(const Raster& R, const Picture& P, Box_Px Source, Box_Px Dest);
+void Raster_Copy(const Raster& R, const Picture& P, Box_Px Source, const Edges_Px& Dest);
 
 /// Both ends are painted. A dotted line has one pixel in three, a dashed one six in nine.
 void Raster_Lines(const Raster& R, std::span<const Line_Px> Segments, const Pen& With);

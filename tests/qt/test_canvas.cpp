@@ -64,7 +64,7 @@ TEST_F(Canvas_Test, TheImageIsAsFineAsTheScreen) {
 TEST_F(Canvas_Test, WhatIsPaintedIsSeen) {
     Picture P = Picture_Make(2, 1, 24);
     P.Bytes[0] = P.Bytes[5] = 255;  // blue, then red
-    Pic().Stretch_Copy(P, {0, 0, 2, 1}, {10, 10, 8, 4});
+    Pic().Stretch_Copy(P, {0, 0, 2, 1}, Edges_Of({10, 10, 8, 4}));
     Pic().Line({0, 30, 50, 30}, {.Colour = 0x00FF00});
     Pic().Refresh();
     EXPECT_EQ(On_Screen(13, 12), 0xFF0000FFU);

@@ -67,18 +67,18 @@ std::uint32_t Colour_8(Long I) {
 // The plain rule: the source pixel under the middle of each pixel.
 TEST(Raster_Test, ACopyOfAnySizeTakesTheNearestPixel) {
     for (const Int Bits : {24, 8})
-        for (const auto& [W, Scale] : {std::pair{1, 1.0}, {7, 2.0}, {40, 1.0}, {53, 1.5}}) {
+        for (const auto& [W, Scale] :
+             {std::pair{1.0, 1.0}, {7.3, 2.0}, {40.0, 1.0}, {53.0, 1.5}, {480.25, 1.0}}) {
             const Picture P = Numbered(40, 30, Bits);
-            const Box_Px Source{3, 2, 30, 20}, Dest{-5, 4, W, W};
+            const Edges_Px Dest{-5.4, 4.0, W - 5.4, W + 4.0};
             Painted Shown(97, 61, Scale);
-            Raster_Copy(Shown.R, P, Source, Dest);
-            const double X0 = std::round(-5 * Scale), X1 = std::round((-5 + W) * Scale);
-            const double Y0 = std::round(4 * Scale), Y1 = std::round((4 + W) * Scale);
+            Raster_Copy(Shown.R, P, {3, 2, 30, 20}, Dest);
             for (Long Y = 0; Y < 61; ++Y)
                 for (Long X = 0; X < 97; ++X) {
-                    const bool In = X >= X0 && X < X1 && Y >= Y0 && Y < Y1;
-                    const auto SX = static_cast<Long>(3 + (X - X0 + 0.5) * 30 / (X1 - X0));
-                    const auto SY = static_cast<Long>(2 + (Y - Y0 + 0.5) * 20 / (Y1 - Y0));
+                    const double A = (X + 0.5) / Scale + 5.4, B = (Y + 0.5) / Scale - 4.0;
+                    const bool In = A >= 0.0 && A < W && B >= 0.0 && B < W;
+                    const auto SX = static_cast<Long>(3 + A * 30 / W);
+                    const auto SY = static_cast<Long>(2 + B * 20 / W);
                     const std::uint32_t Wanted =
                         Bits == 8 ? Colour_8(SY * 40 + SX) : Colour_24(SX, SY);
                     ASSERT_EQ(Shown.At(X, Y), In ? Wanted : Blank)

@@ -46,8 +46,8 @@ TEST_F(View_Squares, AClassShowsItsTextureRoundACorner) {
     const auto First = Copies(Class_Sort::Land);
     ASSERT_EQ(First.size(), 2U);
     EXPECT_EQ(First[0].Source, (Box_Px{0, 0, 256, 256}));
-    EXPECT_EQ(First[0].Dest, (Box_Px{30, 50, 21, 21}));
-    EXPECT_EQ(First[1].Dest, (Box_Px{70, 50, 21, 21}));
+    EXPECT_EQ(First[0].Dest, Edges_Of({30, 50, 21, 21}));
+    EXPECT_EQ(First[1].Dest, Edges_Of({70, 50, 21, 21}));
     EXPECT_TRUE(Canvas.Lines_With(Hatch).empty());
     EXPECT_EQ(First[0].Of, First[1].Of);
     File_Delete(Dir.Path("FS\\012b2su1.bmp"));

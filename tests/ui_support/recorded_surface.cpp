@@ -23,9 +23,8 @@ std::ostream& operator<<(std::ostream& Out, const Surface_Op& Op) {
         case Surface_Op::Kind::Copy:
             Out << "copy";
             Box(Op.Source);
-            Out << " to";
-            Box(Op.Dest);
-            return Out;
+            return Out << " to " << Op.Dest.Left << "," << Op.Dest.Top << " " << Op.Dest.Right
+                       << "," << Op.Dest.Bottom;
         case Surface_Op::Kind::Line:
             return Out << "line " << Op.At << " " << std::hex << Op.With.Colour << std::dec
                        << (Op.With.Style == Line_Style::Dotted ? " dotted " : " solid ")
@@ -44,7 +43,7 @@ void Recorded_Surface::Clear() {
     Ops.push_back({.What = Surface_Op::Kind::Clear});
 }
 
-void Recorded_Surface::Stretch_Copy(const Picture& P, Box_Px Source, Box_Px Dest) {
+void Recorded_Surface::Stretch_Copy(const Picture& P, Box_Px Source, const Edges_Px& Dest) {
     Ops.push_back({.What = Surface_Op::Kind::Copy, .Of = &P, .Source = Source, .Dest = Dest});
 }
 

@@ -13,7 +13,8 @@ struct Surface_Op {
     enum class Kind { Clear, Copy, Line, Refresh, Cursor, Overlay };
     Kind What = Kind::Clear;
     const Picture* Of = nullptr;
-    Box_Px Source = {}, Dest = {};
+    Box_Px Source = {};
+    Edges_Px Dest = {};
     Line_Px At = {};
     Pen With = {};
     Pointer_Shape Shape = Pointer_Shape::Normal;
@@ -30,7 +31,7 @@ public:
     std::vector<Surface_Op> Ops;
 
     void Clear() override;
-    void Stretch_Copy(const Picture& P, Box_Px Source, Box_Px Dest) override;
+    void Stretch_Copy(const Picture& P, Box_Px Source, const Edges_Px& Dest) override;
     void Lines(std::span<const Line_Px> Segments, const Pen& With) override;
     void Refresh() override;
     void Set_Cursor(Pointer_Shape Shape) override;

@@ -1,7 +1,9 @@
 // ui/canvas/map_blit.cpp - the visible part of the map, copied from its tiles.
+//
+// Map pixel K reaches from K to K + 1 in map pixels, and is painted between what Map_To_Pic makes
+// of these, so that map and objects stand under one another at every zoom.
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <vector>
 
 #include "core/program.h"
@@ -11,69 +13,48 @@
 
 namespace {
 
-// The map along one axis: its first pixel in view, where that goes on the canvas, and how many
-// map pixels follow.
-struct Side {
-    Long Source = 0, Dest = 0, Size = 0;
-};
-
-// Nothing when no map is in view.
-std::optional<Side> Side_In_View(Double Origin, Long Map_Size, Long Pic_Size) {
-    Double Source = Origin, Dest = 0.0;
-    if (Source < 0.0) {
-        Dest = -Source * Zoom;
-        Source = 0.0;
-    }
-    Source = std::nearbyint(Source);
-    Dest = std::nearbyint(Dest);
-    if (!(Source <= Map_Size - 1.0 && Dest <= Pic_Size - 1.0)) return std::nullopt;
-    Double Size = Map_Size - Source;
-    if (Size * Zoom > Pic_Size - Dest) Size = std::nearbyint((Pic_Size - Dest) / Zoom);
-    if (Size + Source > Map_Size) Size = Map_Size - Source;
-    return Side{Fix_Lng(Source), Fix_Lng(Dest), Fix_Lng(Size)};
-}
-
 // What one tile gives along one axis.
 struct Piece {
     Long Tile = 0;  // its column or row
     Long Source = 0, Size = 0;
-    Long Dest = 0, Dest_Size = 0;
+    Double From = 0.0, To = 0.0;  // on the canvas
 };
 
-// Each size on the canvas is rounded by itself, and the next tile begins where it ends: no gap
-// opens between tiles at any zoom.
-std::vector<Piece> Pieces_Of(const Side& S, Long Nb) {
+Long Held(Double Map_Px, Long Map_Size) {
+    if (!(Map_Px > 0.0)) return 0;
+    return Map_Px < Map_Size ? Fix_Lng(Map_Px) : Map_Size;
+}
+
+// The map pixels in view along one axis, of which Origin lies at the canvas's edge. The room round
+// the canvas may be a pixel larger than itself, which is always odd.
+std::vector<Piece> Pieces_In_View(Double Origin, Long Map_Size, Long Pic_Size, Long Nb_Tile) {
+    const Long First = Held(std::floor(Origin), Map_Size);
+    const Long End = Held(std::ceil(Origin + (Pic_Size + 1.0) / Zoom), Map_Size);
+    const auto On_Canvas = [Origin](Long Map_Px) { return (Map_Px - Origin) * Zoom; };
     std::vector<Piece> Made;
-    Long Source = S.Source, Dest = S.Dest, Done = 0;
-    for (Long Tile = Source / Tile_Size; Tile < Nb && Done < S.Size; ++Tile) {
-        const Long First = Tile * Tile_Size;
-        const Long Last = std::min(Source + S.Size - Done - 1, First + Tile_Size - 1);
-        const Long Size = Last - Source + 1;
-        const Long Dest_Size = Round_Lng(Size * Zoom);
-        Made.push_back({Tile, Source - First, Size, Dest, Dest_Size});
-        Done += Size;
-        Source += Size;
-        Dest += Dest_Size;
+    Long At = First;
+    for (Long Tile = At / Tile_Size; Tile < Nb_Tile && At < End; ++Tile) {
+        const Long Begin = Tile * Tile_Size, Next = std::min(End, Begin + Tile_Size);
+        Made.push_back({Tile, At - Begin, Next - At, On_Canvas(At), On_Canvas(Next)});
+        At = Next;
     }
     return Made;
 }
 
 void Copy(const Piece& Col, const Piece& Row) {
-    if (Col.Dest_Size == 0 || Row.Dest_Size == 0) return;
     const auto Index = static_cast<std::size_t>(Row.Tile * Nb_Tile_Cols + Col.Tile);
     if (Index >= WPic.size() || WPic[Index].Is_Empty()) return;
-    The_Surface().Stretch_Copy(WPic[Index], {Col.Source, Row.Source, Col.Size, Row.Size},
-                               {Col.Dest, Row.Dest, Col.Dest_Size, Row.Dest_Size});
+    The_Surface().Stretch_Copy(
+        WPic[Index], {Col.Source, Row.Source, Col.Size, Row.Size},
+        {.Left = Col.From, .Top = Row.From, .Right = Col.To, .Bottom = Row.To});
 }
 
 }  // namespace
 
 void Map_Blit_View() {
+    if (!Show_Bitmap) return;
     const Pix Origin = Pic_To_Map({0.0, 0.0});
-    const auto Across = Side_In_View(Origin.X, Map_Width, Pic_Width);
-    const auto Down = Side_In_View(Origin.Y, Map_Height, Pic_Height);
-    if (!Across || !Down || !Show_Bitmap) return;
-    const std::vector<Piece> Cols = Pieces_Of(*Across, Nb_Tile_Cols);
-    for (const Piece& Row : Pieces_Of(*Down, Nb_Tile_Rows))
+    const auto Cols = Pieces_In_View(Origin.X, Map_Width, Pic_Width, Nb_Tile_Cols);
+    for (const Piece& Row : Pieces_In_View(Origin.Y, Map_Height, Pic_Height, Nb_Tile_Rows))
         for (const Piece& Col : Cols) Copy(Col, Row);
 }

@@ -18,6 +18,19 @@ struct Box_Px {
     bool operator==(const Box_Px&) const = default;
 };
 
+/// A part of the canvas whose edges may lie within pixels: pixel X reaches from X to X + 1.
+struct Edges_Px {
+    Double Left = 0.0, Top = 0.0, Right = 0.0, Bottom = 0.0;
+    bool operator==(const Edges_Px&) const = default;
+};
+
+inline Edges_Px Edges_Of(const Box_Px& B) {
+    return {.Left = static_cast<Double>(B.X),
+            .Top = static_cast<Double>(B.Y),
+            .Right = static_cast<Double>(B.X) + B.W,
+            .Bottom = static_cast<Double>(B.Y) + B.H};
+}
+
 struct Line_Px {
     Long X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;
     bool operator==(const Line_Px&) const = default;
@@ -44,8 +57,9 @@ class Surface {
 public:
     virtual ~Surface() = default;
     virtual void Clear() = 0;
-    /// Copies Source of P onto Dest, pixels repeated or left out, without blending.
-    virtual void Stretch_Copy(const Picture& P, Box_Px Source, Box_Px Dest) = 0;
+    /// Copies Source of P onto Dest, pixels repeated or left out, without blending. Copies that
+    /// share an edge leave no gap.
+    virtual void Stretch_Copy(const Picture& P, Box_Px Source, const Edges_Px& Dest) = 0;
     /// Both ends are painted. Lines may lie partly or wholly outside the canvas.
     virtual void Lines(std::span<const Line_Px> Segments, const Pen& With) = 0;
     void Line(Line_Px Segment, const Pen& With) { Lines({&Segment, 1}, With); }
@@ -64,7 +78,7 @@ public:
 class Null_Surface final : public Surface {
 public:
     void Clear() override {}
-    void Stretch_Copy(const Picture&, Box_Px, Box_Px) override {}
+    void Stretch_Copy(const Picture&, Box_Px, const Edges_Px&) override {}
     void Lines(std::span<const Line_Px>, const Pen&) override {}
     void Refresh() override {}
     void Set_Cursor(Pointer_Shape) override {}

@@ -57,7 +57,7 @@ const Picture& Picture_Of(Class_Sort Sort, Byte Num) {
 void Paint_Picture(const Picture& P, const Square_Px& S) {
     The_Surface().Stretch_Copy(
         P, {0, 0, std::min(P.Width, Texture_Side), std::min(P.Height, Texture_Side)},
-        {S.Left, S.Top, S.Right - S.Left + 1, S.Bottom - S.Top + 1});
+        Edges_Of({S.Left, S.Top, S.Right - S.Left + 1, S.Bottom - S.Top + 1}));
 }
 
 template <typename R>

@@ -41,7 +41,7 @@ void Paint_Texture(Long I) {
     if (X1 > Pic_Width || Y1 > Pic_Height || X2 < 0 || Y2 < 0) return;
     if (const Picture* P = Ima_Picture(I))
         The_Surface().Stretch_Copy(*P, {0, 0, P->Width, P->Height},
-                                   {X1, Y1, Length(X1, X2), Length(Y1, Y2)});
+                                   Edges_Of({X1, Y1, Length(X1, X2), Length(Y1, Y2)}));
 }
 
 // By link: the polygon chosen, those of the selected texture, others, and what no link fits.
