@@ -73,8 +73,31 @@ void Confirm_Parameters() {
         if (The_Host().Run_Form("Frm_PGen") == Form_End::Absent) return;
 }
 
-void Open_Command_Line_Project() {
-    if (Cmd_File.empty()) return;
+// What a command line names, without its quotes; "" when it names nothing.
+std::string Named_By(std::string_view Command_Line) {
+    std::string_view Line = Trim(Command_Line);
+    if (Line.size() < Shortest_Command_Line) return {};
+    if (Line.front() == '"') {
+        if (Line.back() != '"') return {};
+        Line = Line.substr(1, Line.size() - 2);
+    }
+    return std::string(Line);
+}
+
+void Tell_No_File(const std::string& Path) {
+    Plain_Box((Dir_Exists(Path)
+                   ? In_Language("This is a directory, not a project: ",
+                                 "Ceci est un r\xE9pertoire, pas un projet : ")
+                   : In_Language("There is no such file: ", "Ce fichier n'existe pas : ")) +
+              Path);
+}
+
+void Open_Command_Line_Project(std::string_view Command_Line) {
+    if (Cmd_File.empty()) {
+        const std::string Named = Named_By(Command_Line);
+        if (!Named.empty()) Tell_No_File(Named);
+        return;
+    }
     The_Host().Set_Pointer(Pointer_Shape::Hourglass);
     Open_Project(Cmd_File);
     The_Host().Set_Pointer(Pointer_Shape::Normal);
@@ -90,13 +113,8 @@ void Set_App_Path(std::string_view App_Dir) {
 }
 
 std::string Command_Line_File(std::string_view Command_Line) {
-    std::string_view Line = Trim(Command_Line);
-    if (Line.size() < Shortest_Command_Line) return {};
-    if (Line.front() == '"') {
-        if (Line.back() != '"') return {};
-        Line = Line.substr(1, Line.size() - 2);
-    }
-    return File_Exists(Line) ? std::string(Line) : std::string();
+    std::string Path = Named_By(Command_Line);
+    return File_Exists(Path) ? Path : std::string();
 }
 
 bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
@@ -116,7 +134,7 @@ bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
     if (Options.Confirmed) Fl1Fois = 1;
     Set_Up_Main_Form();
     Confirm_Parameters();
-    if (!Offer_Restore()) Open_Command_Line_Project();
+    if (!Offer_Restore()) Open_Command_Line_Project(Command_Line);
     return true;
 }
 

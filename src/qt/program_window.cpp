@@ -2,10 +2,13 @@
 #include "qt/program_window.h"
 
 #include <QApplication>
+#include <cstdio>
+#include <string>
 
 #include "core/lifecycle.h"
 #include "core/program.h"
 #include "core/view_calls.h"
+#include "platform/arguments.h"
 #include "platform/program_dir.h"
 #include "qt/boxes.h"
 #include "qt/busy.h"
@@ -37,7 +40,7 @@ void Show_When_Laid_Out(Form_Window& Window) {
 
 }  // namespace
 
-Program_Window::Program_Window(Window_Host& Host) {
+Program_Window::Program_Window(Window_Host& Host) : Host_(Host) {
     Forms_Install();
     Frm_Install();
     Parts_ = std::make_unique<Parts>(Frm());
@@ -50,10 +53,28 @@ Program_Window::~Program_Window() = default;
 
 bool Program_Window::Start(std::string_view Command_Line, std::string_view App_Dir) {
     Show_When_Laid_Out(*Window_);
-    return Program_Start(Command_Line, App_Dir);
+    Host_.Tell_Error_Stream(!Command_Line.empty());
+    const bool Started = Program_Start(Command_Line, App_Dir);
+    Host_.Tell_Error_Stream(false);
+    return Started;
 }
 
-int Program_Run(std::string_view Command_Line) {
+namespace {
+
+// With the quotes that a shell has taken off.
+std::string Command_Line(std::span<const std::string> Project) {
+    const auto Path = Path_Of_Words(Project);
+    if (Path) return '"' + *Path + '"';
+    if (!Project.empty())
+        std::fprintf(stderr,
+                     "terrafold: the path %s has characters that the program cannot write\n",
+                     Project.front().c_str());
+    return {};
+}
+
+}  // namespace
+
+int Program_Run(std::span<const std::string> Project) {
     Program_Reset();
     Window_Host Host;
     const Host_Scope Scope(Host);
@@ -63,6 +84,6 @@ int Program_Run(std::string_view Command_Line) {
         return 1;
     }
     Program_Window Program(Host);
-    if (!Program.Start(Command_Line, *App_Dir)) return 1;
+    if (!Program.Start(Command_Line(Project), *App_Dir)) return 1;
     return QCoreApplication::exec();
 }

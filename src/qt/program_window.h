@@ -2,6 +2,8 @@
 #pragma once
 
 #include <memory>
+#include <span>
+#include <string>
 #include <string_view>
 
 #include "core/host.h"
@@ -23,9 +25,11 @@ public:
 
 private:
     struct Parts;
+    Window_Host& Host_;
     std::unique_ptr<Parts> Parts_;
     Form_Window* Window_;
 };
 
-/// The whole run: 0, or 1 when it could not start. Needs a QApplication.
-int Program_Run(std::string_view Command_Line);
+/// The whole run, with the words of the command line that name a project: 0, or 1 when it could not
+/// start. Needs a QApplication.
+int Program_Run(std::span<const std::string> Project);

@@ -6,9 +6,11 @@
 #include <QScreen>
 #include <QTimer>
 #include <atomic>
+#include <cstdio>
 #include <string>
 #include <thread>
 
+#include "platform/text1252.h"
 #include "qt/boxes.h"
 #include "qt/busy.h"
 #include "qt/form_widget.h"
@@ -54,6 +56,8 @@ void Window_Host::Bring_Up_To_Date() {
 }
 
 Int Window_Host::Show_Box(const Box& B) {
+    if (Tells_Error_Stream_ && B.Style % 16 == Box_Ok)
+        std::fprintf(stderr, "terrafold: %s\n", To_Utf8(As_One_Line(B.Text)).c_str());
     Bring_Up_To_Date();
     const Plain_Pointer Pointer;
     return Show_Message_Box(B, Front(Main_));

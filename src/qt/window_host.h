@@ -14,6 +14,8 @@ public:
     /// The window of the main form, above which boxes and dialogs come up; null before it is
     /// there.
     void Set_Window(Form_Window* Main);
+    /// Whether boxes that ask nothing are told on standard error as well.
+    void Tell_Error_Stream(bool On) { Tells_Error_Stream_ = On; }
 
     Int Show_Box(const Box& B) override;
     std::optional<std::string> Ask_File(const File_Question& Q) override;
@@ -37,5 +39,6 @@ private:
     void Bring_Up_To_Date();
 
     QPointer<Form_Window> Main_;
+    bool Tells_Error_Stream_ = false;
     QElapsedTimer Since_Refresh_;
 };
