@@ -129,6 +129,7 @@ bool Open_Restored(const std::function<bool()>& Load, bool As_On_Disk) {
 
 void Close_View() {
     History_End();
+    Call(The_View.History_Show);
     Journal_End();
     Call(The_View.Forms_Close);
     Call(The_View.Tiles_Remove);

@@ -113,6 +113,8 @@ public:
         Button_->setText(Literal_Caption(C.Caption));
         Button_->setToolButtonStyle(C.Caption.empty() ? Qt::ToolButtonIconOnly
                                                       : Qt::ToolButtonTextBesideIcon);
+        // Ends pressed before it can no longer be: Qt would not paint it anew otherwise.
+        if (C.Value == 0) Button_->setChecked(false);
         Button_->setCheckable(C.Value != 0);
         Button_->setChecked(C.Value != 0);
     }

@@ -403,6 +403,7 @@ private:
         Set_Enabled("Fram_ParmDeb", false);
         Set_Enabled("Cmd_Next_Carte", false);
         Enable_Outputs(false);
+        Set_Focus("Carte");
         The_Draft.Step_Projet_Done = 1;
     }
 
@@ -412,6 +413,7 @@ private:
         Set_Enabled("Cmd_Next_Carte", false);
         Set_Enabled("Fram_Carte", false);
         Enable_Outputs(true);
+        Set_Focus("NameBgl");
         The_Draft.Step_Carte_Done = 1;
     }
 
