@@ -21,10 +21,7 @@ std::size_t Holder(Long I) {
     return static_cast<std::size_t>(I - 1);
 }
 
-}  // namespace
-
-bool Ima_Picture_Load(Long I) {
-    Delete_Temp_Files();
+bool Load(Long I) {
     Picture P;
     std::string Description;
     if (Texture_Read(Tab_Ima[I].DirFic, Pal_Fs5, P, Description) != Texture_Fault::None)
@@ -32,6 +29,13 @@ bool Ima_Picture_Load(Long I) {
     if (WPicIma.size() <= Holder(I)) WPicIma.resize(Holder(I) + 1);
     WPicIma[Holder(I)] = std::move(P);
     return true;
+}
+
+}  // namespace
+
+bool Ima_Picture_Load(Long I) {
+    Delete_Temp_Files();
+    return Load(I);
 }
 
 const Picture* Ima_Picture(Long I) {
@@ -45,7 +49,8 @@ void Ima_Picture_Drop(Long I) {
 
 void Ima_Load() {
     Ima_Unload();
-    for (Long I = 1; I <= Nb_Ima; ++I) Ima_Picture_Load(I);
+    if (Nb_Ima != 0) Delete_Temp_Files();
+    for (Long I = 1; I <= Nb_Ima; ++I) Load(I);
 }
 
 void Ima_Unload() {
