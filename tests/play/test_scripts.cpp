@@ -81,6 +81,10 @@ protected:
         Dir.Write("maps/flat.bmp", Bitmap_Bytes({.Width = 9, .Height = 1}));
         Dir.Write("maps/fine.bmp", Bitmap_Bytes({.Width = 9, .Height = 9, .Bits = 16}));
         Dir.Write("maps/cut.bmp", Bitmap_Bytes({.Width = 9, .Height = 9}).substr(0, 200));
+        if (GetParam() != "new_tiles") return;  // one tile, and a pixel more each way
+        for (const int Side : {2000, 2001})
+            Dir.Write("maps/" + std::to_string(Side) + ".bmp",
+                      Bitmap_Bytes({.Width = Side, .Height = Side, .Bits = 8}));
     }
     std::string Filled(std::string Text) const {
         return Replaced(Replaced(std::move(Text), "@WDIR@", Dir.Path()), "@DIR@",

@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # session.sh PROGRAM EXAMPLE_DIR CLI
 #
-# Works the built program on a virtual screen with real keys and clicks: opens the example,
-# draws, looks about, switches modes, generates, quits. Fails when a picture of the window is empty, a
-# key or click has no effect, what was drawn is not what the player draws, a dialog is left over or the program doesn't end with 0.
+# Works the built program on a virtual screen with real keys and clicks: opens the example, draws,
+# places a texture and links to it, looks about, switches modes, makes a new project of the
+# example's map, generates, quits. Fails when a picture of the window is empty, a key or click has
+# no effect, the player makes something else of the same acts, a dialog is left over or the program
+# doesn't end with 0.
 set -euo pipefail
 
 program=$1
@@ -57,6 +59,28 @@ does() {
 
 key() { xdotool key --clearmodifiers "$@"; }
 
+# Waits for the dialog with that title and gives it the keyboard.
+dialog() {
+    await "the dialog $1" titled "^$1\$"
+    xdotool windowfocus --sync "$(tail -n 1 "$scratch/found")"
+}
+
+# Presses Return in whatever lies above the main window until a command succeeds: a key sent before
+# a box has the focus is lost.
+enter_until() {
+    local box end=$((SECONDS + limit))
+    until "$@"; do
+        [ "$SECONDS" -lt "$end" ] || fail "waited in vain for $*"
+        for box in $(windows); do
+            [ "$box" = "$main" ] && continue
+            xdotool windowfocus "$box" 2>/dev/null && key Return || true
+            boxes=$((boxes + 1))
+        done
+        sleep 0.2
+    done
+}
+boxes=0
+
 is_painted() {
     shot "$scratch/shot.png"
     [ "$(convert "$scratch/shot.png" -format %k info:)" -gt 100 ]
@@ -88,6 +112,7 @@ keep opened
 
 # --- drawing an object with mouse and keys; the player draws the same ----------------------------
 at() { xdotool mousemove --window "$main" "$1" "$2"; }
+at_click() { xdotool mousemove --window "$main" "$1" "$2" click 1; }
 press() { does "a press at $1 $2" xdotool mousemove --window "$main" "$1" "$2" click 1; }
 does "Alt+R" key alt+r
 at 300 300
@@ -111,6 +136,31 @@ press 410 350
 does "Alt+I" key alt+i
 press 440 450
 keep drawn
+
+# --- a texture: placed, sized by a corner, and the example's polygon linked to it -----------------
+convert -size 64x48 gradient:white-black -type TrueColor "BMP3:$scratch/home/Ash.bmp"
+does "the button of textures" at_click 900 37
+at_click 934 37
+at_click 600 500
+dialog "Texture modification/creation"
+key F4
+dialog "Find a texture"
+key Return
+await "the end of the picker" has_windows 2
+dialog "Texture modification/creation"
+key Return
+await "the end of the texture's dialog" has_windows 1
+xdotool windowfocus --sync "$main"
+press 620 520
+at 651 543
+does "sizing" xdotool mousedown 1 mousemove --window "$main" 700 570 mouseup 1
+at_click 999 37
+at 640 560
+xdotool click --repeat 2 --delay 50 1 click 3
+await "the question of the link" has_windows 2
+keep link
+enter_until has_windows 1
+xdotool windowfocus --sync "$main"
 rm "$scratch/Island.LWM"
 key ctrl+s
 await "the saved project" test -s "$scratch/Island.LWM"
@@ -134,17 +184,39 @@ press 428 305
 press 410 350
 key Alt+I
 press 440 450
+click Cmd_TrtIma
+click Cmd_New_Ima
+press 600 500
+dblclick DirFic
+click Cmd_Ok
+click Cmd_Ok
+press 620 520
+release 620 520
+press 651 543
+move 700 570
+release 700 570
+click Cmd_Sel_Crb_Ima
+dblclick 640 560
+answer yes
+press 640 560 right
 write $scratch/played_out.LWM
 END
-# The last object from its first point on: the canvas does not begin where the window does.
-shape() {
-    tr -d '\r' <"$1" | awk '/^0120/ { exit } NF == 2 && /^ / && !/"/ { P[++N] = $1 " " $2 }
+# The last object, the links, and the last texture from that object's first point on: the canvas does
+# not begin where the window does.
+made() {
+    tr -d '\r' <"$1" | awk '/^0(1[2-8]|20)0/ { Section = $1 }
+        Section == "0180" && NF == 7 { Ima = $0 }
+        Section != "" { next }
+        NF == 2 && /^ / && !/"/ { P[++N] = $1 " " $2 }
         NF > 2 { N = 0 }
-        END { split(P[1], A); for (I = 1; I <= N; ++I) { split(P[I], B); print B[1] - A[1], B[2] - A[2] } }'
+        NF == 24 && $11 != 0 { print "link", $11 }
+        END { split(P[1], A); for (I = 1; I <= N; ++I) { split(P[I], B); print B[1] - A[1], B[2] - A[2] }
+            split(Ima, T); print T[1], T[2] - A[1], T[3] - A[2], T[4] - A[1], T[5] - A[2] }'
 }
-[ "$(shape "$scratch/Island.LWM" | wc -l)" -eq 5 ] || fail "not all points were drawn"
-[ "$(shape "$scratch/Island.LWM")" = "$(shape "$scratch/played_out.LWM")" ] ||
-    fail "the window and the player draw different objects"
+[ "$(made "$scratch/Island.LWM" | wc -l)" -eq 7 ] || fail "not all was drawn and linked"
+[ "$(made "$scratch/Island.LWM")" = "$(made "$scratch/played_out.LWM")" ] ||
+    fail "the window and the player make different things"
+does "Ctrl+Z" key ctrl+z # the link: its polygon lies elsewhere, and would keep the mode
 
 # --- looking about and switching modes ---------------------------------------------------------
 does "the wheel" xdotool mousemove --window "$main" 640 430 click 4
@@ -160,44 +232,87 @@ for letter in e l w r d; do
 done
 is_painted || fail "the window is empty"
 
-# --- generating: the compilers are not there, so boxes come up --------------------------------
+# --- a project from nothing, of the example's map -------------------------------------------------
+key ctrl+n
+await "the question before a new project" has_windows 2
+enter_until titled '^New File$'
+choose_file() { # the title of the file dialog, and the name to type
+    key F4
+    dialog "$1"
+    xdotool type --delay 5 "$2"
+    key Return
+    await "the end of the dialog $1" has_windows 2
+    dialog "New File"
+}
+dialog "New File"
+choose_file "File Name" "$scratch/First.LWM"
+key Tab space
+choose_file "Map File" "$scratch/Island.bmp"
+key Tab space
+dialog "Fix NW/SE points in the map"
+key Tab Tab Tab # past the map and its buttons
+for degrees in S36:54:00 W15:25:12 S37:26:24 W14:34:48; do xdotool type --delay 5 "$degrees"; key Tab; done
+keep calibration
+key Return
+await "the end of the calibration" has_windows 2
+dialog "New File"
+key shift+Tab space
+choose_file "BGL name" "$scratch/First.bgl"
+key Tab
+choose_file "BGL name" "$scratch/First_Excl.bgl"
+key Tab # over the added altitude
+for where in Bgl Raw; do
+    key Tab F4
+    dialog "LC and WC $where directory"
+    key Return
+    await "the end of the directory's dialog" has_windows 2
+    dialog "New File"
+done
+keep new_project
+key Tab Return
+await "the new project" titled 'First\.LWM$'
+await "one window" has_windows 1
+xdotool windowfocus --sync "$main"
+
+# --- drawing in it and generating: the compilers are not there, so boxes come up ----------------
+does "Alt+R" key alt+r
+at 300 300
+key alt+n
+dialog "Polygons/Lines"
+key Return
+await "the end of the dialog" has_windows 1
+xdotool windowfocus --sync "$main"
+press 420 310
+press 400 400
+does "Escape" key Escape
+key ctrl+s
+await "the new project's file" test -s "$scratch/First.LWM"
 key alt+g
-answer_boxes() {
-    local box
-    for box in $(windows); do
-        [ "$box" = "$main" ] && continue
-        xdotool windowfocus "$box" 2>/dev/null && key Return || true
-        boxes=$((boxes + 1))
-    done
-    [ -e "$scratch/home/TmpRt.Sca" ] && has_windows 1
+source=Terrafold\$_Poly_LWM.asm
+is_generated() { # no box comes after the last
+    [ "$boxes" -gt 0 ] && [ -s "$scratch/home/$source" ] && has_windows 1 && sleep 0.5 && has_windows 1
 }
 boxes=0
-await "the end of generating" answer_boxes
-[ "$boxes" -gt 0 ] || fail "no message came while generating"
-[ -s "$scratch/home/Terrafold\$_Poly_LWM.asm" ] || fail "nothing was generated"
+enter_until is_generated
+"$cli" generate "$scratch/First.LWM" --app-path "$scratch/other" --dry-run >"$scratch/play.log" ||
+    fail "the command line does not generate"
+undated() { tail -n +3 "$1/$source"; }
+cmp <(undated "$scratch/home") <(undated "$scratch/other") || fail "the window generates something else"
 xdotool windowfocus --sync "$main"
 await "a picture after generating" is_painted
 keep generated
 
 # --- quitting: the question is answered with Yes, which saves ---------------------------------
-rm "$scratch/Island.LWM"
+rm "$scratch/First.LWM"
 key ctrl+q
 await "the question" has_windows 2
 keep question
-# A key sent before the box has the focus is lost, so it is sent until it works.
-end=$((SECONDS + limit))
-while kill -0 "$app" 2>/dev/null; do
-    [ "$SECONDS" -lt "$end" ] || fail "the program did not end"
-    for box in $(windows); do
-        [ "$box" = "$main" ] && continue
-        xdotool windowfocus "$box" 2>/dev/null && key Return || true
-    done
-    sleep 0.2
-done
+has_ended() { ! kill -0 "$app" 2>/dev/null; }
+enter_until has_ended
 status=0
 wait "$app" || status=$?
 app=
 [ "$status" -eq 0 ] || fail "the program ended with $status"
-[ -s "$scratch/Island.LWM" ] || fail "the project was not saved"
+[ -s "$scratch/First.LWM" ] || fail "the project was not saved"
 ! ls "$scratch/home/Temp" | grep -qF '$$$_' || fail "map tiles are left"
 echo "window test: $boxes boxes answered, all well"
