@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstring>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -83,8 +85,25 @@ void Copy_Line_8(const std::uint8_t* From, const Side& Columns, const Colours& O
     for (const std::size_t X : Columns.Taken) *To++ = Of[From[X]];
 }
 
-void Copy_Line_24(const std::uint8_t* From, const Side& Columns, std::uint32_t* To) {
-    for (const std::size_t X : Columns.Taken) {
+// Where a word's lowest byte comes first, a pixel and the byte behind it are read as one, as far as
+// the line goes.
+std::size_t Copy_Words(const std::uint8_t* From, std::size_t Size, const Side& Columns,
+                       std::uint32_t* To) {
+    if constexpr (std::endian::native != std::endian::little) return 0;
+    std::size_t I = 0;
+    for (; I < Columns.Taken.size() && 3 * Columns.Taken[I] + sizeof(std::uint32_t) <= Size; ++I) {
+        std::uint32_t Word;
+        std::memcpy(&Word, From + 3 * Columns.Taken[I], sizeof Word);
+        To[I] = Opaque | Word;
+    }
+    return I;
+}
+
+void Copy_Line_24(const std::uint8_t* From, std::size_t Size, const Side& Columns,
+                  std::uint32_t* To) {
+    const std::size_t Done = Copy_Words(From, Size, Columns, To);
+    To += Done;
+    for (const std::size_t X : std::span(Columns.Taken).subspan(Done)) {
         const std::uint8_t* Bgr = From + 3 * X;
         *To++ = Opaque | static_cast<std::uint32_t>(Bgr[2]) << 16 |
                 static_cast<std::uint32_t>(Bgr[1]) << 8 | Bgr[0];
@@ -191,7 +210,7 @@ void Raster_Copy(const Raster& R, const Picture& P, Box_Px Source, const Edges_P
         else if (P.Bits == 8)
             Copy_Line_8(From, Columns, Of, To);
         else
-            Copy_Line_24(From, Columns, To);
+            Copy_Line_24(From, P.Stride, Columns, To);
     }
 }
 
