@@ -176,22 +176,6 @@ R Record_At(const Cell_Pos& C) {
     return Record;
 }
 
-TEST_F(Cell_Moves, RecordsStayOverTheirPixels) {
-    Tab_Area.Append(Record_At<Area>(At));
-    Tab_Area.Edit(1).Texte = "kept";
-    Tab_Excl.Append(Record_At<Excl>(At));
-    Tab_LC.Append(Record_At<LC_Cell>(At));
-    Tab_WC.Append(Record_At<WC_Cell>(At));
-    Tab_Lod8.Append({At.AreaLon, At.AreaLat});
-    Move_Map(-1.0, -1.0);
-    for (const Cell_Pos& C :
-         {Cell_Pos(Tab_Area[1]), Cell_Pos(Tab_Excl[1]), Cell_Pos(Tab_LC[1]), Cell_Pos(Tab_WC[1])})
-        EXPECT_EQ(C, (Cell_Pos{405, 130, 31, 0}));
-    EXPECT_EQ(Tab_Area[1].Texte, "kept");
-    EXPECT_EQ(Tab_Lod8[1].AreaLon, 406) << "one Cell does not move the centre of an Area out of it";
-    EXPECT_EQ(Tab_Lod8[1].AreaLat, 129);
-}
-
 // Under half a Cell the nearest corner and the Cell of the centre stay; above it they change.
 TEST_F(Cell_Moves, TheCentreOfACellAndTheCornerOfAClassDecide) {
     for (const Double Way : {0.49, 0.51}) {
