@@ -14,6 +14,7 @@
 #include "core/palette.h"
 #include "core/program.h"
 #include "core/project_file.h"
+#include "core/within_memory.h"
 #include "gen/driver.h"
 #include "gen/home_turn.h"
 #include "gen/restore_outputs.h"
@@ -76,6 +77,10 @@ bool Set_Up_App_Path(const Cli_Arguments& A) {
     return true;
 }
 
+int Status_Not_Opened() {
+    return Load_Failed == Load_No_Memory ? Message_Shown : Not_Opened;
+}
+
 bool Open_Typed(const std::string& Typed) {
     const auto Path = Typed_Path(Typed);
     return Path && Load_Project(*Path);
@@ -88,7 +93,7 @@ int With_Home(const Cli_Arguments& A, void (*Work)()) {
     Gen_Install();
     const Home_Turn Turn;
     if (!Turn.Is_Taken()) return Message_Shown;
-    if (!Open_Typed(A.Project)) return Not_Opened;
+    if (!Open_Typed(A.Project)) return Status_Not_Opened();
     Work();
     return Host.Any_Message() ? Message_Shown : All_Well;
 }
@@ -96,7 +101,7 @@ int With_Home(const Cli_Arguments& A, void (*Work)()) {
 int Resave(const Cli_Arguments& A) {
     Cli_Host Host(stdout, true);
     const Host_Scope Scope(Host);
-    if (!Open_Typed(A.Project)) return Not_Opened;
+    if (!Open_Typed(A.Project)) return Status_Not_Opened();
     const auto Target = Typed_Path(A.Target);
     if (!Target) return Wrong_Usage;
     const bool Saved = Save_Project(1, *Target);
@@ -106,7 +111,7 @@ int Resave(const Cli_Arguments& A) {
 int Info(const Cli_Arguments& A) {
     Cli_Host Host(stderr, true);
     const Host_Scope Scope(Host);
-    if (!Open_Typed(A.Project)) return Not_Opened;
+    if (!Open_Typed(A.Project)) return Status_Not_Opened();
     std::fputs(Project_Info().c_str(), stdout);
     return Host.Any_Message() ? Message_Shown : All_Well;
 }
@@ -183,19 +188,8 @@ int Play_Script(const Cli_Arguments& A) {
     return End.Status;
 }
 
-}  // namespace
-
-int Cli_Run(const std::vector<std::string>& Words) {
+int Run(const Cli_Arguments& A) {
     using Command = Cli_Arguments::Command;
-    const Cli_Arguments A = Cli_Parse(Words);
-    if (!A.Error.empty()) {
-        Complain(A.Error + "\nTry terrafold-cli --help");
-        return Wrong_Usage;
-    }
-    if (A.What == Command::Help || A.What == Command::Version) {
-        std::fputs(A.What == Command::Help ? Cli_Help : "terrafold-cli 5.0\n", stdout);
-        return All_Well;
-    }
     Program_Reset();
     const bool Has_Home = Set_Up_App_Path(A);
     if (!Has_Home && Has_Home_Options(A.What)) return Wrong_Usage;
@@ -213,4 +207,22 @@ int Cli_Run(const std::vector<std::string>& Words) {
         default:
             return Info(A);
     }
+}
+
+}  // namespace
+
+int Cli_Run(const std::vector<std::string>& Words) {
+    using Command = Cli_Arguments::Command;
+    const Cli_Arguments A = Cli_Parse(Words);
+    if (!A.Error.empty()) {
+        Complain(A.Error + "\nTry terrafold-cli --help");
+        return Wrong_Usage;
+    }
+    if (A.What == Command::Help || A.What == Command::Version) {
+        std::fputs(A.What == Command::Help ? Cli_Help : "terrafold-cli 5.0\n", stdout);
+        return All_Well;
+    }
+    int Status = Message_Shown;
+    if (!Within_Memory([&] { Status = Run(A); })) Complain("this needs more memory than there is");
+    return Status;
 }

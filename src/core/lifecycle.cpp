@@ -14,6 +14,7 @@
 #include "core/project_file.h"
 #include "core/settings.h"
 #include "core/view_calls.h"
+#include "core/within_memory.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text1252.h"
@@ -67,14 +68,19 @@ void End_Failed_Opening() {
 }
 
 bool Show_Loaded(bool As_On_Disk) {
-    if (The_View.Tiles_Build && !The_View.Tiles_Build()) {
-        End_Failed_Opening();
-        Init_Tables();  // a project without its map can't be worked on
-        return false;
-    }
-    Recent_Update(Nom_Projet, 1);
-    Begin_Editing(As_On_Disk);
-    return true;
+    bool Is_Shown = false;
+    const bool Fits = Within_Memory([&] {
+        if (The_View.Tiles_Build && !The_View.Tiles_Build()) return;
+        Recent_Update(Nom_Projet, 1);
+        Begin_Editing(As_On_Disk);
+        Is_Shown = true;
+    });
+    if (Is_Shown) return true;
+    if (!Fits) Close_View();
+    End_Failed_Opening();
+    Init_Tables();  // a project without its map can't be worked on
+    if (!Fits) Box_No_Memory("The project", "Le projet");
+    return false;
 }
 
 void Open_In_View(std::string_view Path) {

@@ -11,8 +11,9 @@
 
 #include "core/numbers.h"
 
-/// Set by Read_Project_File when the file could not be read.
+/// Set by Read_Project_File when the file could not be read: 1, or Load_No_Memory.
 inline Int Load_Failed = 0;
+inline constexpr Int Load_No_Memory = 2;
 
 /// What the dialog Frm_V24 offers; it is asked for a file of version 4.0. Closing it other
 /// than by Ok clears all four.
@@ -27,8 +28,8 @@ inline Int V24_Upgrade = 0;  // one of the four is set and the file is of versio
 
 /// Reads a project file into the model. On failure shows why and sets Load_Failed: message 30
 /// (no project file, or one of a newer version), a plain box (version below 4.0, or a file
-/// that cannot be read) and leaves the model as it was; message 31 (damaged) and empties it.
-/// Nom_Projet is not touched in any case.
+/// that cannot be read) and leaves the model as it was; message 31 (damaged) or, when memory runs
+/// out, a plain box, and empties it. Nom_Projet is not touched in any case.
 void Read_Project_File(std::string_view Path);
 
 /// The same for the bytes of a project file.

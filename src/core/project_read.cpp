@@ -16,6 +16,7 @@
 #include "core/project_file.h"
 #include "core/project_upgrade.h"
 #include "core/view_calls.h"
+#include "core/within_memory.h"
 #include "platform/files.h"
 
 namespace {
@@ -316,12 +317,19 @@ void Read_Project_Text(std::string_view Text) {
 }
 
 void Read_Project_File(std::string_view Path) {
-    const std::optional<std::string> Text = File_Read(Path);
-    if (Text) {
-        Read_Project_Text(*Text);
-        return;
+    bool Is_There = true;
+    const bool Fits = Within_Memory([&] {
+        const std::optional<std::string> Text = File_Read_Or_Throw(Path);
+        Is_There = Text.has_value();
+        if (Is_There) Read_Project_Text(*Text);
+    });
+    if (Fits && Is_There) return;
+    Load_Failed = Fits ? 1 : Load_No_Memory;
+    if (!Fits) {
+        Reader_Open({});
+        Clear_Model();
+        return Box_No_Memory("The project", "Le projet");
     }
-    Load_Failed = 1;
     Plain_Box(In_Language("The file cannot be read: ", "Le fichier ne peut pas \xEAtre lu : ") +
               std::string(Path));
 }

@@ -3,6 +3,7 @@
 
 #include <new>
 #include <stdexcept>
+#include <string>
 
 /// Does Work. False when memory ran out; what Work had taken is free again then, and whoever
 /// called puts the rest back and tells the user.
@@ -18,5 +19,6 @@ bool Within_Memory(F Work) {
     }
 }
 
-/// A plain box: What, in either language, needs more memory than there is.
+/// What, in either language, needs more memory than there is; and a plain box with that.
+std::string No_Memory_Text(const char* English, const char* French);
 void Box_No_Memory(const char* English, const char* French);

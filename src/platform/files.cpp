@@ -139,21 +139,25 @@ bool Dir_Delete(std::string_view Dir) {
     return Native && fs::is_directory(*Native, Error) && fs::remove(*Native, Error);
 }
 
-std::optional<std::string> File_Read(std::string_view Path) {
+std::optional<std::string> File_Read_Or_Throw(std::string_view Path) {
     std::ifstream In = Open_To_Read(Path);
     if (!In.is_open()) return std::nullopt;
     In.seekg(0, std::ios::end);
     const std::streamoff End = In.tellg();
     In.seekg(0);
     std::string Text;
+    if (!Read_All(In, End > 0 ? static_cast<std::size_t>(End) : 0, Text)) return std::nullopt;
+    return Text;
+}
+
+std::optional<std::string> File_Read(std::string_view Path) {
     try {
-        if (!Read_All(In, End > 0 ? static_cast<std::size_t>(End) : 0, Text)) return std::nullopt;
+        return File_Read_Or_Throw(Path);
     } catch (const std::bad_alloc&) {
         return std::nullopt;
     } catch (const std::length_error&) {
         return std::nullopt;
     }
-    return Text;
 }
 
 namespace {

@@ -41,6 +41,9 @@ bool Dir_Delete(std::string_view Dir);
 /// The whole file, or nothing when it cannot be read.
 std::optional<std::string> File_Read(std::string_view Path);
 
+/// The same, but for a file that memory has no room for: that throws, to be told apart.
+std::optional<std::string> File_Read_Or_Throw(std::string_view Path);
+
 /// Names of the files in a directory, in order of their capitals; names that code page 1252
 /// can't write are left out.
 std::vector<std::string> Dir_Files(std::string_view Dir);

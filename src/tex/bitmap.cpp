@@ -131,8 +131,8 @@ std::string Bitmap_Fault_Text(Bitmap_Fault Fault, std::string_view Path) {
             case Bitmap_Fault::Cut_Short:
                 return In_Language("The bitmap is not complete:", "Le bitmap est incomplet :");
             case Bitmap_Fault::No_Memory:
-                return In_Language("There is not enough memory for the bitmap:",
-                                   "La m\xE9moire ne suffit pas pour le bitmap :");
+                return In_Language("The bitmap needs more memory than there is:",
+                                   "Le bitmap demande plus de m\xE9moire qu'il n'y en a :");
         }
         return "";
     };

@@ -29,8 +29,8 @@ const char* Wording_Of(Texture_Fault Fault) {
                                "Le bitmap de cette texture ne peut pas \xEAtre \xE9"
                                "crit :");
         case Texture_Fault::No_Memory:
-            return In_Language("There is not enough memory for the texture:",
-                               "La m\xE9moire ne suffit pas pour la texture :");
+            return In_Language("The texture needs more memory than there is:",
+                               "La texture demande plus de m\xE9moire qu'il n'y en a :");
     }
     return "";
 }

@@ -10,6 +10,7 @@
 #include "core/program.h"
 #include "core/resets.h"
 #include "core/view_calls.h"
+#include "core/within_memory.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "tex/bitmap.h"
@@ -103,6 +104,31 @@ bool Has_Too_Many_Tiles(const Bitmap_Header& Map) {
            std::numeric_limits<Int>::max();
 }
 
+// A file may be small and its tiles, which are full squares, many: a map one pixel wide. What was
+// painted or scanned has no such shape.
+bool Takes_Too_Much(const Bitmap_Header& Map, std::uint64_t Own, std::uint64_t& Needed) {
+    constexpr std::uint64_t Most_Times = 8, Always_Fits = std::uint64_t{1} << 30;
+    Needed = static_cast<std::uint64_t>(Tile_Count(Map.Width)) *
+             static_cast<std::uint64_t>(Tile_Count(Map.Height)) *
+             static_cast<std::uint64_t>(Tile_Size * Tile_Size * (Map.Bits / 8));
+    return Needed > Always_Fits && Needed / Most_Times > Own;
+}
+
+std::string In_MB(std::uint64_t Bytes) {
+    constexpr std::uint64_t MB = 1000000;
+    return std::to_string(Bytes / MB) + "." + std::to_string(Bytes % MB / (MB / 10)) +
+           In_Language(" MB", " Mo");
+}
+
+std::string Too_Much_Text(std::uint64_t Needed, std::uint64_t Own, std::string_view Path) {
+    return In_Language("The map cannot be cut, its tiles would take ",
+                       "La carte ne peut pas \xEAtre d\xE9"
+                       "coup\xE9"
+                       "e, ses morceaux prendraient ") +
+           In_MB(Needed) + In_Language(", and it has itself ", ", et elle-m\xEAme n'a que ") +
+           In_MB(Own) + ":\r\n" + std::string(Path);
+}
+
 // The size of the map that was cut last, for the project that is being opened.
 struct Cut_Size {
     Long Width = 0, Height = 0;
@@ -151,18 +177,26 @@ void Main_Form_Progress::Set_Visible(std::string_view Frame, bool On) {
 void Map_Split_Tiles(Map_Progress& Progress, std::string_view Path, Int& Error) {
     Error = 1;
     std::string Fault_Text;
-    {
+    const bool Fits = Within_Memory([&] {
         const Hourglass Waiting;
         File_Reader File(Path);
         Bitmap_Header Map;
         const Bitmap_Fault Fault = Bitmap_Header_Read(File, Map);
+        Last_Cut = {Map.Width, Map.Height};
+        std::uint64_t Needed = 0;
         if (Fault != Bitmap_Fault::None)
             Fault_Text = Bitmap_Fault_Text(Fault, Path);
         else if (Has_Too_Many_Tiles(Map))
             Fault_Text = Bitmap_Fault_Text(Bitmap_Fault::Size, Path);
+        else if (Takes_Too_Much(Map, File.Size(), Needed))
+            Fault_Text = Too_Much_Text(Needed, File.Size(), Path);
         else
             Fault_Text = Cut(Progress, File, Map, Path);
-        Last_Cut = {Map.Width, Map.Height};
+    });
+    if (!Fits) {
+        Show_Frame(Progress, false);
+        Map_Delete_Tiles(Last_Cut.Width, Last_Cut.Height);
+        Fault_Text = Bitmap_Fault_Text(Bitmap_Fault::No_Memory, Path);
     }
     if (!Fault_Text.empty()) return Plain_Box(Fault_Text);
     Error = 0;
@@ -188,7 +222,7 @@ bool Map_Load_Tiles() {
     F.Set_Caption("LNbTex", "1");
     Show_Frame(F, true);
     std::string Fault_Text;
-    {
+    const bool Fits = Within_Memory([&] {
         const Hourglass Waiting;
         WPic.assign(static_cast<std::size_t>(std::max<Int>(1, Nb_Tiles)), {});
         for (Int I = 0; I < Nb_Tiles && Fault_Text.empty(); ++I) {
@@ -201,8 +235,9 @@ bool Map_Load_Tiles() {
             const Bitmap_Fault Fault = Read_Tile(Path, WPic[static_cast<std::size_t>(I)]);
             if (Fault != Bitmap_Fault::None) Fault_Text = Bitmap_Fault_Text(Fault, Path);
         }
-        Show_Frame(F, false);
-    }
+    });
+    if (!Fits) Fault_Text = Bitmap_Fault_Text(Bitmap_Fault::No_Memory, Carte);
+    Show_Frame(F, false);
     if (Fault_Text.empty()) return true;
     WPic.assign(1, {});
     Plain_Box(Fault_Text);
