@@ -65,6 +65,10 @@ std::string Standard_Input() {
 // The directory that the program works in, ready for use.
 bool Set_Up_App_Path(const Cli_Arguments& A) {
     const auto Dir = A.App_Dir.empty() ? Find_App_Dir() : Typed_Path(A.App_Dir);
+    if (Dir && !App_Dir_Can_Serve(*Dir)) {
+        Complain("no home of the program can have a quotation mark in its path: " + To_Utf8(*Dir));
+        return false;
+    }
     if (!Dir || !Prepare_App_Dir(*Dir)) {
         Complain(
             "no directory for resources and sources can be written" +

@@ -11,6 +11,7 @@
 #include "core/project_fields.h"
 #include "core/project_file.h"
 #include "platform/clock.h"
+#include "platform/file_owner.h"
 #include "platform/text1252.h"
 
 namespace {
@@ -180,6 +181,16 @@ bool Write_Project_File(Int Save_As, const std::string& Path) {
     return Write_File(Save_As, Path);
 }
 
+// A line with the reason, where it can be told.
+std::string Why_Not_Saved(const std::string& Path) {
+    if (!File_Only_Its_Owner_Replaces(Path)) return {};
+    return std::string("\r\n") +
+           In_Language(
+               "It belongs to another user, and its directory lets only that user replace it.",
+               "Il appartient \xE0 un autre utilisateur, et son r\xE9pertoire ne permet "
+               "qu'\xE0 lui de le remplacer.");
+}
+
 }  // namespace
 
 bool Save_Project(Int Save_As, std::string_view New_Path) {
@@ -197,7 +208,7 @@ bool Save_Project(Int Save_As, std::string_view New_Path) {
     Plain_Box(In_Language("The project could not be saved; the file is as it was before: ",
                           "Le projet n'a pas pu \xEAtre enregistr\xE9 ; le fichier est rest\xE9 "
                           "comme avant : ") +
-              Path);
+              Path + Why_Not_Saved(Path));
     return false;
 }
 

@@ -3,10 +3,12 @@
 #include <filesystem>
 #include <random>
 #include <system_error>
+#include <utility>
 
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/raw_file.h"
+#include "platform/system.h"
 
 namespace fs = std::filesystem;
 
@@ -29,11 +31,30 @@ std::optional<fs::path> Behind_Links(fs::path Path) {
     return std::nullopt;
 }
 
-// Short, so that it fits where a longer name beside it does.
-std::string Temporary_Name(std::uint32_t Number) {
-    char Name[32];
-    std::snprintf(Name, sizeof Name, ".terrafold-%08x.tmp", static_cast<unsigned>(Number));
-    return Name;
+// Numbers from here on are for when each below is another program's.
+constexpr unsigned Nb_Own_Numbers = 4;
+
+// A name beside Target that tells whose it is, so that what a killed program has left is found
+// again. Short and plain whatever Target is called, so that it fits where that does.
+fs::path Temporary_Of(const fs::path& Target, unsigned Number) {
+    std::uint64_t Sum = 0xCBF29CE484222325;
+    for (const char C : Utf8_From_Path(Target.filename()))
+        Sum = (Sum ^ static_cast<unsigned char>(C)) * 0x100000001B3;
+    char Name[48];
+    std::snprintf(Name, sizeof Name, ".terrafold-%016llx-%x.tmp",
+                  static_cast<unsigned long long>(Sum), Number);
+    return Target.parent_path() / Name;
+}
+
+// Deletes what a killed program has left there; what a running one has is locked.
+void Delete_Left(const fs::path& Temporary) {
+    std::error_code Error;
+    {
+        Raw_File Left;
+        if (!Left.Open(Temporary) || !Left.Lock() || !Left.Is_At(Temporary)) return;
+        if (fs::remove(Temporary, Error)) return;
+    }
+    fs::remove(Temporary, Error);  // where a file that is open cannot be deleted
 }
 
 }  // namespace
@@ -51,6 +72,7 @@ struct File_Writer::Handle {
     bool Failed = false;
 
 private:
+    void Make(unsigned Number);
     bool Finish_Safe();
     void Drop();
 
@@ -71,14 +93,25 @@ bool File_Writer::Handle::Open_Safe(const fs::path& Path) {
     if (!End || !File_Replaceable(*End)) return false;
     Target = *End;
     Tell_Step(Save_Step::Create);
+    for (unsigned I = 0; I < Nb_Own_Numbers; ++I) Delete_Left(Temporary_Of(Target, I));
+    for (unsigned I = 0; I < Nb_Own_Numbers && !File.Is_Open(); ++I) Make(I);
     std::random_device Numbers;
-    for (int Tries = 0; Tries < 20 && !File.Is_Open(); ++Tries) {
-        const fs::path Name = Target.parent_path() / Temporary_Name(Numbers());
-        if (File.Create(Name)) Temporary = Name;
-    }
+    for (int Tries = 0; Tries < 20 && !File.Is_Open(); ++Tries) Make(Numbers() | Nb_Own_Numbers);
     if (!File.Is_Open()) return false;
     File.Take_Rights_Of(Target);
     return true;
+}
+
+// Between its making and its lock another program may take the file for one that was left. None
+// does so to those of other numbers, which serve where files can't be locked.
+void File_Writer::Handle::Make(unsigned Number) {
+    fs::path Name = Temporary_Of(Target, Number);
+    if (!File.Create(Name)) return;
+    const bool Is_Ours = File.Lock() && File.Is_At(Name);
+    if (Is_Ours || Number >= Nb_Own_Numbers)
+        Temporary = std::move(Name);
+    else
+        File.Close();
 }
 
 void File_Writer::Handle::Write(std::string_view Bytes) {
@@ -100,9 +133,9 @@ bool File_Writer::Handle::Finish() {
 bool File_Writer::Handle::Finish_Safe() {
     if (Failed) return false;
     Tell_Step(Save_Step::Sync);
-    if (!File.Sync() || !File.Close()) return false;
+    if (!File.Sync()) return false;
     Tell_Step(Save_Step::Rename);
-    if (!File_Replace(Temporary, Target)) return false;
+    if (!File.Replace(Temporary, Target)) return false;
     Temporary.clear();
     Tell_Step(Save_Step::Sync_Dir);
     Dir_Sync(Target.parent_path());

@@ -14,6 +14,11 @@ std::optional<std::string> Own_Dir();
 /// when none of them can be used.
 std::optional<std::string> Find_App_Dir();
 
+/// Whether Dir can be App_Path: command lines of tools hold its path in double quotes.
+inline bool App_Dir_Can_Serve(std::string_view Dir) {
+    return Dir.find('"') == std::string_view::npos;
+}
+
 /// Makes Dir ready to be App_Path: makes it if it is absent, and fills it from the installed
 /// resources what its Resource directory lacks; reference files come only when that has nothing
 /// yet. Never replaces a file. False when it cannot be written.

@@ -20,6 +20,8 @@ public:
     bool Open(const std::filesystem::path& Path);
     /// Locks the open file against every other program that does so; false when one has it.
     bool Lock();
+    /// Whether Path is still a name of the open file.
+    bool Is_At(const std::filesystem::path& Path) const;
     bool Is_Open() const { return Handle_ != None; }
 
     /// Gives the file the owner and permissions of Other, as far as this user may.
@@ -29,6 +31,9 @@ public:
     bool Write(std::string_view Bytes);
     /// Has everything put on the disk.
     bool Sync();
+    /// The open file, whose name is From and which is on the disk, takes the name To; a file of
+    /// that name goes, in the same step. Closed at the end; false when it still is From.
+    bool Replace(const std::filesystem::path& From, const std::filesystem::path& To);
     /// False when the system reports at the end that something was not written.
     bool Close();
 
@@ -40,9 +45,6 @@ private:
 /// Whether a file at Path could be replaced: there is none, or it is a plain file which this
 /// user may write.
 bool File_Replaceable(const std::filesystem::path& Path);
-
-/// From takes the name To; a file of that name goes, in the same step.
-bool File_Replace(const std::filesystem::path& From, const std::filesystem::path& To);
 
 /// Has the names in Dir put on the disk, where the system can do so.
 void Dir_Sync(const std::filesystem::path& Dir);

@@ -79,6 +79,10 @@ int Program_Run(std::span<const std::string> Project) {
     Window_Host Host;
     const Host_Scope Scope(Host);
     const auto App_Dir = Find_App_Dir();
+    if (App_Dir && !App_Dir_Can_Serve(*App_Dir)) {
+        Plain_Box("No home of the program can have a quotation mark in its path:\r\n" + *App_Dir);
+        return 1;
+    }
     if (!App_Dir || !Prepare_App_Dir(*App_Dir)) {
         Plain_Box("No directory for resources and sources can be written");
         return 1;

@@ -50,6 +50,8 @@ TEST(Safe_Save, KilledAtAnyStepLeavesAWholeFile) {
         const bool Renamed =
             Last_Step == '.' || Last_Step - '0' == static_cast<int>(Save_Step::Sync_Dir);
         EXPECT_TRUE(Dir.Read("p.LWM") == (Renamed ? New_Text : Old_Text)) << Steps;
+        EXPECT_TRUE(Save(Dir.Path("p.LWM")));
+        EXPECT_EQ(Dir_Files(Dir.Path()), std::vector<std::string>{"p.LWM"}) << "nothing is left";
     }
     EXPECT_EQ(Steps, "011111234.") << "create, five writes, sync, rename, sync of the directory";
 }

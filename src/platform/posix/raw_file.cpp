@@ -75,6 +75,13 @@ bool Raw_File::Lock() {
     return Result == 0;
 }
 
+bool Raw_File::Is_At(const fs::path& Path) const {
+    struct stat Own {
+    }, Found{};
+    return fstat(static_cast<int>(Handle_), &Own) == 0 && lstat(Path.c_str(), &Found) == 0 &&
+           Own.st_ino == Found.st_ino && Own.st_dev == Found.st_dev;
+}
+
 void Raw_File::Take_Rights_Of(const fs::path& Other) {
     struct stat Old {};
     const int Fd = static_cast<int>(Handle_);
@@ -104,6 +111,13 @@ bool Raw_File::Sync() {
     return Result == 0 || errno == EINVAL || errno == ENOTSUP;  // what can't be synced is not lost
 }
 
+// It is locked until it has its name.
+bool Raw_File::Replace(const fs::path& From, const fs::path& To) {
+    const bool Is_Named = std::rename(From.c_str(), To.c_str()) == 0;
+    Close();
+    return Is_Named;
+}
+
 bool Raw_File::Close() {
     if (!Is_Open()) return true;
     const int Fd = static_cast<int>(Handle_);
@@ -115,10 +129,6 @@ bool File_Replaceable(const fs::path& Path) {
     struct stat Old {};
     if (stat(Path.c_str(), &Old) != 0) return errno == ENOENT;
     return S_ISREG(Old.st_mode) && faccessat(AT_FDCWD, Path.c_str(), W_OK, AT_EACCESS) == 0;
-}
-
-bool File_Replace(const fs::path& From, const fs::path& To) {
-    return std::rename(From.c_str(), To.c_str()) == 0;
 }
 
 void Dir_Sync(const fs::path& Dir) {

@@ -36,6 +36,11 @@ bool Raw_File::Lock() {
     return Is_Open();
 }
 
+// None can take it away from an open file.
+bool Raw_File::Is_At(const fs::path&) const {
+    return Is_Open();
+}
+
 // A new file inherits the rights of its directory, as the old one did.
 void Raw_File::Take_Rights_Of(const fs::path&) {}
 
@@ -54,6 +59,12 @@ bool Raw_File::Sync() {
     return FlushFileBuffers(Handle_Of(Handle_)) != 0;
 }
 
+// No file that is open can be renamed.
+bool Raw_File::Replace(const fs::path& From, const fs::path& To) {
+    return Close() && MoveFileExW(From.c_str(), To.c_str(),
+                                  MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+}
+
 bool Raw_File::Close() {
     if (!Is_Open()) return true;
     const HANDLE Open = Handle_Of(Handle_);
@@ -65,11 +76,6 @@ bool File_Replaceable(const fs::path& Path) {
     const DWORD Attributes = GetFileAttributesW(Path.c_str());
     if (Attributes == INVALID_FILE_ATTRIBUTES) return GetLastError() == ERROR_FILE_NOT_FOUND;
     return (Attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) == 0;
-}
-
-bool File_Replace(const fs::path& From, const fs::path& To) {
-    return MoveFileExW(From.c_str(), To.c_str(),
-                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
 // MOVEFILE_WRITE_THROUGH has seen to it.
