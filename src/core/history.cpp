@@ -28,6 +28,9 @@ struct Step {
     }
 };
 
+// What rows that have changed take of a step, as a rule.
+constexpr std::size_t Bytes_Of_Changed_Pt = 64, Bytes_Of_Changed_Obj = 400;
+
 struct History {
     bool Is_On = false;
     std::tuple<Copy_Of<Obj>, Copy_Of<Pt>, Copy_Of<Area>, Copy_Of<Lod8>, Copy_Of<Excl>,
@@ -302,6 +305,18 @@ bool History_Act_Ended(std::string_view Owner, bool Is_Tick) {
     Journal_Step(Bytes, Joins ? H.Done.back().Kind : Kind, {.Joins_Last = Joins});
     Take_In(std::move(Bytes), Kind, Owner, Joins);
     return true;
+}
+
+void History_Points_Tidied() {
+    History& H = The_History;
+    if (!H.Is_On) return;
+    const std::size_t Size =
+        Copy<Pt>().Row.size() * Bytes_Of_Changed_Pt + Copy<Obj>().Row.size() * Bytes_Of_Changed_Obj;
+    if (H.Done.empty() || Size > History_Limit) {
+        History_Start();
+        return Journal_Begin_Anew();
+    }
+    History_Act_Ended(std::string(H.Done.back().Owner), true);
 }
 
 std::size_t History_Undo_Count() {

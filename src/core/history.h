@@ -27,6 +27,11 @@ bool History_Is_On();
 /// one was Owner's as well. False when nothing has changed.
 bool History_Act_Ended(std::string_view Owner = {}, bool Is_Tick = false);
 
+/// The points have got other rows, which is no act: it belongs to the last step, so that the
+/// steps before it find their rows again. Where there is none, or that would take too much of
+/// what steps may take, they begin anew. Nothing may be there to be done again.
+void History_Points_Tidied();
+
 std::size_t History_Undo_Count();
 std::size_t History_Redo_Count();
 /// The step that Undo or Redo would be about; there must be one.

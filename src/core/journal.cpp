@@ -99,24 +99,16 @@ bool Begin_File(bool With_Model) {
 
 }  // namespace
 
-std::uint64_t Bytes_Sum(std::string_view Bytes) {
-    std::uint64_t Sum = 0x9E3779B97F4A7C15 ^ Bytes.size();
-    while (!Bytes.empty()) {
-        std::uint64_t Word = 0;
-        const std::size_t Count = std::min(Bytes.size(), sizeof Word);
-        std::memcpy(&Word, Bytes.data(), Count);
-        Sum = (Sum ^ Word) * 0xD6E8FEB86659FD93;
-        Sum ^= Sum >> 32;
-        Bytes.remove_prefix(Count);
-    }
-    return Sum;
-}
-
-std::optional<Project_Mark> Project_Mark_Of(std::string_view Path) {
+std::optional<Project_Mark> Project_Mark_Of(std::string_view Path,
+                                            std::optional<std::uint64_t> Sum) {
     const auto Mark = File_Mark_Of(Path);
-    const auto Text = Mark ? File_Read(Path) : std::nullopt;
-    if (!Text) return std::nullopt;
-    return Project_Mark{.Size = Mark->Size, .Time = Mark->Time, .Sum = Bytes_Sum(*Text)};
+    if (!Mark) return std::nullopt;
+    if (!Sum) {
+        const auto Text = File_Read(Path);
+        if (!Text) return std::nullopt;
+        Sum = Bytes_Sum(*Text);
+    }
+    return Project_Mark{.Size = Mark->Size, .Time = Mark->Time, .Sum = *Sum};
 }
 
 std::string Journal_Free_Path(std::string_view Mark) {
@@ -143,16 +135,22 @@ void Journal_Start(bool As_On_Disk) {
     if (!J.As_On_Disk && !Begin_File(true)) Fail();
 }
 
-void Journal_Saved() {
+void Journal_Saved(std::uint64_t Sum_Of_File) {
     Journal_State& J = The_Journal;
     if (!J.Is_On) return;
     History_Act_Ended();
-    J.Base = Project_Mark_Of(Nom_Projet);
+    J.Base = Project_Mark_Of(Nom_Projet, Sum_Of_File);
     // A file does not hold deleted points and the like: reading it would give other rows.
     J.As_On_Disk = J.As_On_Disk && J.Base && !J.Has_Steps;
+    if (!J.As_On_Disk) return Journal_Begin_Anew();
     J.Has_Failed = false;
-    if (J.As_On_Disk) return Drop_File();
-    J.Has_Steps = false;
+    Drop_File();
+}
+
+void Journal_Begin_Anew() {
+    Journal_State& J = The_Journal;
+    if (!J.Is_On) return;
+    J.Has_Failed = J.Has_Steps = J.As_On_Disk = false;
     if (!Begin_File(true)) Fail();
 }
 

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "core/step.h"
+#include "platform/byte_sum.h"
 
 /// How a step came about.
 struct Step_Flags {
@@ -22,8 +23,10 @@ struct Step_Flags {
 /// A project has been opened. As_On_Disk when the model is what the reading of its file gives;
 /// else the journal begins with the whole model.
 void Journal_Start(bool As_On_Disk);
-/// The project has been saved: the journal begins afresh.
-void Journal_Saved();
+/// The project has been saved as a file with that sum: the journal begins afresh.
+void Journal_Saved(std::uint64_t Sum_Of_File);
+/// The model is another now, but by no step: the journal begins afresh with the whole of it.
+void Journal_Begin_Anew();
 /// The project is closed: the journal goes.
 void Journal_End();
 /// What it holds is on the disk when this returns.
@@ -37,9 +40,6 @@ const std::string& Journal_Path();
 /// A path for a journal in App_Path\Temp that no file has: "Journal", Mark, a number.
 std::string Journal_Free_Path(std::string_view Mark);
 
-/// A number that hardly any other bytes have.
-std::uint64_t Bytes_Sum(std::string_view Bytes);
-
 /// A project file as it was when the steps began.
 struct Project_Mark {
     std::uint64_t Size = 0;
@@ -47,8 +47,9 @@ struct Project_Mark {
     std::uint64_t Sum = 0;
     bool operator==(const Project_Mark&) const = default;
 };
-/// Nothing when it cannot be read.
-std::optional<Project_Mark> Project_Mark_Of(std::string_view Path);
+/// Nothing when it cannot be read. Sum is that of its bytes, if it is known already.
+std::optional<Project_Mark> Project_Mark_Of(std::string_view Path,
+                                            std::optional<std::uint64_t> Sum = {});
 
 inline constexpr char Journal_Magic[] = "TfJournl";  // the first eight bytes
 inline constexpr std::uint32_t Journal_Version = 1;

@@ -38,6 +38,7 @@ void Begin_Editing(bool As_On_Disk) {
     Call(The_View.Mode_Area_On);
     Call(The_View.View_Redraw);
     The_Host().Set_Pointer(Pointer_Shape::Normal);
+    Call(The_View.History_Show);
 }
 
 // Ends the open project, or what an attempt at one left; false when the user cancels.
@@ -148,6 +149,7 @@ void Close_View() {
     The_Host().Set_Caption("Frm", Program_Title);
     Projet_Open = 0;
     Edit_On = 0;
+    Call(The_View.History_Show);
 }
 
 void Cmd_New() {

@@ -1,5 +1,7 @@
 // core/project_write.cpp - the model as a project file.
 #include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "core/field_writer.h"
@@ -169,14 +171,16 @@ public:
     Save_Progress& operator=(const Save_Progress&) = delete;
 };
 
-bool Write_File(Int Save_As, const std::string& Path) {
+// The sum of what was written; nothing when it was not.
+std::optional<std::uint64_t> Write_File(Int Save_As, const std::string& Path) {
     File_Writer Out(Path, File_Writer::Mode::Safe);
-    if (!Out.Is_Open()) return false;
+    if (!Out.Is_Open()) return std::nullopt;
     Project_Writer(Out).Write_All(Save_As, Path);
-    return Out.Commit();
+    if (!Out.Commit()) return std::nullopt;
+    return Out.Sum();
 }
 
-bool Write_Project_File(Int Save_As, const std::string& Path) {
+std::optional<std::uint64_t> Write_Project_File(Int Save_As, const std::string& Path) {
     const Save_Progress Progress;
     return Write_File(Save_As, Path);
 }
@@ -201,8 +205,8 @@ bool Save_Project(Int Save_As, std::string_view New_Path) {
         return false;
     }
     const std::string Path = Save_As == 1 ? std::string(New_Path) : Nom_Projet;
-    if (Write_Project_File(Save_As, Path)) {
-        if (Save_As == 0) Journal_Saved();
+    if (const auto Sum = Write_Project_File(Save_As, Path)) {
+        if (Save_As == 0) Journal_Saved(*Sum);
         return true;
     }
     Plain_Box(In_Language("The project could not be saved; the file is as it was before: ",
@@ -213,5 +217,5 @@ bool Save_Project(Int Save_As, std::string_view New_Path) {
 }
 
 bool Write_Model(const std::string& Path) {
-    return Write_File(0, Path);
+    return Write_File(0, Path).has_value();
 }

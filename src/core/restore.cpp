@@ -1,12 +1,15 @@
 // core/restore.cpp - at the start of the program: journals that a crash has left behind.
 #include "core/restore.h"
 
+#include <optional>
 #include <string>
 
 #include "core/history.h"
 #include "core/host.h"
 #include "core/journal_read.h"
 #include "core/lifecycle.h"
+#include "core/model_ops.h"
+#include "core/model_sound.h"
 #include "core/program.h"
 #include "core/project_file.h"
 #include "core/view_calls.h"
@@ -36,6 +39,14 @@ std::string What_It_Holds(const Journal& J) {
            In_Language("Do you want to restore it ?", "Voulez-vous le restaurer ?");
 }
 
+void Tell_Damage() {
+    Plain_Box(
+        In_Language("The journal is damaged: it does not lead to a sound project. Nothing "
+                    "is restored; the project file is as it was. ",
+                    "Le journal est endommag\xE9 : il ne m\xE8ne pas \xE0 un projet sain. "
+                    "Rien n'est restaur\xE9 ; le fichier du projet est rest\xE9 comme avant. "));
+}
+
 // A name beside the project's that no file has.
 std::string Copy_Path(std::string_view Path) {
     std::string Stem(Path.substr(0, Path.rfind('.')));
@@ -50,7 +61,11 @@ bool Load_Base(const Journal& J, const std::string& Path) {
     if (J.Model.empty()) {
         if (!Load_Project(J.Path)) return false;
     } else {
-        if (!History_Set_Model(J.Model)) return false;
+        if (!History_Set_Model(J.Model) || !Model_Is_Sound()) {
+            Model_Reset();
+            Tell_Damage();
+            return false;
+        }
         Projet_Open = 1;
         Call(The_View.Ima_Load);
     }
@@ -58,12 +73,19 @@ bool Load_Base(const Journal& J, const std::string& Path) {
     return true;
 }
 
-// How many records are done again; it stops at one that does not fit.
-std::size_t Do_Steps(const Journal& J) {
+// How many records are done again; it stops at one that does not fit. Nothing is shown before it
+// is known that what they lead to holds together; nothing is done when it does not.
+std::optional<std::size_t> Do_Steps(const Journal& J) {
     std::size_t Done = 0;
     for (const Journal_Entry& E : J.Steps) {
         if (!History_Do(E.Bytes, E.Flags.Joins_Last)) break;
         ++Done;
+    }
+    if (!Model_Is_Sound()) {
+        Model_Reset();
+        Close_View();
+        Tell_Damage();
+        return std::nullopt;
     }
     Call(The_View.Ima_Load);
     Call(The_View.View_Redraw);
@@ -87,13 +109,14 @@ Outcome Restore(const Journal& J) {
     }
     if (!Open_Restored([&] { return Load_Base(J, Path); }, Same && J.Mark && J.Model.empty()))
         return Outcome::Not_Opened;
-    const std::size_t Done = Do_Steps(J);
+    const auto Done = Do_Steps(J);
+    if (!Done) return Outcome::Not_Opened;
     Journal_Sync();
-    if (Done == J.Steps.size()) return Outcome::Restored;
+    if (*Done == J.Steps.size()) return Outcome::Restored;
     Plain_Box(In_Language("Not all steps fit the project file as it is now; restored: ",
                           "Certaines \xE9tapes ne conviennent pas au fichier du projet tel "
                           "qu'il est maintenant ; restaur\xE9 : ") +
-              Number(Done) + " / " + Number(J.Steps.size()));
+              Number(*Done) + " / " + Number(J.Steps.size()));
     return Outcome::Partly;
 }
 

@@ -1,6 +1,7 @@
 // platform/append_file.cpp - the thread that waits for the disk.
 #include "platform/append_file.h"
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
@@ -39,6 +40,13 @@ struct Append_File::Handle {
         Woken.notify_all();
     }
 
+    // A file that is new is not there before its directory is on the disk as well.
+    bool Sync() {
+        if (!File.Sync()) return false;
+        if (Is_New.exchange(false)) Dir_Sync(Dir);
+        return true;
+    }
+
     void Wait_For_Disk() {
         std::unique_lock Held(Mutex);
         for (;;) {
@@ -46,12 +54,14 @@ struct Append_File::Handle {
             if (Woken.wait_for(Held, Sync_After, [this] { return Ends; })) return;
             Is_Dirty = false;
             Held.unlock();
-            File.Sync();
+            Sync();
             Held.lock();
         }
     }
 
     Raw_File File;
+    fs::path Dir;
+    std::atomic<bool> Is_New{false};
     std::mutex Mutex;
     std::condition_variable Woken;
     bool Is_Dirty = false, Ends = false;
@@ -68,6 +78,8 @@ bool Append_File::Create(std::string_view Path) {
     auto H = std::make_unique<Handle>();
     if (!Native || !H->File.Create(*Native)) return false;
     if (!H->File.Lock() || !File_Exists(Path)) return false;
+    H->Dir = Native->parent_path();
+    H->Is_New = true;
     Handle_ = std::move(H);
     return true;
 }
@@ -91,7 +103,7 @@ bool Append_File::Append(std::string_view Bytes) {
 }
 
 bool Append_File::Sync() {
-    return Handle_ && Handle_->File.Sync();
+    return Handle_ && Handle_->Sync();
 }
 
 void Append_File::Close() {

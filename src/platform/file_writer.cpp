@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/byte_sum.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/raw_file.h"
@@ -69,6 +70,7 @@ struct File_Writer::Handle {
 
     Raw_File File;
     Mode How = Mode::In_Place;
+    Byte_Sum Sum;
     bool Failed = false;
 
 private:
@@ -116,7 +118,10 @@ void File_Writer::Handle::Make(unsigned Number) {
 
 void File_Writer::Handle::Write(std::string_view Bytes) {
     if (Failed || !File.Is_Open() || Bytes.empty()) return;
-    if (How == Mode::Safe) Tell_Step(Save_Step::Write);
+    if (How == Mode::Safe) {
+        Tell_Step(Save_Step::Write);
+        Sum.Add(Bytes);
+    }
     Failed = !File.Write(Bytes);
 }
 
@@ -176,4 +181,8 @@ bool File_Writer::Commit() {
     if (!Handle_) return false;
     Flush();
     return Handle_->Finish();
+}
+
+std::uint64_t File_Writer::Sum() const {
+    return Handle_ ? Handle_->Sum.Value() : 0;
 }

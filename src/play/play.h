@@ -2,16 +2,23 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "core/numbers.h"
 #include "play/script.h"
 
+class Form;
+
 struct Play_Options {
     std::string App_Dir;             // prepared; the program's form
     std::string Language = {};       // for this run; empty for that of the settings
     Long Width = 801, Height = 601;  // of the canvas
+    /// Called when the program has started, before anything is played.
+    std::function<void()> At_Start = {};
+    /// Called when all acts of the script are played: one more to the form in front, or nothing.
+    std::function<std::optional<Act>(const Form& Front)> Next_Act = {};
     /// Called when all was played, before the program ends; tests look at it there.
     std::function<void()> At_End = {};
 };

@@ -56,6 +56,7 @@ Play_End Player::Play_All() {
     Take_First_Answers();
     Program_Start({}, Options_.App_Dir,
                   {.Alone = false, .Confirmed = true, .Language = Options_.Language});
+    if (Options_.At_Start) Options_.At_Start();
     Play_While([] { return true; });
     if (Options_.At_End && End_.Status == 0 && !Frm().Is_Closed()) Options_.At_End();
     Over_ = true;
@@ -77,16 +78,22 @@ void Player::Take_First_Answers() {
     }
 }
 
+std::optional<Act> Player::Next_One() {
+    if (Next_ < Script_.Acts.size()) return Script_.Acts[Next_++];
+    if (!Options_.Next_Act || Frm().Is_Closed()) return std::nullopt;
+    return Options_.Next_Act(*Front().Shown);
+}
+
 void Player::Play_While(const std::function<bool()>& Goes_On) {
     while (!Over_ && Goes_On()) {
-        if (Next_ == Script_.Acts.size()) {
+        const std::optional<Act> A = Next_One();
+        if (!A) {
             Over_ = true;
             return;
         }
-        const Act& A = Script_.Acts[Next_++];
-        Line_ = A.Line;
-        if (Frm().Is_Closed() && !Needs_No_Form(A.What)) return Fail("the program has ended");
-        Play_Act(A);
+        Line_ = A->Line;
+        if (Frm().Is_Closed() && !Needs_No_Form(A->What)) return Fail("the program has ended");
+        Play_Act(*A);
         Open_Waiting_Forms();
         End_Free_Forms();
     }

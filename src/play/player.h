@@ -56,6 +56,7 @@ private:
 
     // player.cpp: one act after the other.
     void Take_First_Answers();
+    std::optional<Act> Next_One();
     void Play_While(const std::function<bool()>& Goes_On);
     void Play_Act(const Act& A);
     void Fail(std::string Reason);

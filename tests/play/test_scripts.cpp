@@ -1,5 +1,5 @@
 // tests/play/test_scripts.cpp - every script of tests/scripts is played and must print what stands
-// beside it.
+// beside it; what it did is then undone and done again, with every state between.
 //
 // NAME.txt must print NAME.expected; NAME.2.txt is played after it, in the same home, as the next
 // run of the program. Projects that they write as out_X.LWM are compared with NAME.out_X.LWM,
@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -19,6 +20,8 @@
 #include "platform/files.h"
 #include "platform/text1252.h"
 #include "play/play.h"
+#include "play/random_acts.h"
+#include "play/undo_watch.h"
 #include "support/bitmap_file.h"
 #include "support/golden.h"
 #include "support/program_test.h"
@@ -93,7 +96,11 @@ protected:
     // What a script prints, and last how it ended if it did not go well.
     std::string Output_Of(const fs::path& File) {
         std::string Out;
-        const Play_End End = Play(Script_Read(Filled(Bytes_Of(File))), {.App_Dir = App_Dir_},
+        Undo_Watch Watch(Dir.Path("App\\state.LWM"));
+        const Play_Options Options{.App_Dir = App_Dir_,
+                                   .At_Start = [&] { Watch.Begin(); },
+                                   .At_End = [&] { Watch.Go_There_And_Back(); }};
+        const Play_End End = Play(Script_Read(Filled(Bytes_Of(File))), Options,
                                   [&](std::string_view Line) { Out += std::string(Line) + "\n"; });
         if (End.Status != 0)
             Out += "exit " + std::to_string(End.Status) + " line " + std::to_string(End.Line) +
@@ -126,6 +133,28 @@ TEST_P(Scripts, PrintWhatStandsBesideThem) {
     EXPECT_TRUE(Files_Matching(Dir.Path("App") + "\\Temp\\$$$_", "*").empty()) << "tiles are left";
     Compare_Projects(GetParam());
 }
+
+class Random_Play : public Scripts {};
+
+// Whatever a user does in all modes and dialogs: each state comes back.
+TEST_P(Random_Play, EveryStateComesBack) {
+    const char* Asked = std::getenv("TERRAFOLD_ROUNDS");
+    const long Acts = Asked != nullptr ? std::atol(Asked) : 5000;
+    Lay_Out();
+    Random_Acts Next(static_cast<unsigned>(std::stoi(GetParam())), Acts);
+    Undo_Watch Watch(Dir.Path("App\\state.LWM"));
+    const std::string Text = "file \"" + Dir.Path("small.LWM") + "\"\nclick Mnu_File_Open\n" +
+                             Next.Answers(Acts, {"cancel", Dir.Path("tex/a.bmp")});
+    const Play_End End = Play(Script_Read(Text),
+                              {.App_Dir = App_Dir_,
+                               .At_Start = [&] { Watch.Begin(); },
+                               .Next_Act = [&](const Form& F) { return Next(F); },
+                               .At_End = [&] { Watch.Go_There_And_Back(); }},
+                              [](std::string_view) {});
+    EXPECT_GT(Watch.Nb_States(), 20U) << End.Reason;
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, Random_Play, testing::Values("1", "2", "3"));
 
 INSTANTIATE_TEST_SUITE_P(All, Scripts, testing::ValuesIn(Script_Names()),
                          [](const auto& Info) { return Info.param; });

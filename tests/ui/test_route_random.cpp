@@ -1,5 +1,5 @@
 // tests/ui/test_route_random.cpp - whatever a user does to objects, chains and selection stay
-// whole, and what is saved comes back.
+// whole, and what is saved or undone comes back.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -7,10 +7,12 @@
 #include <set>
 
 #include "core/dialog_flags.h"
+#include "core/history.h"
 #include "core/lifecycle.h"
 #include "core/model.h"
 #include "core/point_pool.h"
 #include "core/project_file.h"
+#include "platform/byte_sum.h"
 #include "ui/canvas/edit_state.h"
 #include "ui/canvas/surface.h"
 #include "ui/canvas/view.h"
@@ -31,6 +33,7 @@ protected:
         const std::string Project = Write_Small_Project(Dir, "small");
         Open_From_Outside(Project);
         Form_Click(Frm(), "Cmd_Saisie_Routes");
+        Act_Ends();
         Host_Of_Test.Forms["Frm_Route"] = [this] {
             if (Below(5) == 0) return Form_End::Closed;
             Prev_Attr = {};
@@ -79,6 +82,18 @@ protected:
         if (!Frm().On_Key(K)) Pic_Key(K);
     }
 
+    // As the window tells of it: a step, or none.
+    void Act_Ends() {
+        History_Act_Ended("Frm");
+        States_.resize(History_Undo_Count() + History_Redo_Count() + 1);
+        State_Now() = Bytes_Sum(History_Whole_Model());
+    }
+    std::uint64_t& State_Now() { return States_.at(History_Undo_Count()); }
+    void Undo_Or_Redo(const char* Button) {
+        Form_Click(Frm(), Button);
+        ASSERT_EQ(Bytes_Sum(History_Whole_Model()), State_Now()) << Button;
+    }
+
     void Act() {
         Host_Of_Test.Box_Answers = {Below(3) == 0 ? Button_Yes : Button_No};
         const unsigned What = Below(100);
@@ -92,14 +107,23 @@ protected:
             Go_Somewhere();
         else if (What < 88)
             Button();
-        else if (What < 99)
+        else if (What < 97)
             Key();
+        else if (What < 99)
+            return Undo_Or_Redo(Below(3) == 0 ? "Cmd_Redo" : "Cmd_Undo");
         else
             Form_Scroll(Frm(), "HScroll", static_cast<Long>(Below(32000)));
+        Act_Ends();
+    }
+
+    void Tidy() {
+        Points_Tidy(0);
+        State_Now() = Bytes_Sum(History_Whole_Model());
     }
 
     std::mt19937 Random_{GetParam()};
     Double X_ = 0.0, Y_ = 0.0;
+    std::vector<std::uint64_t> States_;  // by the steps that can be undone
 };
 
 // The points of object I in order. What Nb_Pts, First_Pt, Last_Pt and Prev say must agree.
@@ -173,15 +197,17 @@ std::vector<Drawn> All_Drawn() {
 
 TEST_P(Route_Random, ChainsAndSelectionStayWholeAndComeBack) {
     const char* Asked = std::getenv("TERRAFOLD_ROUNDS");
-    const long Acts = Asked != nullptr ? std::atol(Asked) : 2500;
+    const long Acts = Asked != nullptr ? std::atol(Asked) : 10000;
     for (long N = 1; N <= Acts && !HasFailure(); ++N) {
         Act();
         SCOPED_TRACE("act " + std::to_string(N));
-        if (N % 100 == 0) Points_Tidy(0);
+        if (N % 100 == 0) Tidy();
         Check_Chains();
         Check_Selection();
     }
-    Points_Tidy(0);
+    while (History_Undo_Count() != 0 && !HasFailure()) Undo_Or_Redo("Cmd_Undo");
+    while (History_Redo_Count() != 0 && !HasFailure()) Undo_Or_Redo("Cmd_Redo");
+    Tidy();
     EXPECT_EQ(Nb_Dead_Pt(), 0);
     Form_Click(Frm(), "Cmd_TrtArea");
     const std::vector<Drawn> Before = All_Drawn();

@@ -112,13 +112,13 @@ void Hold_Point(Long P) {
 }
 
 void Points_Tidy(Long Most) {
-    if (Nb_Dead_Pt() <= Most) return;
+    if (History_Redo_Count() != 0 || Nb_Dead_Pt() <= Most) return;  // that would be lost
     const std::vector<Long> New_Row = Pt_Compact();
     for (Long* Row : {&Sel_Pt, &Sel_Pt2, &Pt_Next, &Pt_Prev}) {
         const auto Old = static_cast<std::size_t>(*Row);
         *Row = Old < New_Row.size() ? New_Row[Old] : 0;
     }
-    if (History_Is_On()) History_Start();  // its steps name rows that are others now
+    History_Points_Tidied();
 }
 
 void Cmd_New_Route() {

@@ -108,6 +108,11 @@ void Form::Set_Caption(std::string_view Control_Name, std::string_view Caption) 
     if (Change(C.Caption, Caption)) Tell(C);
 }
 
+void Form::Set_Tip(std::string_view Control_Name, std::string_view Tip) {
+    Control& C = At(Control_Name);
+    if (Change(C.Tip, Tip)) Tell(C);
+}
+
 void Form::Set_Text(std::string_view Control_Name, std::string_view Text) {
     Control& C = At(Control_Name);
     if (Typed_ == C.Name) Typed_.clear();

@@ -185,6 +185,7 @@ public:
     // --- changing -------------------------------------------------------------------------
     // Setting what is set already tells nobody. None of these calls a handler.
     void Set_Caption(std::string_view Control_Name, std::string_view Caption);
+    void Set_Tip(std::string_view Control_Name, std::string_view Tip);
     void Set_Text(std::string_view Control_Name, std::string_view Text);
     void Set_Value(std::string_view Control_Name, Long Value);
     void Set_Items(std::string_view Control_Name, std::vector<std::string> Items, Long Value);

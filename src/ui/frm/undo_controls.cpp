@@ -14,6 +14,7 @@ void Show(const char* Item, const char* Button, std::string Caption, bool On, st
           Step_Kind (*Next)()) {
     if (Steps != 0) Caption += In_Language(": ", " : ") + Step_Name(Next());
     Frm().Set_Caption(Item, Caption);
+    Frm().Set_Tip(Button, Caption);
     Frm().Set_Enabled(Item, On);
     Frm().Set_Enabled(Button, On);
 }
