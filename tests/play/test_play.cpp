@@ -83,7 +83,6 @@ TEST_F(Play_Test, ActsThatNoUserCouldDo) {
     const std::pair<const char*, const char*> Rows[] = {
         {"click Cmd_Gone", "4 line 1: there is no Cmd_Gone of Frm"},
         {"say a\nclick Cmd_Save\nsay b", "a|4 line 2: Cmd_Save of Frm is disabled"},
-        {"click Mnu_File_Prec(0)", "4 line 1: Mnu_File_Prec(0) of Frm is hidden"},
         {"click LTex2500", "4 line 1: LTex2500 of Frm is hidden"},
         {"click Pic", "4 line 1: Pic is nothing to click"},
         {"choose Cmd_New 0", "4 line 1: Cmd_New has no 0 to choose"},

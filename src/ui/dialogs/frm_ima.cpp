@@ -62,10 +62,7 @@ private:
                  [](const std::string& Text) { return Text.empty() || File_Exists(Text); }),
              .Columns = 48,
              .No_Quotes = true,
-             .On_Choose = [this, I] {
-                 if (Pick_Texture(Cur_Ima.Texture_Name[I]))
-                     Set_Text(Season_Name(I), Cur_Ima.Texture_Name[I]);
-             }});
+             .On_Choose = [this, I] { Choose_Season(I); }});
     }
 
     void Load() {
@@ -86,6 +83,14 @@ private:
         Cur_Ima.Ima_Width = static_cast<Int>(LBmp_Width);
         Cur_Ima.Ima_Height = static_cast<Int>(LBmp_Height);
         Set_Text("DirFic", Path);
+    }
+
+    // The picker begins where the field's text is, be it accepted or not.
+    void Choose_Season(std::size_t I) {
+        std::string Path = (*this)[Season_Name(I)].Text;
+        if (!Pick_Texture(Path)) return;
+        Cur_Ima.Texture_Name[I] = Path;
+        Set_Text(Season_Name(I), Path);
     }
 
     void Ok() {

@@ -83,7 +83,7 @@ private:
             Add_Text({.Name = Texture_Field(I),
                       .Words = {"Texture", "Texture"},
                       .Columns = Path_Columns,
-                      .On_Choose = [this, Name] { Pick(Name); }},
+                      .On_Choose = [this, I, Name] { Pick(I, Name); }},
                      Name, No_File_Or_One);
         }
         Add_Number({.Name = "Layer", .Words = {"Layer:", "Layer:"}, .Columns = 4}, &Area::Layer,
@@ -96,9 +96,10 @@ private:
         return Names;
     }
 
+    // The picker begins where the field's text is, be it accepted or not.
     template <typename Field>
-    void Pick(Field Of) {
-        std::string Path = Differ(Of) ? std::string() : Of(Cur());
+    void Pick(std::size_t I, Field Of) {
+        std::string Path = (*this)[Texture_Field(I)].Text;
         if (Pick_Texture(Path, Texture_Shape::Square)) Change([&](Area& A) { Of(A) = Path; });
     }
     void Take_Class() {

@@ -226,7 +226,6 @@ bool Frm_Drop(std::string_view Path) {
 void Frm_Set_Caption(std::string_view Control, std::string_view Text) {
     if (Control == "Frm") return Frm().Set_Title(Text);
     Frm().Set_Caption(Control, Text);
-    if (Control.starts_with("Mnu_File_Prec")) Frm().Set_Visible(Control, !Text.empty());
 }
 
 void Frm_Set_Enabled(std::string_view Control, bool On) {

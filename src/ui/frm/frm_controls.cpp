@@ -114,9 +114,8 @@ void Add_Menus(Form& F) {
                .Words = M.Caption,
                .Shortcut = M.Shortcut});
     for (int I = 0; I < 4; ++I)
-        F.Add({.Kind = Control_Kind::Menu_Item,
-               .Name = "Mnu_File_Prec(" + std::to_string(I) + ")",
-               .Visible = false});
+        F.Add(
+            {.Kind = Control_Kind::Menu_Item, .Name = "Mnu_File_Prec(" + std::to_string(I) + ")"});
 }
 
 void Add_Tool_Bar(Form& F) {
