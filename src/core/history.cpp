@@ -366,24 +366,6 @@ bool History_Do(std::string_view Bytes, bool Joins_Last) {
     return true;
 }
 
-std::string History_Whole_Model() {
-    Step_Change C;
-    All_Stores Stores;
-    Each_Table([&]<typename T>(Table_Of Which, const Project_Table<T>& Tab) {
-        auto& Store = std::get<Row_Store<T>>(Stores);
-        Table_Change& To = C[Which];
-        for (Long I = 1; I <= Tab.Nb(); ++I)
-            To.Came.push_back({I, Bytes_Of_Packed(Store.emplace_back(Record_Pack(Tab[I])))});
-        To.Nb_After = Tab.Nb();
-        To.Max_After = Tab.Max();
-    });
-    const Packed<Project_Head> Head = Record_Pack(The_Head);
-    const Packed<Calibration> Cal = Record_Pack(The_Calibration);
-    C.Head_Before = C.Head_After = Head;
-    C.Calibration_Before = C.Calibration_After = Bytes_Of_Packed(Cal);
-    return Step_Write(C);
-}
-
 bool History_Set_Model(std::string_view Bytes) {
     const auto C = Step_Read(Bytes);
     if (!C || C->Head_After.empty() || C->Calibration_After.empty()) return false;

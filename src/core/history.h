@@ -48,7 +48,6 @@ bool History_Redo(const Change_Told& Told);
 /// before that step.
 bool History_Do(std::string_view Bytes, bool Joins_Last);
 
-/// The whole model as the step that leads to it from one without any row.
-std::string History_Whole_Model();
-/// Makes the model the one of such a step; false, and nothing changes, when it is none.
+/// Makes the model the one of a step like Step_Of_Whole_Model; false, and nothing changes, when
+/// it is none.
 bool History_Set_Model(std::string_view Bytes);

@@ -31,11 +31,12 @@ const bool Is_Reset = At_Reset([] { The_Journal = {}; });
 
 constexpr int Most_Journals = 1000;
 
-std::string Record(const Byte_Writer& Out) {
-    Byte_Writer Whole;
-    Whole.Put(static_cast<std::uint32_t>(Out.Bytes.size()));
-    Whole.Put(Bytes_Sum(Out.Bytes));
-    return Whole.Bytes + Out.Bytes;
+// What stands before the bytes of a record.
+std::string Record_Head(std::string_view Bytes) {
+    Byte_Writer Out;
+    Out.Put(static_cast<std::uint32_t>(Bytes.size()));
+    Out.Put(Bytes_Sum(Bytes));
+    return std::move(Out.Bytes);
 }
 
 std::string Head() {
@@ -53,8 +54,8 @@ std::string Base_Record(const std::optional<Project_Mark>& Base, bool With_Model
     Out.Put(static_cast<Byte>(Base ? 1 : 0));
     const Project_Mark M = Base.value_or(Project_Mark{});
     Out.Put(M.Size), Out.Put(M.Time), Out.Put(M.Sum);
-    Out.Put_Text(With_Model ? History_Whole_Model() : std::string());
-    return Record(Out);
+    Out.Put_Text(With_Model ? Step_Of_Whole_Model() : std::string());
+    return std::move(Out.Bytes);
 }
 
 // Told once a project: work goes on, and a save begins anew.
@@ -85,7 +86,9 @@ bool Begin_File(bool With_Model) {
         Path = Journal_Free_Path("");
         if (!Path.empty()) File->Create(Path);
     }
-    const bool Whole = File->Is_Open() && File->Append(Head() + Base_Record(J.Base, With_Model));
+    const std::string Base = Base_Record(J.Base, With_Model);
+    const bool Whole =
+        File->Is_Open() && File->Append(Head() + Record_Head(Base)) && File->Append(Base);
     if (File->Is_Open() && !Whole) {
         File.reset();
         File_Delete(Path);
@@ -177,5 +180,5 @@ void Journal_Step(std::string_view Bytes, Step_Kind Kind, Step_Flags Flags) {
     Out.Put(static_cast<Byte>(Flags.Is_Undo ? 1 : Flags.Is_Redo ? 2 : 0));
     Out.Put_Text(Date_Time_Text());
     Out.Put_Text(Bytes);
-    if (!J.File || !J.File->Append(Record(Out))) Fail();
+    if (!J.File || !J.File->Append(Record_Head(Out.Bytes) + Out.Bytes)) Fail();
 }

@@ -93,12 +93,18 @@ std::optional<std::size_t> Do_Steps(const Journal& J) {
     return Done;
 }
 
+// A file that was copied to and fro has another time, and is the same.
+bool Has_Contents_Of(const std::string& Path, const Project_Mark& M) {
+    const auto Now = Project_Mark_Of(Path);
+    return Now && Now->Size == M.Size && Now->Sum == M.Sum;
+}
+
 enum class Outcome { Restored, Partly, Not_Opened, Unwanted };
 
 Outcome Restore(const Journal& J) {
     std::string Path(J.Path);
     if (!Ask(What_It_Holds(J))) return Outcome::Unwanted;
-    const bool Same = J.Mark ? Project_Mark_Of(Path) == J.Mark : !File_Exists(Path);
+    const bool Same = J.Mark ? Has_Contents_Of(Path, *J.Mark) : !File_Exists(Path);
     if (!Same) {
         if (!Ask(In_Language("The project file has changed since, or is gone. Do you want to "
                              "restore into a copy beside it ?",

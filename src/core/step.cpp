@@ -13,6 +13,12 @@ constexpr Byte Head_Follows = Nb_Tables;
 constexpr Byte Calibration_Follows = Nb_Tables + 1;
 constexpr Byte Nothing_Follows = 255;
 
+// About what a row takes of a step in which it came.
+template <typename T>
+constexpr std::size_t Bytes_Of_Row = 8 + Record_Size<T>();
+template <>
+constexpr std::size_t Bytes_Of_Row<Obj> = 160;
+
 bool Is_Ascending(Long& Last, Long At) {
     const bool Higher = At > Last;
     Last = At;
@@ -181,6 +187,30 @@ std::string Step_Write(const Step_Change& C) {
         Out.Put(Calibration_Follows);
         Out.Put_Text(C.Calibration_Before), Out.Put_Text(C.Calibration_After);
     }
+    Out.Put(Nothing_Follows);
+    return std::move(Out.Bytes);
+}
+
+std::string Step_Of_Whole_Model() {
+    Byte_Writer Out;
+    Out.Bytes.reserve(static_cast<std::size_t>(Nb_Pt) * Bytes_Of_Row<Pt> +
+                      static_cast<std::size_t>(Nb_Obj) * Bytes_Of_Row<Obj>);
+    Each_Table([&]<typename T>(Table_Of Which, const Project_Table<T>& Tab) {
+        Out.Put(Which);
+        Out.Put(Long{0}), Out.Put(Tab.Nb()), Out.Put(Long{0}), Out.Put(Tab.Max());
+        Out.Put(std::uint32_t{0}), Out.Put(std::uint32_t{0});  // none gone, none changed
+        Out.Put(static_cast<std::uint32_t>(Tab.Nb()));
+        for (Long I = 1; I <= Tab.Nb(); ++I) {
+            Out.Put(I);
+            Out.Put_Text(Bytes_Of_Packed(Record_Pack(Tab[I])));
+        }
+    });
+    const Packed<Project_Head> Head = Record_Pack(The_Head);
+    const Packed<Calibration> Cal = Record_Pack(The_Calibration);
+    Out.Put(Head_Follows);
+    Out.Put_Text(Head), Out.Put_Text(Head);
+    Out.Put(Calibration_Follows);
+    Out.Put_Text(Bytes_Of_Packed(Cal)), Out.Put_Text(Bytes_Of_Packed(Cal));
     Out.Put(Nothing_Follows);
     return std::move(Out.Bytes);
 }

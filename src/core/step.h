@@ -62,6 +62,9 @@ struct Step_Change {
 std::optional<Step_Change> Step_Read(std::string_view Bytes);
 std::string Step_Write(const Step_Change& Change);
 
+/// The model as the step that leads to it from one without any row.
+std::string Step_Of_Whole_Model();
+
 /// What the user did, as far as the difference tells.
 enum class Step_Kind : Byte {
     Parameters,

@@ -34,7 +34,7 @@ public:
         if (!History_Is_On()) return States_.clear();
         // What an act has changed is a step more; what Undo and Redo lead to was there before.
         const std::size_t At = History_Undo_Count();
-        const std::uint64_t Now = Bytes_Sum(History_Whole_Model());
+        const std::uint64_t Now = Bytes_Sum(Step_Of_Whole_Model());
         if (History_Redo_Count() != 0 && States_.contains(At)) {
             EXPECT_EQ(Now, States_[At]);
         }
@@ -66,7 +66,7 @@ private:
     void Go(void (*Command)(), bool (*Step)(const Change_Told&)) {
         May_Undo() || May_Redo() ? Command() : static_cast<void>(Step(nullptr));
         const std::size_t Steps = History_Undo_Count();
-        ASSERT_EQ(Bytes_Sum(History_Whole_Model()), States_.at(Steps)) << Steps;
+        ASSERT_EQ(Bytes_Sum(Step_Of_Whole_Model()), States_.at(Steps)) << Steps;
     }
 
     std::string Scratch_;

@@ -86,12 +86,12 @@ protected:
     void Act_Ends() {
         History_Act_Ended("Frm");
         States_.resize(History_Undo_Count() + History_Redo_Count() + 1);
-        State_Now() = Bytes_Sum(History_Whole_Model());
+        State_Now() = Bytes_Sum(Step_Of_Whole_Model());
     }
     std::uint64_t& State_Now() { return States_.at(History_Undo_Count()); }
     void Undo_Or_Redo(const char* Button) {
         Form_Click(Frm(), Button);
-        ASSERT_EQ(Bytes_Sum(History_Whole_Model()), State_Now()) << Button;
+        ASSERT_EQ(Bytes_Sum(Step_Of_Whole_Model()), State_Now()) << Button;
     }
 
     void Act() {
@@ -118,7 +118,7 @@ protected:
 
     void Tidy() {
         Points_Tidy(0);
-        State_Now() = Bytes_Sum(History_Whole_Model());
+        State_Now() = Bytes_Sum(Step_Of_Whole_Model());
     }
 
     std::mt19937 Random_{GetParam()};
