@@ -138,10 +138,19 @@ void Journal_Start(bool As_On_Disk) {
     if (!J.As_On_Disk && !Begin_File(true)) Fail();
 }
 
+void Journal_Saving(std::uint64_t Sum_Of_File) {
+    History_Act_Ended();
+    Journal_State& J = The_Journal;
+    if (!J.File || J.Has_Failed) return;
+    Byte_Writer Out;
+    Out.Put(Journal_Record::Save);
+    Out.Put(Sum_Of_File);
+    if (!J.File->Append(Record_Head(Out.Bytes) + Out.Bytes)) Fail();
+}
+
 void Journal_Saved(std::uint64_t Sum_Of_File) {
     Journal_State& J = The_Journal;
     if (!J.Is_On) return;
-    History_Act_Ended();
     J.Base = Project_Mark_Of(Nom_Projet, Sum_Of_File);
     // A file does not hold deleted points and the like: reading it would give other rows.
     J.As_On_Disk = J.As_On_Disk && J.Base && !J.Has_Steps;

@@ -23,6 +23,9 @@ struct Step_Flags {
 /// A project has been opened. As_On_Disk when the model is what the reading of its file gives;
 /// else the journal begins with the whole model.
 void Journal_Start(bool As_On_Disk);
+/// The project is about to be saved as a file with that sum. Should the program end before the
+/// journal begins afresh, the steps are not offered again when the file stands.
+void Journal_Saving(std::uint64_t Sum_Of_File);
 /// The project has been saved as a file with that sum: the journal begins afresh.
 void Journal_Saved(std::uint64_t Sum_Of_File);
 /// The model is another now, but by no step: the journal begins afresh with the whole of it.
@@ -54,4 +57,4 @@ std::optional<Project_Mark> Project_Mark_Of(std::string_view Path,
 inline constexpr char Journal_Magic[] = "TfJournl";  // the first eight bytes
 inline constexpr std::uint32_t Journal_Version = 1;
 inline constexpr std::uint32_t Byte_Order_Mark = 0x01020304;
-enum class Journal_Record : Byte { Base = 1, Step = 2 };
+enum class Journal_Record : Byte { Base = 1, Step = 2, Save = 3 };

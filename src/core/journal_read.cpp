@@ -40,8 +40,16 @@ bool Read_Step(std::string_view Bytes, Journal& J) {
     E.Time = In.Take_Text();
     E.Bytes = In.Take_Text();
     if (In.Failed() || In.Left() != 0) return false;
+    J.Saved_As.reset();
     J.Steps.push_back(E);
     return true;
+}
+
+bool Read_Save(std::string_view Bytes, Journal& J) {
+    Byte_Reader In(Bytes);
+    if (In.Taken<Journal_Record>() != Journal_Record::Save) return false;
+    J.Saved_As = In.Taken<std::uint64_t>();
+    return !In.Failed() && In.Left() == 0;
 }
 
 constexpr const char* Table_Names[Nb_Tables] = {"Tab_Obj",  "Tab_Pt",   "Tab_Area",
@@ -94,7 +102,7 @@ Journal Journal_Read(std::string_view Bytes) {
     J.What = Journal::State::Good;
     while (In.Left() != 0) {
         const auto Record = Next_Record(In);
-        if (!Record || !Read_Step(*Record, J)) break;
+        if (!Record || !(Read_Step(*Record, J) || Read_Save(*Record, J))) break;
     }
     return J;
 }

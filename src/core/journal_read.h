@@ -20,9 +20,10 @@ struct Journal {
     enum class State { Good, Newer, Other_Machine, None } What = State::None;
     std::string_view Path;  // of the project
     std::optional<Project_Mark> Mark;
-    std::string_view Model;            // empty when the project's file has it
-    std::vector<Journal_Entry> Steps;  // all that are whole, up to the first that is not
-    std::size_t Nb_Acts() const;       // steps that stand for themselves
+    std::string_view Model;                 // empty when the project's file has it
+    std::optional<std::uint64_t> Saved_As;  // the sum of the file that was to hold all steps
+    std::vector<Journal_Entry> Steps;       // all that are whole, up to the first that is not
+    std::size_t Nb_Acts() const;            // steps that stand for themselves
 };
 
 /// Anything may be given.

@@ -1,7 +1,6 @@
 // core/project_write.cpp - the model as a project file.
 #include <algorithm>
 #include <cstdint>
-#include <optional>
 #include <string>
 
 #include "core/field_writer.h"
@@ -171,18 +170,25 @@ public:
     Save_Progress& operator=(const Save_Progress&) = delete;
 };
 
-// The sum of what was written; nothing when it was not.
-std::optional<std::uint64_t> Write_File(Int Save_As, const std::string& Path) {
+// Before the file has its name, Sum_Known is told of what is in it.
+template <typename F>
+bool Write_File(Int Save_As, const std::string& Path, F&& Sum_Known) {
     File_Writer Out(Path, File_Writer::Mode::Safe);
-    if (!Out.Is_Open()) return std::nullopt;
+    if (!Out.Is_Open()) return false;
     Project_Writer(Out).Write_All(Save_As, Path);
-    if (!Out.Commit()) return std::nullopt;
-    return Out.Sum();
+    Sum_Known(Out.Sum());
+    return Out.Commit();
 }
 
-std::optional<std::uint64_t> Write_Project_File(Int Save_As, const std::string& Path) {
+bool Write_Project_File(Int Save_As, const std::string& Path) {
     const Save_Progress Progress;
-    return Write_File(Save_As, Path);
+    std::uint64_t Sum = 0;
+    const bool Written = Write_File(Save_As, Path, [&](std::uint64_t Of_File) {
+        Sum = Of_File;
+        if (Save_As == 0) Journal_Saving(Sum);
+    });
+    if (Written && Save_As == 0) Journal_Saved(Sum);
+    return Written;
 }
 
 // A line with the reason, where it can be told.
@@ -205,10 +211,7 @@ bool Save_Project(Int Save_As, std::string_view New_Path) {
         return false;
     }
     const std::string Path = Save_As == 1 ? std::string(New_Path) : Nom_Projet;
-    if (const auto Sum = Write_Project_File(Save_As, Path)) {
-        if (Save_As == 0) Journal_Saved(*Sum);
-        return true;
-    }
+    if (Write_Project_File(Save_As, Path)) return true;
     Plain_Box(In_Language("The project could not be saved; the file is as it was before: ",
                           "Le projet n'a pas pu \xEAtre enregistr\xE9 ; le fichier est rest\xE9 "
                           "comme avant : ") +
@@ -217,5 +220,5 @@ bool Save_Project(Int Save_As, std::string_view New_Path) {
 }
 
 bool Write_Model(const std::string& Path) {
-    return Write_File(0, Path).has_value();
+    return Write_File(0, Path, [](std::uint64_t) {});
 }

@@ -99,6 +99,13 @@ bool Has_Contents_Of(const std::string& Path, const Project_Mark& M) {
     return Now && Now->Size == M.Size && Now->Sum == M.Sum;
 }
 
+// The program ended after a save and before its journal began afresh.
+bool Is_In_The_File(const Journal& J) {
+    if (!J.Saved_As) return false;
+    const auto Now = Project_Mark_Of(J.Path);
+    return Now && Now->Sum == *J.Saved_As;
+}
+
 enum class Outcome { Restored, Partly, Not_Opened, Unwanted };
 
 Outcome Restore(const Journal& J) {
@@ -160,7 +167,7 @@ bool Offer(const std::string& Path) {
                   Path);
         return false;
     }
-    if (J.Steps.empty()) {
+    if (J.Steps.empty() || Is_In_The_File(J)) {
         Drop(Claimed, Path);
         return false;
     }

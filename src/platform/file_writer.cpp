@@ -184,5 +184,8 @@ bool File_Writer::Commit() {
 }
 
 std::uint64_t File_Writer::Sum() const {
-    return Handle_ ? Handle_->Sum.Value() : 0;
+    if (!Handle_) return 0;
+    Byte_Sum All = Handle_->Sum;
+    All.Add(Buffer_);
+    return All.Value();
 }

@@ -83,7 +83,7 @@ public:
     /// Writes what is left, makes a safe file durable and gives it its name. False when any
     /// write failed; a safe file is then dropped. Called again it says the same.
     bool Commit();
-    /// Of all that was written to a safe file, after Commit.
+    /// Of all that was put into a safe file.
     std::uint64_t Sum() const;
 
 private:
