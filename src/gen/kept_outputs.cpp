@@ -30,13 +30,18 @@ struct Note {
     std::string Project, Path;
 };
 
-// Beside FILE.bgl stands FILE.txt: the project, then the path of the output.
+// Beside FILE.bgl stands FILE.txt: the project, then the path of the output. FILE.new alone says
+// the same of an output that was made where none stood.
 std::string Note_Path(std::string_view File) {
     return std::string(File.substr(0, File.size() - 4)) + ".txt";
 }
 
-std::optional<Note> Note_Read(std::string_view File) {
-    const std::optional<std::string> Text = File_Read(Note_Path(File));
+std::string New_Note_Path(std::string_view File) {
+    return std::string(File.substr(0, File.size() - 4)) + ".new";
+}
+
+std::optional<Note> Note_Read(const std::string& Path) {
+    const std::optional<std::string> Text = File_Read(Path);
     if (!Text) return std::nullopt;
     const std::size_t End = Text->find(Line_End), Start = End + Line_End.size();
     if (End == std::string::npos || !Text->ends_with(Line_End) || Start >= Text->size())
@@ -44,9 +49,17 @@ std::optional<Note> Note_Read(std::string_view File) {
     return Note{Text->substr(0, End), Text->substr(Start, Text->size() - Line_End.size() - Start)};
 }
 
-bool Note_Write(std::string_view File, std::string_view Path) {
-    File_Writer Out(Note_Path(File), File_Writer::Mode::In_Place);
-    for (const std::string_view Text : {std::string_view(Nom_Projet), Line_End, Path, Line_End})
+// A path as it holds wherever the program is started.
+std::string Whole_Path(std::string_view Path) {
+    if (Path.starts_with('\\') || Path.find(':') == 1) return std::string(Path);
+    const auto Native = Native_Path(Path);
+    return Native ? Program_Path(*Native).value_or(std::string(Path)) : std::string(Path);
+}
+
+bool Note_Write(std::string_view To, const std::string& Path) {
+    File_Writer Out(To, File_Writer::Mode::In_Place);
+    for (const std::string_view Text :
+         {std::string_view(Nom_Projet), Line_End, std::string_view(Path), Line_End})
         Out.Put(Text);
     return Out.Commit();
 }
@@ -81,12 +94,13 @@ Open_Set& Opened() {
     if (The_Open_Set) return *The_Open_Set;
     Open_Set& Set = The_Open_Set.emplace();
     Dir_Create(Open_Dir());
-    for (const std::string& File : Files_Of_Set(Open_Dir())) {
-        const std::string_view Name = Path_Name(File);
+    for (const std::string& Name : Dir_Files(Open_Dir())) {
         Long Number = 0;
         std::from_chars(Name.data(), Name.data() + Name.size(), Number);
         Set.Last = std::max(Set.Last, Number);
-        if (const auto N = Note_Read(File)) Set.File_Of.emplace(File_Key(N->Path), File);
+    }
+    for (const std::string& File : Files_Of_Set(Open_Dir())) {
+        if (const auto N = Note_Read(Note_Path(File))) Set.File_Of.emplace(File_Key(N->Path), File);
     }
     return Set;
 }
@@ -103,7 +117,7 @@ bool Is_Last_Copy(const Note& N, const Open_Set& Newer) {
 
 bool Keep(std::string_view From, std::string_view Path, Open_Set& Set) {
     const std::string File = Set.Next_File();
-    if (!Note_Write(File, Path) || !File_Move(From, File)) {
+    if (!Note_Write(Note_Path(File), Whole_Path(Path)) || !File_Move(From, File)) {
         File_Delete(Note_Path(File));
         return false;
     }
@@ -127,6 +141,12 @@ bool Kept_Put_Back(std::string_view Path) {
     return true;
 }
 
+void Kept_Note_New(std::string_view Path) {
+    Open_Set& Set = Opened();
+    if (!Set.File_Of.contains(File_Key(Path)))
+        Note_Write(New_Note_Path(Set.Next_File()), Whole_Path(Path));
+}
+
 bool Kept_Is_Open() {
     return Dir_Exists(Open_Dir());
 }
@@ -135,25 +155,28 @@ void Kept_Close() {
     if (!Kept_Is_Open() && !Dir_Exists(Closed_Dir())) return;
     Open_Set& Set = Opened();
     for (const std::string& File : Files_Of_Set(Closed_Dir())) {
-        const auto N = Note_Read(File);
+        const auto N = Note_Read(Note_Path(File));
         if (N && Is_Last_Copy(*N, Set) && !Keep(File, N->Path, Set))
             return;  // all stay as they are
         Forget(File);
     }
-    for (const std::string& Left : Files_Matching(Closed_Dir() + "\\", "*.txt")) File_Delete(Left);
+    for (const char* Pattern : {"*.txt", "*.new"})
+        for (const std::string& Left : Files_Matching(Closed_Dir() + "\\", Pattern))
+            File_Delete(Left);
     Dir_Delete(Closed_Dir());
-    if (Set.File_Of.empty())
-        Dir_Delete(Open_Dir());
-    else
-        File_Rename(Open_Dir(), Closed_Dir());
+    if (!Dir_Delete(Open_Dir())) File_Rename(Open_Dir(), Closed_Dir());
     The_Open_Set.reset();
 }
 
 std::vector<Kept_Output> Kept_Outputs() {
     std::vector<Kept_Output> Outputs;
     for (const std::string& File : Files_Of_Set(Closed_Dir())) {
-        const auto N = Note_Read(File);
+        const auto N = Note_Read(Note_Path(File));
         if (N && Is_Of_Project(*N)) Outputs.push_back({.File = File, .Path = N->Path});
+    }
+    for (const std::string& Path : Files_Matching(Closed_Dir() + "\\", "*.new")) {
+        const auto N = Note_Read(Path);
+        if (N && Is_Of_Project(*N)) Outputs.push_back({.File = {}, .Path = N->Path});
     }
     return Outputs;
 }

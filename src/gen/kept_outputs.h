@@ -18,6 +18,9 @@ bool Kept_Take(std::string_view Path);
 /// Moves what was taken from Path back to it.
 bool Kept_Put_Back(std::string_view Path);
 
+/// Notes in the open set that Path is made where none stood, unless one was taken from there.
+void Kept_Note_New(std::string_view Path);
+
 /// Whether there is an open set.
 bool Kept_Is_Open();
 
@@ -27,7 +30,7 @@ void Kept_Close();
 
 /// An output of a closed set.
 struct Kept_Output {
-    std::string File;  // where it is kept
+    std::string File;  // where it is kept; empty when none stood at Path
     std::string Path;  // where it belongs
 };
 

@@ -122,6 +122,7 @@ void Bgl_Ended(std::string_view Path, bool Have_Run) {
         if (Aside == Path) Kept_Put_Back(Path);
         if (Have_Run) State = Output_State::Missing;
     }
+    if (The_Host().Starts_Tools() && State == Output_State::Made) Kept_Note_New(Path);
     Aside.clear();
     Facts.push_back({.Path = std::string(Path), .State = State});
     if (State == Output_State::Missing) The_Host().Note_File(File_Event::Missing, Path);
