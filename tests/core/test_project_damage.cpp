@@ -150,6 +150,10 @@ TEST_F(Project_Damage, LinesLostDoubledCutAndParted) {
     }
     EXPECT_EQ(Outcome(Gaps), "same");
     EXPECT_EQ(Outcome(Bare), "same");
+    const auto With_Map = [&](std::size_t Size) {
+        return std::string(Whole).replace(Whole.find("C:\\Map.bmp"), 10, Size, 'x');
+    };
+    EXPECT_TRUE(Opens(With_Map(32767)) && !Opens(With_Map(32768))) << "the longest string";
 }
 
 TEST_F(Project_Damage, EveryNumberReplacedAndWhatOpensComesBack) {

@@ -228,6 +228,8 @@ TEST_F(Map_Tiles, MapsThatAreNone) {
     Dir.Write("Map.bmp", Good.substr(0, Good.size() - 1));
     EXPECT_EQ(Split(), 1);
     Expect_Refused(Dir.Path("Map.bmp"));
+    EXPECT_EQ(Split({.Height = 700'000, .Bits = 8}), 1) << "2.8 MB, and tiles of 1.4 GB";
+    Expect_Refused(Dir.Path("Map.bmp"));
     std::filesystem::remove(Dir.Native("Map.bmp"));
     EXPECT_EQ(Split(), 1);
     Expect_Refused(Dir.Path("Map.bmp"));
