@@ -62,6 +62,8 @@ Display_Info Silent_Host::Display() {
     return {};
 }
 
+void Silent_Host::Copy_Text(std::string_view) {}
+
 bool Silent_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
     return Process_Run(Cmd_Line, Show_Mode == 0);
 }

@@ -102,6 +102,8 @@ public:
     /// Lets the window system handle what has come in.
     virtual void Turn() = 0;
     virtual Display_Info Display() = 0;
+    /// Puts a text where other programs can paste it from.
+    virtual void Copy_Text(std::string_view Text) = 0;
 
     /// Runs an outside tool by its command line and waits for it; Show_Mode 0 is hidden. True
     /// when it was started and has ended.
@@ -146,6 +148,7 @@ public:
     void Refresh() override;
     void Turn() override;
     Display_Info Display() override;
+    void Copy_Text(std::string_view Text) override;
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
     bool Is_Dry_Run() const override { return false; }
     bool Starts_Tools() const override { return !Is_Dry_Run(); }

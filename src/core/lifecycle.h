@@ -15,6 +15,7 @@
 struct Start_Options {
     bool Alone = true;          // refused while another instance runs
     bool Confirmed = false;     // the first start counts as confirmed
+    bool Keeps_View = true;     // takes and keeps what was chosen of the view
     std::string Language = {};  // for this run, in the place of that of the settings
 };
 

@@ -34,7 +34,9 @@ struct Program_State {
     Int Edit_On = 0;              // the canvas accepts editing events
     Long Tile_Size = 2000;        // side of a map tile, pixels
     Long Grid_Colour = 0xC0C0C0;  // RGB
-    Int Grid_Colour_Index = 2;    // its place in the colour dialog
+    Int Grid_Colour_Index = 2;    // its place in Grid_Colours
+    Int Kind_Colours = 0;         // objects behind the mode in the colours of their kinds
+    Int Keeps_View = 0;           // what is chosen of the view is for later runs, too
     std::array<Palette_Entry, 256> Pal_Fs5{};
     Int Pal_Lacks = 0;  // 1 from a start without a whole palette file until the user is told
 };
@@ -60,6 +62,8 @@ inline Int& Edit_On = The_Program.Edit_On;
 inline Long& Tile_Size = The_Program.Tile_Size;
 inline Long& Grid_Colour = The_Program.Grid_Colour;
 inline Int& Grid_Colour_Index = The_Program.Grid_Colour_Index;
+inline Int& Kind_Colours = The_Program.Kind_Colours;
+inline Int& Keeps_View = The_Program.Keeps_View;
 inline std::array<Palette_Entry, 256>& Pal_Fs5 = The_Program.Pal_Fs5;
 
 /// English or French wording, as Language says. Both are code page 1252.

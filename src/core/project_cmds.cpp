@@ -17,7 +17,8 @@ constexpr Name With_Project[] = {"Mnu_File_Close",    "Mnu_File_Enreg", "Mnu_Fil
                                  "Cmd_ColourGrid",    "Cmd_Grid",       "Cmd_API",
                                  "Cmd_Saisie_Routes", "Cmd_Excl_Areas", "Cmd_LandClass",
                                  "Cmd_WaterClass",    "Cmd_FSUIPC",     "Cmd_TrtMesh",
-                                 "Cmd_TrtIma",        "HScroll",        "VScroll"};
+                                 "Cmd_TrtIma",        "HScroll",        "VScroll",
+                                 "Mnu_View",          "Txt_Zoom"};
 
 // Of use in an editing mode only, which turns them on.
 constexpr Name Off_At_First[] = {"Cmd_Sup_Route_Ou_Pt", "Cmd_TrtArea", "Cmd_AffTexture",

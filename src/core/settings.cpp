@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "core/grid_colours.h"
 #include "core/host.h"
 #include "core/number_text.h"
 #include "core/program.h"
@@ -65,8 +66,14 @@ void Read_Settings() {
     const std::string Dir = Read("DirFS", "");
     DerRefLu = Read("DerRefLu", "");
     ShowVTP1L = Round_Int(Val(Read("ShowVTP1L", "0")));
+    Kind_Colours = Round_Int(Val(Read("KindColours", "0"))) != 0 ? 1 : 0;
     Set_DirFS(Dir_Exists(Dir) ? Dir : "");
     Find_Simulator();
+}
+
+void Read_View_Settings() {
+    if (const std::string Index = Read("GridColour", ""); !Index.empty())
+        Grid_Colour_Take(Round_Int(Val(Index)));
 }
 
 void Recent_Update(std::string_view Path, Int Mode) {

@@ -13,6 +13,9 @@
 /// directory Scenery.
 void Read_Settings();
 
+/// Reads what was chosen of the view in former runs.
+void Read_View_Settings();
+
 /// The simulator's directory as this computer knows it, with a final backslash; "" when there is
 /// none, or none that holds a directory Scenery.
 std::string Simulator_Found();

@@ -1,6 +1,7 @@
 // core/start_up.cpp - the start of the program and its end.
 #include <optional>
 
+#include "core/grid_colours.h"
 #include "core/history.h"
 #include "core/host.h"
 #include "core/journal.h"
@@ -47,8 +48,7 @@ bool Display_Serves() {
 
 void Set_Up_Main_Form() {
     Tile_Size = 2000;
-    Grid_Colour = 0xC0C0C0;
-    Grid_Colour_Index = 2;
+    Grid_Colour_Take(Usual_Grid_Colour);
     The_Host().Set_Caption("Frm", Program_Title);
     Nom_Projet.clear();
     Call(The_View.Apply_Language);
@@ -105,6 +105,13 @@ void Open_Command_Line_Project(std::string_view Command_Line) {
 
 }  // namespace
 
+void Grid_Colour_Take(Int Index) {
+    if (Index < 0 || static_cast<std::size_t>(Index) >= Grid_Colours.size())
+        Index = Usual_Grid_Colour;
+    Grid_Colour_Index = Index;
+    Grid_Colour = Grid_Colours[static_cast<std::size_t>(Index)];
+}
+
 void Set_App_Path(std::string_view App_Dir) {
     if (App_Dir.ends_with('\\')) App_Dir.remove_suffix(1);
     App_Path = std::string(App_Dir);  // App_Dir may be a view of it
@@ -132,7 +139,9 @@ bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
     Read_Settings();
     if (!Options.Language.empty()) Language = Options.Language;
     if (Options.Confirmed) Fl1Fois = 1;
+    Keeps_View = Options.Keeps_View ? 1 : 0;
     Set_Up_Main_Form();
+    if (Options.Keeps_View) Read_View_Settings();
     Confirm_Parameters();
     if (!Offer_Restore()) Open_Command_Line_Project(Command_Line);
     return true;

@@ -128,6 +128,18 @@ Degrees_Read Read_Igc(std::string_view Text, const Axis& A) {
     return {With_Sign(Value, Last == A.Positive), 0};
 }
 
+// What Minutes_Text writes.
+Degrees_Read Read_Minutes_Text(std::string_view Text, const Axis& A) {
+    const std::size_t Star = Text.find('*');
+    if (Star == std::string_view::npos || !Text.ends_with('\'')) return Refused;
+    if (Text.front() != A.Positive && Text.front() != A.Negative) return Refused;
+    const auto Degrees = Typed_Number(Text.substr(1, Star - 1), {.Min = 0.0, .Max = A.Limit});
+    const auto Minutes =
+        Typed_Number(Text.substr(Star + 1, Text.size() - Star - 2), {.Min = 0.0, .Max = 60.0});
+    if (!Degrees || !Minutes) return Refused;
+    return {With_Sign(*Degrees + *Minutes / 60.0, Text.front() == A.Positive), 0};
+}
+
 Degrees_Typed Read_Typed(std::string_view Text, const Axis& A) {
     Text = Trim(Text);
     if (!Text.empty() && Upper_1252(Text.front()) >= 'A' && Upper_1252(Text.front()) <= 'Z') {
@@ -137,6 +149,17 @@ Degrees_Typed Read_Typed(std::string_view Text, const Axis& A) {
     const auto Deg = Typed_Number(Text, {.Min = -A.Limit, .Max = A.Limit});
     if (!Deg) return {0.0, {}, 1};
     return {*Deg, Seconds_Text(*Deg, A), 0};
+}
+
+Degrees_Read Read_Any(std::string_view Text, const Axis& A) {
+    Text = Trim(Text);
+    Degrees_Read Read = Read_Minutes_Text(Text, A);
+    if (Read.Err != 0) Read = Read_Igc(Text, A);
+    if (Read.Err != 0) {
+        const Degrees_Typed Typed = Read_Typed(Text, A);
+        Read = {Typed.Deg, Typed.Err};
+    }
+    return Read.Err != 0 || std::fabs(Read.Deg) > A.Limit ? Refused : Read;
 }
 
 }  // namespace
@@ -171,6 +194,14 @@ Degrees_Read Igc_To_Lat(std::string_view Text) {
 
 Degrees_Read Igc_To_Lon(std::string_view Text) {
     return Read_Igc(Text, Lon_Axis);
+}
+
+Degrees_Read Any_To_Lat(std::string_view Text) {
+    return Read_Any(Text, Lat_Axis);
+}
+
+Degrees_Read Any_To_Lon(std::string_view Text) {
+    return Read_Any(Text, Lon_Axis);
 }
 
 Double Round_Degrees(Double Deg) {

@@ -36,6 +36,10 @@ Degrees_Read Text_To_Lon(std::string_view Text);
 Degrees_Read Igc_To_Lat(std::string_view Text);
 Degrees_Read Igc_To_Lon(std::string_view Text);
 
+/// Reads a decimal number or any of the forms above. Refused beyond 90 or 180 degrees.
+Degrees_Read Any_To_Lat(std::string_view Text);
+Degrees_Read Any_To_Lon(std::string_view Text);
+
 /// Deg with six decimals, a half going to the even neighbour.
 Double Round_Degrees(Double Deg);
 

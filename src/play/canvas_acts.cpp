@@ -20,6 +20,7 @@ Int Button_Of(const std::string& Word) {
 Int Modifier_Of(const std::string& Word) {
     if (Word == "shift") return Shift_Key;
     if (Word == "ctrl") return Ctrl_Key;
+    if (Word == "space") return Space_Key;
     return Word == "alt" ? Alt_Key : Int{0};
 }
 
@@ -100,5 +101,6 @@ void Player::Wheel(const Act& A) {
     Script_Whole(A.Words[2], Steps);
     Mouse_Event E = Event_At(Mouse_Event::Kind::Wheel, 0, Place_Of(A));
     E.Steps = static_cast<Int>(Steps);
+    if (A.Words.size() > 3) E.Shift = Shift_Key;
     Send(*To, E);
 }

@@ -54,8 +54,9 @@ Play_End Player::Play_All() {
     Open_.push_back({.Shown = &Frm()});
     The_View.Window_Show = [this] { Give_Canvas_Its_Room(Frm()); };
     Take_First_Answers();
-    Program_Start({}, Options_.App_Dir,
-                  {.Alone = false, .Confirmed = true, .Language = Options_.Language});
+    Program_Start(
+        {}, Options_.App_Dir,
+        {.Alone = false, .Confirmed = true, .Keeps_View = false, .Language = Options_.Language});
     if (Options_.At_Start) Options_.At_Start();
     Play_While([] { return true; });
     if (Options_.At_End && End_.Status == 0 && !Frm().Is_Closed()) Options_.At_End();
@@ -301,6 +302,10 @@ void Player::Set_Value(std::string_view Control, Long Value) {
 
 void Player::Set_Focus(std::string_view Control) {
     Frm_Set_Focus(Control);
+}
+
+void Player::Copy_Text(std::string_view Text) {
+    Print("copy " + std::string(Text));
 }
 
 bool Player::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {

@@ -44,6 +44,7 @@ public:
     void Set_Visible(std::string_view Control, bool On) override;
     void Set_Value(std::string_view Control, Long Value) override;
     void Set_Focus(std::string_view Control) override;
+    void Copy_Text(std::string_view Text) override;
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
     void Note_File(File_Event Event, std::string_view Path) override;
 

@@ -38,7 +38,7 @@ bool Is_One_Of(const std::string& Word, std::span<const std::string_view> List) 
 }
 
 constexpr std::array<std::string_view, 3> Buttons{"left", "right", "middle"};
-constexpr std::array<std::string_view, 3> Modifiers{"shift", "ctrl", "alt"};
+constexpr std::array<std::string_view, 4> Modifiers{"shift", "ctrl", "alt", "space"};
 constexpr std::array<std::string_view, 4> Answers{"ok", "cancel", "yes", "no"};
 
 bool Is_Place(Words W) {
@@ -87,7 +87,7 @@ bool Place_Press(Words W) {
     return std::ranges::all_of(Rest, [](const auto& Word) { return Is_One_Of(Word, Modifiers); });
 }
 bool Place_Steps(Words W) {
-    return W.size() == 3 && Is_Place(W) && Is_Whole(W[2]);
+    return (W.size() == 3 || (W.size() == 4 && W[3] == "shift")) && Is_Place(W) && Is_Whole(W[2]);
 }
 bool Answer(Words W) {
     return W.size() == 1 && Is_One_Of(W[0], Answers);
@@ -115,9 +115,10 @@ constexpr Verb_Row Verbs[] = {
     {"drop", Verb::Drop, One, "drop PATH"},
     {"tick", Verb::Tick, Count, "tick [N]"},
     {"move", Verb::Move, Place, "move X Y"},
-    {"press", Verb::Press, Place_Press, "press X Y [left|right|middle] [shift] [ctrl] [alt]"},
+    {"press", Verb::Press, Place_Press,
+     "press X Y [left|right|middle] [shift] [ctrl] [alt] [space]"},
     {"release", Verb::Release, Place_Button, "release X Y [left|right|middle]"},
-    {"wheel", Verb::Wheel, Place_Steps, "wheel X Y STEPS"},
+    {"wheel", Verb::Wheel, Place_Steps, "wheel X Y STEPS [shift]"},
     {"answer", Verb::Answer, Answer, "answer ok|cancel|yes|no"},
     {"file", Verb::File, One, "file PATH or file cancel"},
     {"aircraft", Verb::Aircraft, Aircraft, "aircraft LAT LON, aircraft error N or aircraft none"},
@@ -199,9 +200,10 @@ struct Named_Key {
 };
 
 constexpr Named_Key Named_Keys[] = {
-    {"Enter", Key_Enter},   {"Esc", Key_Escape},     {"Tab", Key_Tab}, {"Delete", Key_Delete},
-    {"Left", Key_Left},     {"Right", Key_Right},    {"Up", Key_Up},   {"Down", Key_Down},
-    {"Pad+", Key_Pad_Plus}, {"Pad-", Key_Pad_Minus}, {"F4", Key_F4}};
+    {"Enter", Key_Enter},    {"Esc", Key_Escape},     {"Tab", Key_Tab}, {"Delete", Key_Delete},
+    {"Left", Key_Left},      {"Right", Key_Right},    {"Up", Key_Up},   {"Down", Key_Down},
+    {"Pad+", Key_Pad_Plus},  {"Pad-", Key_Pad_Minus}, {"F4", Key_F4},   {"PgUp", Key_Page_Up},
+    {"PgDn", Key_Page_Down}, {"Home", Key_Home},      {"+", Key_Plus},  {"-", Key_Minus}};
 
 constexpr std::pair<std::string_view, Int> Key_Modifiers[] = {
     {"Shift+", Shift_Key}, {"Ctrl+", Ctrl_Key}, {"Alt+", Alt_Key}};

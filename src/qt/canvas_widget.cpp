@@ -107,6 +107,10 @@ void Canvas_Widget::Clear() {
     Image_.fill(palette().color(QPalette::Mid));
 }
 
+void Canvas_Widget::Fade(Int Percent) {
+    Raster_Mix(Raster_Of(Image_), palette().color(QPalette::Mid).rgb(), Percent);
+}
+
 void Canvas_Widget::Stretch_Copy(const Picture& P, Box_Px Source, const Edges_Px& Dest) {
     Raster_Copy(Raster_Of(Image_), P, Source, Dest);
 }
@@ -120,7 +124,13 @@ void Canvas_Widget::Refresh() {
 }
 
 void Canvas_Widget::Set_Cursor(Pointer_Shape Shape) {
-    setCursor(Cursor_Of(Shape));
+    Cursor_ = Cursor_Of(Shape);
+    if (!Hand_) setCursor(Cursor_);
+}
+
+void Canvas_Widget::Show_Hand(bool On) {
+    Hand_ = On;
+    setCursor(On ? Qt::OpenHandCursor : Cursor_);
 }
 
 void Canvas_Widget::Overlay_Changed() {

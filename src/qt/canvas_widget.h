@@ -15,6 +15,7 @@ public:
     std::function<void(Long Width, Long Height)> On_Resize = {};
 
     void Clear() override;
+    void Fade(Int Percent) override;
     void Stretch_Copy(const Picture& P, Box_Px Source, const Edges_Px& Dest) override;
     void Lines(std::span<const Line_Px> Segments, const Pen& With) override;
     void Refresh() override;
@@ -22,6 +23,9 @@ public:
     void Overlay_Changed() override;
     void Set_Overlay(const Overlay_Items& Items) override;
     Size_Px Label_Size(const Overlay_Label& L) override;
+
+    /// The pointer is a hand as long as the user may drag the map, whatever Set_Cursor has said.
+    void Show_Hand(bool On);
 
     /// What was painted, without the overlay, in pixels of the screen.
     const QImage& Image() const { return Image_; }
@@ -36,5 +40,7 @@ private:
     void Fit();
 
     QImage Image_;
+    Qt::CursorShape Cursor_ = Qt::ArrowCursor;
+    bool Hand_ = false;
     const Overlay_Items* Overlay_ = &The_Overlay;
 };

@@ -233,14 +233,17 @@ public:
     Menu_Item_Widget(Form_Widget& Owner, const Control& C) {
         Action = new QAction(&Owner);
         Action->setObjectName(Qt_Text(C.Name));
+        Action->setCheckable(C.Checkable);
         Action->setShortcut(QKeySequence(Qt_Text(C.Shortcut), QKeySequence::PortableText));
-        QObject::connect(Action, &QAction::triggered, &Owner, [&Owner, Name = C.Name] {
+        QObject::connect(Action, &QAction::triggered, &Owner, [this, &Owner, Name = C.Name] {
             Owner.Do([&](Form& F) { Form_Click(F, Name); });
+            Follow(Owner.The_Form()[Name]);  // the click alone has turned it
         });
     }
     void Follow(const Control& C) override {
         Action->setText(Literal_Caption(C.Caption));
         Action->setEnabled(C.Enabled);
+        Action->setChecked(C.Value != 0);
         Action->setVisible(C.Visible && !C.Caption.empty());
     }
 };

@@ -31,6 +31,10 @@ bool Is_Field(const Control& C) {
     return C.Kind == Control_Kind::Text || C.Kind == Control_Kind::Number;
 }
 
+bool Is_Clickable(const Control& C) {
+    return C.Kind == Control_Kind::Label && C.On_Click;
+}
+
 bool Has_Mouse(const Control& C) {
     return C.Kind == Control_Kind::Canvas || C.Kind == Control_Kind::Image;
 }
@@ -167,7 +171,10 @@ bool Form_Widget::Open_Menu(char Letter) {
 bool Form_Widget::Key_Pressed(const QKeyEvent& E) {
     const Key_Event K = Key_Of(E);
     Settle_Focus();
-    if (E.key() == Qt::Key_Space && K.Shift == 0) return Space_Pressed();
+    if (E.key() == Qt::Key_Space && K.Shift == 0) {
+        if (Canvas_ != nullptr && window()->focusWidget() == Canvas_) Hold_Space(true);
+        return Space_Held_ || Space_Pressed();
+    }
     if (K.Code == 0) return false;
     bool Used = false;
     Do([&](Form& F) { Used = Form_Key(F, K); });
@@ -190,10 +197,11 @@ bool Form_Widget::Mouse_Used(const QWidget& On, const QEvent& E) {
     const std::string Name = Control_Of(&On);
     if (Name.empty()) return false;
     const Control& C = Form_[Name];
-    if (!Has_Mouse(C) && !Is_Field(C)) return false;
+    if (!Has_Mouse(C) && !Is_Field(C) && !Is_Clickable(C)) return false;
     if (Has_Mouse(C)) {
-        const auto Event = Mouse_Of(E, Wheel_Rest_);
+        auto Event = Mouse_Of(E, Wheel_Rest_);
         if (!Event) return true;
+        if (Space_Held_) Event->Shift = static_cast<Int>(Event->Shift | Space_Key);
         Settle_Focus();
         Do([&](Form& F) { Form_Mouse(F, Name, *Event); });
     }
@@ -201,8 +209,13 @@ bool Form_Widget::Mouse_Used(const QWidget& On, const QEvent& E) {
     return Has_Mouse(C);
 }
 
-// Another window is in front: a button that is let go there is let go unseen.
+void Form_Widget::Hold_Space(bool Held) {
+    if (std::exchange(Space_Held_, Held) != Held) Canvas_->Show_Hand(Held);
+}
+
+// Another window is in front: a button that is let go there is let go unseen, and so is a key.
 void Form_Widget::Leave_Canvas() {
+    Hold_Space(false);
     const QPoint At = Canvas_->mapFromGlobal(QCursor::pos());
     const Mouse_Event Away{
         .What = Mouse_Event::Kind::Away, .X = double(At.x()), .Y = double(At.y())};
@@ -216,7 +229,7 @@ void Form_Widget::Clicked(const QWidget& On, const Control& C, const QEvent& E) 
     if (Mouse.button() != Qt::LeftButton || !On.rect().contains(Mouse.pos())) return;
     if (Double)
         Do([&](Form& F) { Form_Double_Click(F, C.Name); });
-    else if (Has_Mouse(C) || C.Read_Only)
+    else if (Has_Mouse(C) || C.Read_Only || Is_Clickable(C))
         Do([&](Form& F) { Form_Click(F, C.Name); });
 }
 
@@ -234,6 +247,11 @@ bool Form_Widget::eventFilter(QObject* Watched, QEvent* E) {
             QWidget* Focus = window()->focusWidget();
             const bool Has_It = Focus != nullptr ? Focus == Watched : Watched == window();
             return Has_It && Key_Pressed(static_cast<const QKeyEvent&>(*E));
+        }
+        case QEvent::KeyRelease: {
+            const auto& Key = static_cast<const QKeyEvent&>(*E);
+            if (Key.key() == Qt::Key_Space && !Key.isAutoRepeat() && Space_Held_) Hold_Space(false);
+            return false;
         }
         case QEvent::FocusIn:
             if (!Is_Entry(static_cast<const QFocusEvent&>(*E).reason())) return false;

@@ -15,6 +15,7 @@
 #include <string>
 #include <string_view>
 
+#include "qt/input.h"
 #include "ui/form/form.h"
 
 class Canvas_Widget;
@@ -70,6 +71,7 @@ private:
     bool Key_Pressed(const QKeyEvent& E);
     bool Space_Pressed();
     bool Mouse_Used(const QWidget& On, const QEvent& E);
+    void Hold_Space(bool Held);
     void Leave_Canvas();
     void Clicked(const QWidget& On, const Control& C, const QEvent& E);
     void Settle_Focus();
@@ -81,8 +83,9 @@ private:
     std::set<std::string, std::less<>> Changed_;
     QPointer<QMenuBar> Menu_Bar_;
     Canvas_Widget* Canvas_ = nullptr;
-    int Wheel_Rest_ = 0;
-    int Acts_ = 0;  // that are running, one inside the other
+    Wheel_Rest Wheel_Rest_;
+    bool Space_Held_ = false;  // with the focus on the canvas
+    int Acts_ = 0;             // that are running, one inside the other
     bool Flush_Is_Due_ = false;
     bool Settle_Is_Due_ = false;
 };

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
+#include <cstdlib>
 
 namespace {
 
@@ -44,10 +45,18 @@ Key_Code Code_Of(int Key, bool On_Pad) {
             return Key_Delete;
         case Qt::Key_F4:
             return Key_F4;
+        case Qt::Key_PageUp:
+            return Key_Page_Up;
+        case Qt::Key_PageDown:
+            return Key_Page_Down;
+        case Qt::Key_Home:
+            return Key_Home;
         case Qt::Key_Plus:
-            return On_Pad ? Key_Pad_Plus : Key_Code{0};
+            return On_Pad ? Key_Pad_Plus : Key_Plus;
+        case Qt::Key_Equal:  // where plus needs Shift
+            return Key_Plus;
         case Qt::Key_Minus:
-            return On_Pad ? Key_Pad_Minus : Key_Code{0};
+            return On_Pad ? Key_Pad_Minus : Key_Minus;
         default:
             break;
     }
@@ -65,13 +74,18 @@ Mouse_Event Mouse_Of(const QMouseEvent& E, Mouse_Event::Kind What) {
             .Y = E.position().y()};
 }
 
-std::optional<Mouse_Event> Mouse_Of(const QWheelEvent& E, int& Rest) {
-    Rest += E.angleDelta().y();
+// Of the two ways that a touch pad turns at once, the further one.
+std::optional<Mouse_Event> Mouse_Of(const QWheelEvent& E, Wheel_Rest& Both) {
+    const QPoint Turned = E.angleDelta();
+    const bool Sideways = std::abs(Turned.x()) > std::abs(Turned.y());
+    int& Rest = Sideways ? Both.Left : Both.Up;
+    Rest += Sideways ? Turned.x() : Turned.y();
     const int Steps = Rest / Wheel_Step;
     Rest -= Steps * Wheel_Step;
     if (Steps == 0) return std::nullopt;
+    const Int Held = Shift_Of(E.modifiers());
     return Mouse_Event{.What = Mouse_Event::Kind::Wheel,
-                       .Shift = Shift_Of(E.modifiers()),
+                       .Shift = static_cast<Int>(Sideways ? Held | Shift_Key : Held),
                        .X = E.position().x(),
                        .Y = E.position().y(),
                        .Steps = static_cast<Int>(Steps)};
@@ -84,7 +98,7 @@ Key_Event Key_Of(const QKeyEvent& E) {
             .Shift = Shift_Of(E.modifiers())};
 }
 
-std::optional<Mouse_Event> Mouse_Of(const QEvent& E, int& Wheel_Rest) {
+std::optional<Mouse_Event> Mouse_Of(const QEvent& E, Wheel_Rest& Rest) {
     switch (E.type()) {
         case QEvent::MouseButtonPress:
             return Mouse_Of(static_cast<const QMouseEvent&>(E), Mouse_Event::Kind::Press);
@@ -95,7 +109,7 @@ std::optional<Mouse_Event> Mouse_Of(const QEvent& E, int& Wheel_Rest) {
         case QEvent::MouseButtonDblClick:
             return Mouse_Of(static_cast<const QMouseEvent&>(E), Mouse_Event::Kind::Double_Click);
         case QEvent::Wheel:
-            return Mouse_Of(static_cast<const QWheelEvent&>(E), Wheel_Rest);
+            return Mouse_Of(static_cast<const QWheelEvent&>(E), Rest);
         default:
             return std::nullopt;
     }

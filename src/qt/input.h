@@ -11,6 +11,11 @@ class QKeyEvent;
 /// The key; Code is 0 for one that the program has no name for.
 Key_Event Key_Of(const QKeyEvent& E);
 
-/// A press, move, release, double click or turn of the wheel; nothing for another event.
-/// Wheel_Rest keeps the part of a wheel step that is not turned yet.
-std::optional<Mouse_Event> Mouse_Of(const QEvent& E, int& Wheel_Rest);
+/// The parts of wheel steps that are not turned yet.
+struct Wheel_Rest {
+    int Up = 0, Left = 0;
+};
+
+/// A press, move, release, double click or turn of the wheel; nothing for another event. A wheel
+/// that turns sideways turns as with Shift.
+std::optional<Mouse_Event> Mouse_Of(const QEvent& E, Wheel_Rest& Rest);

@@ -13,6 +13,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/grid_colours.h"
+
 namespace {
 
 constexpr std::uint32_t Opaque = 0xFF000000U;
@@ -163,6 +165,13 @@ Range Seen(const Run& M, double Slope, const Brush& With) {
             static_cast<std::int64_t>(std::floor(To + 0.5)) - 1};
 }
 
+// Black or white, whichever is further from a colour's brightness.
+std::uint32_t Against(std::uint32_t Found) {
+    const std::uint32_t Red = Found >> 16 & 0xFF, Green = Found >> 8 & 0xFF, Blue = Found & 0xFF;
+    return Red * 299 + Green * 587 + Blue * 114 < 127500 ? 0xFFFFFFFFU : Opaque;
+}
+
+template <bool By_Contrast>
 void Paint_Run(std::uint32_t* Pixels, const Run& M, const Brush& With) {
     constexpr double One = 4294967296.0;  // B is counted in 32 places behind the point
     const double Slope = M.A2 == M.A1 ? 0.0 : (M.B2 - M.B1) / (M.A2 - M.A1);
@@ -181,7 +190,7 @@ void Paint_Run(std::uint32_t* Pixels, const Run& M, const Brush& With) {
         std::uint32_t* Across = Pixels + A * M.Step_A;
         const std::int64_t End = std::min(First + With.Thick, M.Size_B);
         for (std::int64_t I = std::max<std::int64_t>(First, 0); I < End; ++I)
-            Across[I * M.Step_B] = With.Colour;
+            Across[I * M.Step_B] = By_Contrast ? Against(Across[I * M.Step_B]) : With.Colour;
     }
 }
 
@@ -214,6 +223,20 @@ void Raster_Copy(const Raster& R, const Picture& P, Box_Px Source, const Edges_P
     }
 }
 
+// Red and blue are mixed in one number, green in another; 256 parts are the whole.
+void Raster_Mix(const Raster& R, std::uint32_t Colour, Int Percent) {
+    constexpr std::uint32_t Outer = 0xFF00FF, Middle = 0x00FF00;
+    const auto Stays = static_cast<std::uint32_t>(Percent * 256 / 100);
+    const std::uint32_t Outer_Of_Other = (Colour & Outer) * (256 - Stays);
+    const std::uint32_t Middle_Of_Other = (Colour & Middle) * (256 - Stays);
+    for (Long Y = 0; Y < R.Height; ++Y) {
+        std::uint32_t* Line = R.Pixels + Y * R.Stride;
+        for (Long X = 0; X < R.Width; ++X)
+            Line[X] = Opaque | (((Line[X] & Outer) * Stays + Outer_Of_Other) >> 8 & Outer) |
+                      (((Line[X] & Middle) * Stays + Middle_Of_Other) >> 8 & Middle);
+    }
+}
+
 void Raster_Lines(const Raster& R, std::span<const Line_Px> Segments, const Pen& With) {
     const auto Pixels = [&R](Int Wide) {
         return std::max<std::int64_t>(1, std::lround(static_cast<double>(Wide) * R.Scale));
@@ -223,9 +246,10 @@ void Raster_Lines(const Raster& R, std::span<const Line_Px> Segments, const Pen&
                   .Unit = Pixels(1),
                   .Beat = Rhythm_Of(With.Style),
                   .Scale = R.Scale};
+    const auto Paint = With.Colour == Contrast_Colour ? Paint_Run<true> : Paint_Run<false>;
     const Line_Px* Before = nullptr;
     for (const Line_Px& L : Segments) {
-        if (Before == nullptr || !Is_Painted(L, *Before)) Paint_Run(R.Pixels, Make_Run(R, L), B);
+        if (Before == nullptr || !Is_Painted(L, *Before)) Paint(R.Pixels, Make_Run(R, L), B);
         Before = &L;
     }
 }

@@ -22,5 +22,9 @@ struct Raster {
 /// source pixel take its colour. What Source has outside P is left out.
 void Raster_Copy(const Raster& R, const Picture& P, Box_Px Source, const Edges_Px& Dest);
 
-/// Both ends are painted. A dotted line has one pixel in three, a dashed one six in nine.
+/// Mixes every pixel with Colour: Percent of the pixel stays.
+void Raster_Mix(const Raster& R, std::uint32_t Colour, Int Percent);
+
+/// Both ends are painted. A pen of Contrast_Colour paints each pixel against what it finds there. A
+/// dotted line has one pixel in three, a dashed one six in nine.
 void Raster_Lines(const Raster& R, std::span<const Line_Px> Segments, const Pen& With);

@@ -2,6 +2,7 @@
 #include "qt/window_host.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QEventLoop>
 #include <QScreen>
 #include <QTimer>
@@ -15,6 +16,7 @@
 #include "qt/busy.h"
 #include "qt/form_widget.h"
 #include "qt/form_window.h"
+#include "qt/text.h"
 #include "ui/frm/frm.h"
 
 namespace {
@@ -139,6 +141,10 @@ Display_Info Window_Host::Display() {
     const QScreen* Screen = QApplication::primaryScreen();
     const Int Bits = Screen != nullptr ? static_cast<Int>(Screen->depth()) : Int{0};
     return {.Bits_Per_Pixel = Bits, .Has_Raster = true};
+}
+
+void Window_Host::Copy_Text(std::string_view Text) {
+    QGuiApplication::clipboard()->setText(Qt_Text(Text));
 }
 
 bool Window_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {

@@ -32,6 +32,7 @@ public:
     void Refresh() override;
     void Turn() override;
     Display_Info Display() override;
+    void Copy_Text(std::string_view Text) override;
     /// The window goes on painting while the tool runs.
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
 

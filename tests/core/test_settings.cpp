@@ -1,6 +1,7 @@
 // tests/core/test_settings.cpp - the settings file and the recent projects.
 #include "core/settings.h"
 
+#include "core/grid_colours.h"
 #include "platform/settings_file.h"
 #include "support/environment.h"
 #include "support/program_test.h"
@@ -41,6 +42,15 @@ TEST_F(Settings, ValuesAndTheirDefaults) {
     EXPECT_EQ(Dir_Texture, Dir.Path("FS") + "\\Scenery\\world\\Texture");
     EXPECT_EQ(List(), "|b.LWM||");
     EXPECT_EQ(Host_Of_Test.Caption["Mnu_File_Prec(1)"], "b.LWM");
+}
+
+TEST_F(Settings, TheGridsColourIsKept) {
+    for (const auto& [Kept, Index] : {std::pair{"7", 7}, {"0", 0}, {"8", 2}, {"-1", 2}, {"x", 0}}) {
+        Ini(std::string("GridColour=") + Kept + "\r\n");
+        Read_View_Settings();
+        EXPECT_EQ(Grid_Colour_Index, Index) << Kept;
+        EXPECT_EQ(Grid_Colour, Grid_Colours[static_cast<std::size_t>(Index)]);
+    }
 }
 
 TEST_F(Settings, TheSimulatorIsLookedForAndKept) {

@@ -70,6 +70,8 @@ TEST(Positions, AsInTheRows) {
          {"Text_To_Lon", Read(Text_To_Lon)},
          {"Igc_To_Lat", Read(Igc_To_Lat)},
          {"Igc_To_Lon", Read(Igc_To_Lon)},
+         {"Any_To_Lat", Read(Any_To_Lat)},
+         {"Any_To_Lon", Read(Any_To_Lon)},
          {"Typed_Lat", Typed(Typed_Lat)},
          {"Typed_Lon", Typed(Typed_Lon)},
          {"Metres",

@@ -7,13 +7,32 @@
 #include <limits>
 #include <vector>
 
+#include "core/attr_kinds.h"
 #include "core/model.h"
 #include "core/model_changes.h"
+#include "core/program.h"
+#include "ui/canvas/edit_state.h"
 #include "ui/canvas/view.h"
 
 namespace {
 
 constexpr Pen Backdrop{.Colour = 0xFF0000, .Width = 2};
+
+// In their own colours: what can be told apart on sea and on land.
+constexpr Long Road_Red = 0xE00000, Water_Blue = 0x0050FF, Coast_Orange = 0xFF8000,
+               Polygon_Violet = 0xA000C0;
+constexpr Int First_Water_Line = 1024, Last_Water_Line = 1133;  // shores, rivers, streams
+
+bool Is_Water(const Attr& A) {
+    if (Is_Polygon(A)) return A.LWM_VTP2 == Technique_LWM && A.Attrib == 0;
+    return First_Water_Line <= A.LineType && A.LineType <= Last_Water_Line;
+}
+
+Long Colour_Of_Kind(const Attr& A) {
+    if (Is_Coast(A)) return Coast_Orange;
+    if (Is_Water(A)) return Water_Blue;
+    return Is_Polygon(A) ? Polygon_Violet : Road_Red;
+}
 
 struct Extent {
     Double West = std::numeric_limits<Double>::infinity(), North = West;
@@ -173,6 +192,7 @@ void Objects_Draw(const std::function<std::optional<Pen>(Long Row)>& Pen_Of,
     Object_Painter Painter;
     for (Long I = First_Obj; I <= Nb_Obj; ++I) {
         const Obj& O = Tab_Obj[I];
+        if (!Show_Objects && !(Obj_Selected != 0 && I == Sel_Obj)) continue;
         if (O.Nb_Pts < Fewest || !Painter.May_Be_Seen(Extents[static_cast<std::size_t>(I)]))
             continue;
         if (const std::optional<Pen> With = Pen_Of(I)) Painter.Paint(O, *With);
@@ -184,7 +204,11 @@ void Object_Paint(Long Row, const Pen& With) {
 }
 
 void Objects_Draw_Backdrop() {
-    Objects_Draw([](Long) { return Backdrop; });
+    Objects_Draw([](Long Row) {
+        Pen With = Backdrop;
+        if (Kind_Colours != 0) With.Colour = Colour_Of_Kind(Tab_Obj[Row].Attr);
+        return With;
+    });
 }
 
 void Objects_Changed() {

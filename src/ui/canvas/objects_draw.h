@@ -12,6 +12,7 @@ enum class Single_Points { Left_Out, As_Blocks };
 /// Paints the segments of every object that can be seen, in the order of Tab_Obj, with the pen
 /// that Pen_Of gives for its row; one without a pen is left out. Singles tells of those that have
 /// one point: left out, or painted as a block of 3 by 3 pixels.
+/// Without Show_Objects that is the selected one alone.
 /// What lies wholly outside the canvas is not handed to the surface and costs next to nothing.
 void Objects_Draw(const std::function<std::optional<Pen>(Long Row)>& Pen_Of,
                   Single_Points Singles = Single_Points::Left_Out);

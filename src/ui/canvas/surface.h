@@ -39,7 +39,7 @@ struct Line_Px {
 enum class Line_Style { Solid, Dashed, Dotted };
 
 struct Pen {
-    Long Colour = 0;
+    Long Colour = 0;  // or Contrast_Colour
     Int Width = 1;
     Line_Style Style = Line_Style::Solid;
     bool operator==(const Pen&) const = default;
@@ -57,6 +57,8 @@ class Surface {
 public:
     virtual ~Surface() = default;
     virtual void Clear() = 0;
+    /// Mixes all that was painted with what Clear paints: Percent of it stays.
+    virtual void Fade(Int) {}
     /// Copies Source of P onto Dest, pixels repeated or left out, without blending. Copies that
     /// share an edge leave no gap.
     virtual void Stretch_Copy(const Picture& P, Box_Px Source, const Edges_Px& Dest) = 0;

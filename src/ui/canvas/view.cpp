@@ -14,6 +14,10 @@ namespace {
 constexpr Double Zoom_Step = 1.15;
 constexpr Double Zoom_Last = 20.0;  // the last one that still steps up
 constexpr Double Zoom_Snap = 0.01;  // this near to 1 it is 1
+constexpr Double Zoom_Most = Zoom_Last * Zoom_Step;
+constexpr Double Zoom_Least_Set = 0.001;    // that can be asked for
+constexpr Double Grid_Least_Width = 200.0;  // the wheel goes no further out
+constexpr Double Wheel_Side_Step = 60.0;    // canvas pixels
 constexpr Double Scroll_Middle = Scroll_Max / 2.0;
 
 void Set_Bar(const char* Bar, Long Value) {
@@ -64,6 +68,16 @@ bool Zoom_Down() {
     return true;
 }
 
+bool Wheel_May_Go_Out() {
+    return !((XGridSE - XGridNW) * Zoom / Zoom_Step < Grid_Least_Width);
+}
+
+// Never further off than it is, and never beyond the map's edge.
+Double Pan_Held(Double Wanted, Double Now, Long Map_Size) {
+    const Double Most = std::max(Map_Size / 2.0, std::fabs(Now));
+    return Wanted < -Most ? -Most : Wanted > Most ? Most : Wanted;
+}
+
 Long Odd_Size(Long Size) {
     return std::max(Long{1}, Size % 2 == 0 ? Size - 1 : Size);
 }
@@ -94,7 +108,7 @@ Pic_Px Map_To_Pic(Pix P) {
 void View_Reset() {
     Zoom = 1.0;
     Pan_X = Pan_Y = 0.0;
-    Show_Bitmap = Show_Grid = true;
+    Show_Bitmap = Show_Grid = Show_Ima = Show_Objects = true;
     Scroll_Guard = true;
     Set_Bar("HScroll", 0);
     Set_Bar("VScroll", 0);
@@ -168,11 +182,31 @@ void Cmd_ColourGrid() {
     Redraw_And_Focus();
 }
 
+void View_Zoom_To(Double New_Zoom) {
+    Zoom = std::clamp(New_Zoom, Zoom_Least_Set, Zoom_Most);
+    Redraw_And_Focus();
+}
+
+void View_Fit() {
+    if (Map_Width <= 0 || Map_Height <= 0) return;
+    Pan_X = Pan_Y = 0.0;
+    Scroll_Bars_Follow();
+    View_Zoom_To(std::min(static_cast<Double>(Pic_Width) / Map_Width,
+                          static_cast<Double>(Pic_Height) / Map_Height));
+}
+
+void View_Home() {
+    Pan_X = (Map_Width - Pic_Width / Zoom) / 2.0;
+    Pan_Y = (Map_Height - Pic_Height / Zoom) / 2.0;
+    Scroll_Bars_Follow();
+    Redraw_And_Focus();
+}
+
 void View_Wheel(Int Steps, Pic_Px P) {
     const Pix Kept = Pic_To_Map(P);
     bool Stepped = false;
     for (Int I = 0; I < std::abs(Steps); ++I) {
-        if (!(Steps > 0 ? Zoom_Up() : Zoom_Down())) break;
+        if (!(Steps > 0 ? Zoom_Up() : Wheel_May_Go_Out() && Zoom_Down())) break;
         Stepped = true;
     }
     if (!Stepped) return;
@@ -187,6 +221,17 @@ void View_Drag(Double DX, Double DY) {
     Pan_Y += DY / Zoom;
     Scroll_Bars_Follow();
     View_Redraw();
+}
+
+void View_Scroll(Double DX, Double DY) {
+    Pan_X = Pan_Held(Pan_X - DX / Zoom, Pan_X, Map_Width);
+    Pan_Y = Pan_Held(Pan_Y - DY / Zoom, Pan_Y, Map_Height);
+    Scroll_Bars_Follow();
+    View_Redraw();
+}
+
+void View_Wheel_Sideways(Int Steps) {
+    View_Scroll(-Steps * Wheel_Side_Step, 0.0);
 }
 
 void View_State_Reset() {

@@ -27,6 +27,9 @@ struct View_State {
     bool Show_Bitmap = true;
     bool Show_Texture = false;
     bool Show_Grid = true;
+    bool Show_Ima = true;                         // the pictures of textures laid on the map
+    bool Show_Objects = true;                     // all objects, not only the selected one
+    Int Map_Opacity = 100;                        // per cent
     Double Click_X = 0.0, Click_Y = 0.0;          // last press, held to the grid rectangle
     Double Click_Map_X = 0.0, Click_Map_Y = 0.0;  // the same on the map
     Double Move_X = 0.0, Move_Y = 0.0;            // last move, held to the grid rectangle
@@ -54,6 +57,9 @@ inline bool& Scroll_Guard = The_View_State.Scroll_Guard;
 inline bool& Show_Bitmap = The_View_State.Show_Bitmap;
 inline bool& Show_Texture = The_View_State.Show_Texture;
 inline bool& Show_Grid = The_View_State.Show_Grid;
+inline bool& Show_Ima = The_View_State.Show_Ima;
+inline bool& Show_Objects = The_View_State.Show_Objects;
+inline Int& Map_Opacity = The_View_State.Map_Opacity;
 inline Double& Click_X = The_View_State.Click_X;
 inline Double& Click_Y = The_View_State.Click_Y;
 inline Double& Click_Map_X = The_View_State.Click_Map_X;
@@ -76,7 +82,7 @@ inline constexpr Long Scroll_Large = 2000;
 Pix Pic_To_Map(Pic_Px P);
 Pic_Px Map_To_Pic(Pix P);
 
-/// Zoom 1 at pan 0, both scroll bars at 0, map and grid shown.
+/// Zoom 1 at pan 0, both scroll bars at 0, nothing hidden.
 void View_Reset();
 /// Puts the scroll bars where the view is, as far as they reach.
 void Scroll_Bars_Follow();
@@ -100,11 +106,23 @@ void Cmd_AffTexture();
 void Cmd_Grid();
 void Cmd_ColourGrid();
 
+/// Zoom New_Zoom, held to what the steps reach, with the canvas's middle kept; repaints.
+void View_Zoom_To(Double New_Zoom);
+/// The whole map as large as the canvas has room for it, in its middle; repaints.
+void View_Fit();
+/// The map's top left at the canvas's, at the zoom that is; repaints.
+void View_Home();
+
 /// One step of the mouse wheel at P, away from the user (+1) or towards (-1): the same steps as
-/// the buttons, with the map point under P kept there.
+/// the buttons, with the map point under P kept there. It stops before the work grid would be
+/// less than 200 pixels wide.
 void View_Wheel(Int Steps, Pic_Px P);
+/// One step of the wheel sideways, to the left (+1) or to the right (-1).
+void View_Wheel_Sideways(Int Steps);
 /// Moves the map by (DX, DY) canvas pixels, as when it is dragged; scroll bars follow.
 void View_Drag(Double DX, Double DY);
+/// Shows what lies (DX, DY) canvas pixels further, as far as the canvas's middle is on the map.
+void View_Scroll(Double DX, Double DY);
 
 /// Clears the canvas and paints map, grid, marks and objects anew, as the mode that is on wants
 /// it. The overlay items stay as they are.

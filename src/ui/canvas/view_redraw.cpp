@@ -7,6 +7,7 @@ void View_Redraw() {
     S.Set_Cursor(Pointer_Shape::Hourglass);
     S.Clear();
     Map_Blit_View();
+    if (Map_Opacity < 100) S.Fade(Map_Opacity);
     if (Paint_Mode != nullptr) Paint_Mode();
     S.Refresh();
     S.Set_Cursor(The_View_State.Pointer);

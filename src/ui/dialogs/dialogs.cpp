@@ -10,6 +10,7 @@ void Forms_Install() {
     Form_Register("Frm_Dir", Make_Frm_Dir);
     Form_Register("Frm_ColourGrid", Make_Frm_ColourGrid);
     Form_Register("Frm_FSUIPC", Make_Frm_FSUIPC);
+    Form_Register("Frm_Goto", Make_Frm_Goto);
     Form_Register("Frm_Excl", Make_Frm_Excl);
     Form_Register("Frm_Ima", Make_Frm_Ima);
     Form_Register("Frm_LC", Make_Frm_LC);

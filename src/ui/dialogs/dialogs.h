@@ -10,6 +10,7 @@ std::unique_ptr<Form> Make_Frm_PGen();
 std::unique_ptr<Form> Make_Frm_Dir();
 std::unique_ptr<Form> Make_Frm_ColourGrid();
 std::unique_ptr<Form> Make_Frm_FSUIPC();
+std::unique_ptr<Form> Make_Frm_Goto();
 std::unique_ptr<Form> Make_Frm_Excl();
 std::unique_ptr<Form> Make_Frm_Ima();
 std::unique_ptr<Form> Make_Frm_LC();

@@ -18,6 +18,7 @@
 namespace {
 
 constexpr Double Zoom_Step = 1.15;
+constexpr Double Side_Step = 60.0;  // of the wheel, canvas pixels
 constexpr Double Least_Zoom = 0.05, Most_Zoom = 23.0;
 constexpr Long Cross_Arm = 10;  // canvas pixels
 constexpr Long First_Width = 800, First_Height = 480;
@@ -177,6 +178,7 @@ private:
     }
 
     void Wheel(const Mouse_Event& E) {
+        if ((E.Shift & Shift_Key) != 0) return Show_From(Left_ - E.Steps * Side_Step / Zoom_, Top_);
         const Double X = Left_ + E.X / Zoom_, Y = Top_ + E.Y / Zoom_;
         Zoom_ = std::clamp(Zoom_ * std::pow(Zoom_Step, E.Steps), Least_Zoom, Most_Zoom);
         Show_From(X - E.X / Zoom_, Y - E.Y / Zoom_);

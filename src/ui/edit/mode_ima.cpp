@@ -5,6 +5,7 @@
 
 #include "core/attr_kinds.h"
 #include "core/dialog_flags.h"
+#include "core/grid_colours.h"
 #include "core/host.h"
 #include "core/messages.h"
 #include "core/model.h"
@@ -25,6 +26,7 @@ namespace {
 constexpr const char* Tools[] = {"Cmd_New_Ima", "Cmd_Sel_Ima", "Cmd_Sup_Route_Ou_Pt", "Cmd_Tabul"};
 constexpr Int No_Picture = 124;  // message
 
+constexpr Pen Outline{.Colour = Contrast_Colour, .Style = Line_Style::Dotted};
 constexpr Pen Yellow{.Colour = 0xFFFF00}, Red{.Colour = 0xFF0000}, Magenta{.Colour = 0xFF00FF};
 
 // --- painting -------------------------------------------------------------------------------
@@ -39,9 +41,13 @@ void Paint_Texture(Long I) {
     const Long X1 = Round_Lng(R.Left), Y1 = Round_Lng(R.Top);
     const Long X2 = Round_Lng(R.Right), Y2 = Round_Lng(R.Bottom);
     if (X1 > Pic_Width || Y1 > Pic_Height || X2 < 0 || Y2 < 0) return;
-    if (const Picture* P = Ima_Picture(I))
+    if (const Picture* P = Show_Ima ? Ima_Picture(I) : nullptr)
         The_Surface().Stretch_Copy(*P, {0, 0, P->Width, P->Height},
                                    Edges_Of({X1, Y1, Length(X1, X2), Length(Y1, Y2)}));
+    if (Show_Ima) return;
+    const Line_Px Edges[] = {
+        {X1, Y1, X2, Y1}, {X2, Y1, X2, Y2}, {X2, Y2, X1, Y2}, {X1, Y2, X1, Y1}};
+    The_Surface().Lines(Edges, Outline);
 }
 
 // By link: the polygon chosen, those of the selected texture, others, and what no link fits.

@@ -10,25 +10,35 @@
 
 namespace {
 
-// Where the middle button went down or was last seen while it drags the map.
-std::optional<Pic_Px> Drag_From;
+// Where the button that drags the map went down or was last seen: the middle one, or the left one
+// with the space bar held.
+struct Map_Drag {
+    Int Button;
+    Pic_Px From;
+};
+std::optional<Map_Drag> Drag_From;
+
+bool May_Drag(const Mouse_Event& E) {
+    return E.Button == Mouse_Middle || (E.Button == Mouse_Left && (E.Shift & Space_Key) != 0);
+}
 const bool Drag_Is_Reset = At_Reset([] { Drag_From.reset(); });
 
 // True when the map is being dragged: the event is no business of the mode's then.
 bool Drag(const Mouse_Event& E) {
     const Pic_Px At{E.X, E.Y};
-    if (E.What == Mouse_Event::Kind::Press && E.Button == Mouse_Middle) {
-        Drag_From = At;
+    if (E.What == Mouse_Event::Kind::Press && May_Drag(E)) {
+        Drag_From = {E.Button, At};
         return true;
     }
     if (!Drag_From) return false;
-    if (E.What == Mouse_Event::Kind::Move && (E.Button & Mouse_Middle) != 0) {
-        View_Drag(At.X - Drag_From->X, At.Y - Drag_From->Y);
-        Drag_From = At;
+    if (E.What == Mouse_Event::Kind::Move && (E.Button & Drag_From->Button) != 0) {
+        View_Drag(At.X - Drag_From->From.X, At.Y - Drag_From->From.Y);
+        Drag_From->From = At;
         return true;
     }
+    const Int Button = Drag_From->Button;
     Drag_From.reset();
-    return E.Button == Mouse_Middle;
+    return E.Button == Button;
 }
 
 using Mouse_Call = void (*Mode_Row::*)(const Mouse_Event&);
@@ -38,10 +48,9 @@ void Tell_Mode(Mouse_Call Call, const Mouse_Event& E) {
     if (Row != nullptr && Row->*Call != nullptr) (Row->*Call)(E);
 }
 
-// Only the left button's counts as one. The middle button drags, however quickly it follows.
+// Only the left button's counts as one. A button that drags does so, however quickly it follows.
 Mouse_Event As_The_Mode_Sees_It(Mouse_Event E) {
-    if (E.What == Mouse_Event::Kind::Double_Click && E.Button == Mouse_Middle)
-        E.What = Mouse_Event::Kind::Press;
+    if (E.What == Mouse_Event::Kind::Double_Click && May_Drag(E)) E.What = Mouse_Event::Kind::Press;
     return E;
 }
 
@@ -57,7 +66,8 @@ void Pic_Mouse(const Mouse_Event& Told) {
     if (Edit_On == 0) return;
     const Mouse_Event E = As_The_Mode_Sees_It(Told);
     const Pic_Px At{E.X, E.Y};
-    if (E.What == Mouse_Event::Kind::Wheel) return View_Wheel(E.Steps, At);
+    if (E.What == Mouse_Event::Kind::Wheel)
+        return (E.Shift & Shift_Key) != 0 ? View_Wheel_Sideways(E.Steps) : View_Wheel(E.Steps, At);
     if (Drag(E)) return;
     switch (E.What) {
         case Mouse_Event::Kind::Move:

@@ -3,16 +3,20 @@
 
 #include "core/numbers.h"
 
-/// Modifier keys held, as a sum.
+/// Modifier keys held, as a sum. The space bar counts as one for the mouse.
 inline constexpr Int Shift_Key = 1;
 inline constexpr Int Ctrl_Key = 2;
 inline constexpr Int Alt_Key = 4;
+inline constexpr Int Space_Key = 8;
 
 /// Letters and digits are their capital ASCII character; other keys have the names below.
 using Key_Code = Int;
 inline constexpr Key_Code Key_Tab = 9;
 inline constexpr Key_Code Key_Enter = 13;
 inline constexpr Key_Code Key_Escape = 27;
+inline constexpr Key_Code Key_Page_Up = 33;
+inline constexpr Key_Code Key_Page_Down = 34;
+inline constexpr Key_Code Key_Home = 36;
 inline constexpr Key_Code Key_Left = 37;
 inline constexpr Key_Code Key_Up = 38;
 inline constexpr Key_Code Key_Right = 39;
@@ -21,6 +25,8 @@ inline constexpr Key_Code Key_Delete = 46;
 inline constexpr Key_Code Key_Pad_Plus = 107;  // of the numeric pad
 inline constexpr Key_Code Key_Pad_Minus = 109;
 inline constexpr Key_Code Key_F4 = 115;
+inline constexpr Key_Code Key_Plus = 187;  // beside the letters
+inline constexpr Key_Code Key_Minus = 189;
 
 struct Key_Event {
     Key_Code Code = 0;
@@ -41,5 +47,5 @@ struct Mouse_Event {
     Int Shift = 0;
     Double X = 0.0;  // canvas pixels, Y down
     Double Y = 0.0;
-    Int Steps = 0;  // of the wheel, away from the user positive
+    Int Steps = 0;  // of the wheel, away from the user or, with Shift, to the left positive
 };

@@ -72,6 +72,7 @@ struct Control {
     Button_Role Role = Button_Role::Plain;
     std::string Icon = {};       // name of the picture of a tool button
     std::string Shortcut = {};   // of a menu item, as "Ctrl+S"
+    bool Checkable = false;      // a menu item that shows whether its Value is set
     Field_Rule Rule = {};        // of a field; without Accept any text is taken
     Int Columns = 0;             // width of a field or list in characters, 0 for the usual one
     bool Read_Only = false;      // a field that is filled by a click or chooser, not by typing

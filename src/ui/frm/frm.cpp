@@ -32,6 +32,7 @@
 #include "ui/frm/frm_keys.h"
 #include "ui/frm/generate.h"
 #include "ui/frm/undo_controls.h"
+#include "ui/frm/view_controls.h"
 
 namespace {
 
@@ -120,6 +121,7 @@ void Set_Handlers(Form& F) {
     };
     F.Handlers("HScroll").On_Change = [&F] { HScroll_Change(F["HScroll"].Value); };
     F.Handlers("VScroll").On_Change = [&F] { VScroll_Change(F["VScroll"].Value); };
+    View_Controls_Install(F);
     Control& Pic = F.Handlers("Pic");
     Pic.On_Mouse = Pic_Mouse;
     Pic.On_Key = Pic_Key;
@@ -130,10 +132,16 @@ void Set_Handlers(Form& F) {
     F.Reserved_Keys = Alt_Letters;
 }
 
+// What is told of history and view.
+void Controls_Follow() {
+    Undo_Controls_Show();
+    View_Controls_Show();
+}
+
 // What an act has changed is a step, however it came about.
 void Act_Ended(const std::string& Of, bool Is_Tick) {
     History_Act_Ended(Of, Is_Tick);
-    Undo_Controls_Show();
+    Controls_Follow();
 }
 
 void View_Clear() {
@@ -161,7 +169,7 @@ void Install_View_Calls() {
     The_View.Ima_Load = Ima_Load;
     The_View.Ima_Unload = Ima_Unload;
     The_View.Ima_Clear = Ima_Leave;
-    The_View.History_Show = Undo_Controls_Show;
+    The_View.History_Show = Controls_Follow;
 }
 
 bool Is_Command(const Control& C) {
@@ -203,7 +211,7 @@ void Frm_Install() {
     Modes_Install();
     Gen_Install();
     On_Act_Ended = Act_Ended;
-    Undo_Controls_Show();
+    Controls_Follow();
 }
 
 void Frm_Remove() {

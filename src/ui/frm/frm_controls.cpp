@@ -12,11 +12,14 @@ struct Menu_Row {
     const char* Name;
     Wording Caption;
     const char* Shortcut = "";
+    bool Checkable = false;
 };
 
 constexpr Menu_Row Menus[] = {
     {"Mnu_File", {"Files", "Fichiers"}},
     {"Mnu_Edit", {"Edit", "Edition"}},
+    {"Mnu_View", {"View", "Affichage"}},
+    {"Mnu_View_Opacity", {"Opacity of the map", "Opacit\xE9 de la carte"}},
     {"Mnu_Param", {"Parameters", "Param\xE8tres"}},
     {"Mnu_Tools", {"Tools", "Outils"}},
 };
@@ -30,6 +33,21 @@ constexpr Menu_Row Menu_Items[] = {
     {"Mnu_File_Quit", {"Quit", "Quitter"}, "Ctrl+Q"},
     {"Mnu_Edit_Undo", {"Undo", "Annuler"}, "Ctrl+Z"},
     {"Mnu_Edit_Redo", {"Redo", "R\xE9tablir"}, "Ctrl+Shift+Z"},
+    {"Mnu_View_ZPlus", {"Zoom +", "Zoom +"}, "Ctrl++"},
+    {"Mnu_View_ZMoins", {"Zoom -", "Zoom -"}, "Ctrl+-"},
+    {"Mnu_View_One", {"Zoom 1:1", "Zoom 1:1"}, "Ctrl+0"},
+    {"Mnu_View_Fit", {"Fit map to window", "Ajuster la carte \xE0 la fen\xEAtre"}, "Ctrl+9"},
+    {"Mnu_View_Map", {"Map", "Carte"}, "Ctrl+1", true},
+    {"Mnu_View_Grid", {"Grid", "Grille"}, "Ctrl+2", true},
+    {"Mnu_View_Texture", {"Textures", "Textures"}, "Ctrl+3", true},
+    {"Mnu_View_Objects", {"Objects", "Objets"}, "Ctrl+4", true},
+    {"Mnu_View_Opacity_100", {"100 %", "100 %"}, "", true},
+    {"Mnu_View_Opacity_75", {"75 %", "75 %"}, "", true},
+    {"Mnu_View_Opacity_50", {"50 %", "50 %"}, "", true},
+    {"Mnu_View_Opacity_25", {"25 %", "25 %"}, "", true},
+    {"Mnu_View_Goto", {"Go to a place ...", "Aller \xE0 un lieu ..."}, "Ctrl+G"},
+    {"Mnu_View_Copy", {"Copy the position", "Copier la position"}, "Ctrl+C"},
+    {"Mnu_Kind_Colours", {"Objects in colours by kind", "Objets en couleurs par genre"}, "", true},
     {"Mnu_Param_File", {"File parameters", "Param\xE8tres du projet"}},
     {"Mnu_par_Remesh", {"Re-Mesh", "Re-Mesh"}},
     {"Mnu_ModCad",
@@ -112,7 +130,8 @@ void Add_Menus(Form& F) {
         F.Add({.Kind = Control_Kind::Menu_Item,
                .Name = M.Name,
                .Words = M.Caption,
-               .Shortcut = M.Shortcut});
+               .Shortcut = M.Shortcut,
+               .Checkable = M.Checkable});
     for (int I = 0; I < 4; ++I)
         F.Add(
             {.Kind = Control_Kind::Menu_Item, .Name = "Mnu_File_Prec(" + std::to_string(I) + ")"});
@@ -138,8 +157,15 @@ void Add_Canvas(Form& F) {
 }
 
 void Add_Labels(Form& F) {
-    for (const Label_Row& L : Read_Outs) F.Add({.Name = L.Name, .Columns = L.Columns});
+    for (const Label_Row& L : Read_Outs)
+        F.Add({.Name = L.Name,
+               .Tip_Words = {"A click copies the position", "Un clic copie la position"},
+               .Columns = L.Columns});
     F.Add({.Name = "L_Hint", .Columns = 80});
+    F.Add({.Kind = Control_Kind::Text,
+           .Name = "Txt_Zoom",
+           .Tip_Words = {"Zoom in per cent", "Zoom en pour cent"},
+           .Columns = 8});
     for (const Label_Row& L : Progress_Labels) F.Add({.Name = L.Name, .Columns = L.Columns});
     F.Add({.Kind = Control_Kind::Frame,
            .Name = "Fram_Compile",
@@ -157,8 +183,14 @@ Layout Menu_Layout() {
                            "Mnu_File_Close", Gap(), "Mnu_File_Prec(0)", "Mnu_File_Prec(1)",
                            "Mnu_File_Prec(2)", "Mnu_File_Prec(3)", Gap(), "Mnu_File_Quit"}),
          Menu("Mnu_Edit", {"Mnu_Edit_Undo", "Mnu_Edit_Redo"}),
+         Menu("Mnu_View",
+              {"Mnu_View_ZPlus", "Mnu_View_ZMoins", "Mnu_View_One", "Mnu_View_Fit", Gap(),
+               "Mnu_View_Map", "Mnu_View_Grid", "Mnu_View_Texture", "Mnu_View_Objects",
+               Menu("Mnu_View_Opacity", {"Mnu_View_Opacity_100", "Mnu_View_Opacity_75",
+                                         "Mnu_View_Opacity_50", "Mnu_View_Opacity_25"}),
+               Gap(), "Mnu_View_Goto", "Mnu_View_Copy"}),
          Menu("Mnu_Param", {"Mnu_Param_File", "Mnu_par_Remesh", "Mnu_ModCad", Gap(),
-                            "Mnu_Param_Gene", Gap(), "Mnu_Reinit"}),
+                            "Mnu_Param_Gene", "Mnu_Kind_Colours", Gap(), "Mnu_Reinit"}),
          Menu("Mnu_Tools", {"Mnu_Tool_CvLL"})});
 }
 
@@ -217,5 +249,5 @@ void Frm_Add_Controls(Form& F) {
                              Frame("Fram_Creat_2500", {"LTex2500", Row({"LNbTex", "LPourCent"})})}),
                 Read_Out({"L_MouseBmp", "LLat", "LLon", "LLatDec", "LLonDec", "L_NumCell_Area",
                           "L_CustomBmp"}),
-                Read_Out({"L_Hint"})}));
+                Read_Out({"L_Hint", "Txt_Zoom"})}));
 }

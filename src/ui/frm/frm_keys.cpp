@@ -10,6 +10,7 @@
 #include "ui/edit/modes.h"
 #include "ui/form/form_events.h"
 #include "ui/frm/frm.h"
+#include "ui/frm/view_controls.h"
 
 namespace {
 
@@ -82,6 +83,7 @@ const std::string_view Alt_Letters = "CGLWEDUMTRSNOIA";
 bool Frm_Key(Key_Event K) {
     if ((K.Shift & Alt_Key) != 0) return Press_Alt(K.Code);
     if (K.Code == 'Y' && K.Shift == Ctrl_Key) return Form_Click(Frm(), "Mnu_Edit_Redo");
+    if (Frm().Focus() == "Txt_Zoom") return false;  // its own
     const Mode_Row* Row = Mode_Now();
-    return Row != nullptr && Row->Form_Key != nullptr && Row->Form_Key(K);
+    return (Row != nullptr && Row->Form_Key != nullptr && Row->Form_Key(K)) || View_Key(K);
 }
