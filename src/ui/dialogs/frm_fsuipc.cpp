@@ -57,8 +57,8 @@ void Show_Cross(Pix At) {
     const Pic_Px P = Map_To_Pic(At);
     if (std::fabs(P.X) > Far || std::fabs(P.Y) > Far) return Hide_Cross();
     const Long X = Round_Lng(P.X), Y = Round_Lng(P.Y);
-    The_Overlay.Croix1.At = {X - Arm, Y, X + Arm, Y};
-    The_Overlay.Croix2.At = {X, Y - Arm, X, Y + Arm};
+    The_Overlay.Croix1.At = {Round_Lng(P.X - Arm), Y, Round_Lng(P.X + Arm), Y};
+    The_Overlay.Croix2.At = {X, Round_Lng(P.Y - Arm), X, Round_Lng(P.Y + Arm)};
     The_Overlay.Croix1.Visible = The_Overlay.Croix2.Visible = true;
     The_Surface().Overlay_Changed();
 }
