@@ -3,7 +3,8 @@
 //     bench_coasts KIND-LINESxPOINTS [RUNS]
 //
 // "rough-200x5000" is 200 lines of 5,000 points each. Rough lines waver wildly
-// from west to east; bays of every size turn back in the others. Prints the median time of a run
+// from west to east; bays of every size turn back in the others, and "spirals" wind inward, their
+// turns so close that snapping lets them touch. Prints the median time of a run
 // (five by default) and of the processor's share of it, the peak memory of the program, what came
 // out, and the processor's time for each step.
 #include <algorithm>
@@ -35,7 +36,7 @@ constexpr Double Width = Map_Cells * drawings::Cell_Width;
 constexpr Double Height = Map_Cells * drawings::Cell_Height;
 
 struct Wanted {
-    bool Bays = false;
+    std::string_view Kind;
     Long Lines = 0, Points = 0;
 };
 
@@ -43,9 +44,8 @@ std::optional<Wanted> Named(std::string_view Text) {
     Wanted W;
     const auto Dash = Text.find('-'), Cross = Text.find('x');
     if (Dash == std::string_view::npos || Cross == std::string_view::npos) return std::nullopt;
-    const std::string_view Kind = Text.substr(0, Dash);
-    if (Kind != "rough" && Kind != "bays") return std::nullopt;
-    W.Bays = Kind == "bays";
+    W.Kind = Text.substr(0, Dash);
+    if (W.Kind != "rough" && W.Kind != "bays" && W.Kind != "spirals") return std::nullopt;
     const char* const Start = Text.data();
     std::from_chars(Start + Dash + 1, Start + Cross, W.Lines);
     std::from_chars(Start + Cross + 1, Start + Text.size(), W.Points);
@@ -81,6 +81,21 @@ Pix Bays_Place(const Wanted& W, Long Line, Long K) {
     return {P.X, 0.5 + 3.0 * P.Y};
 }
 
+// From outside to the middle and out again between the turns, which stand apart by little more than
+// a unit of a Cell. In a square of side 1 of one line of the map.
+Pix Spiral_Place(const Wanted& W, Long, Long K) {
+    if (K == 0 || K == W.Points - 1) return {0.001, K == 0 ? 0.5 : 0.505};
+    const Double Half = W.Points / 2.0;
+    const Double In = K < Half ? K / Half : (W.Points - 1 - K) / Half;
+    constexpr Double Apart = 0.2 / Width;
+    const Double Turns = std::sqrt(W.Points) / 3;
+    const Double Turn = Turns * std::sqrt(1.0 - 0.999 * In);
+    const Double Angle = 2.0 * std::numbers::pi * (0.5 + Turns - Turn);
+    const Double Away = 2 * Apart * Turn + (K < Half ? Apart : 0.0);
+    return {0.05 + Apart * 2 * Turns + Away * std::cos(Angle),
+            0.5 + Away * std::sin(Angle) * Width / Height};
+}
+
 // In rows of as many as there are rows, each line in a box of its own. Every other one has its
 // land on the right.
 void Draw(const Wanted& W) {
@@ -93,7 +108,9 @@ void Draw(const Wanted& W) {
         A.LandOnRight = static_cast<Int>(Line % 2);
         Long I = 0;
         for (Long K = 0; K < W.Points; ++K) {
-            const Pix Part = W.Bays ? Bays_Place(W, Line, K) : Rough_Place(W, Line, K);
+            const Pix Part = W.Kind == "bays"      ? Bays_Place(W, Line, K)
+                             : W.Kind == "spirals" ? Spiral_Place(W, Line, K)
+                                                   : Rough_Place(W, Line, K);
             const Pix P{(Line % Side + Part.X) * Width / Side,
                         (static_cast<Double>(Line / Side) + Part.Y) * Height / Side};
             if (K == 0)
@@ -160,7 +177,7 @@ void Run(int Runs) {
 int main(int Count, char** Words) {
     const auto W = Count >= 2 ? Named(Words[1]) : std::nullopt;
     if (!W) {
-        std::fprintf(stderr, "bench_coasts rough|bays-LINESxPOINTS [RUNS]\n");
+        std::fprintf(stderr, "bench_coasts rough|bays|spirals-LINESxPOINTS [RUNS]\n");
         return 1;
     }
     Telling_Host Host;

@@ -14,6 +14,7 @@
 #include <optional>
 #include <string_view>
 
+#include "core/attr_kinds.h"
 #include "core/model_ops.h"
 #include "grid/map_limits.h"
 #include "grid/terrain_grid.h"
@@ -201,6 +202,62 @@ inline Drawing Comb(Long N) {
     return {Line};
 }
 
+/// The same with teeth as long as 40 Cells are high.
+inline Drawing Rake(Long N) {
+    Drawing D = Comb(N);
+    for (Pix& P : D[0]) P.Y *= 20.0;
+    return D;
+}
+
+/// Spikes round one point: N points at the angles of a wheel, by turns near the middle and far out.
+/// Lean is how far a tip stands ahead of its root, in turns; roots lie up to Rough of a spike's
+/// length farther out.
+inline Drawing Spikes(Long N, Double Radius, Double Inner, Double Lean, Double Rough) {
+    const Pix Middle{0.1 * Cell_Width + Radius, 0.1 * Cell_Height + Radius};
+    const auto At = [&](Double Turn, Double Away) {
+        const Double Angle = 2.0 * std::numbers::pi * Turn;
+        return Pix{Middle.X + Away * std::cos(Angle), Middle.Y + Away * std::sin(Angle)};
+    };
+    std::vector<Pix> Line;
+    for (Long I = 0; I < N; ++I) {
+        const Double Turn = (I + 0.1) / N;
+        const Pix Root = At(Turn, Radius * Inner), Tip = At(Turn + Lean, Radius);
+        const Double Part = Hash_Unit(static_cast<std::uint64_t>(I));
+        const Double Along = I % 2 == 0 ? Rough * Part : 1.0 - 0.1 * Part;
+        Line.push_back({Root.X + Along * (Tip.X - Root.X), Root.Y + Along * (Tip.Y - Root.Y)});
+    }
+    return {Line};
+}
+
+/// N thin triangles round one point, which none of them touches.
+inline Drawing Fan(Long N) {
+    const Double Radius = 19.5 * Cell_Height;
+    const Pix Middle{Radius + 1, Radius + 1};
+    const auto At = [&](Double Turn, Double Part) {
+        const Double Angle = 2.0 * std::numbers::pi * (Turn + 0.13) / N;
+        return Pix{Middle.X + Part * Radius * std::cos(Angle),
+                   Middle.Y + Part * Radius * std::sin(Angle)};
+    };
+    Drawing D;
+    for (Long I = 0; I < N; ++I) D.push_back({At(I, 0.02), At(I + 0.3, 1.0), At(I - 0.3, 1.0)});
+    return D;
+}
+
+/// M rings of Points points, each inside the one before.
+inline Drawing Nested_Rings(Long M, Long Points, Double Radius) {
+    const Pix Middle{0.1 * Cell_Width + Radius, 0.1 * Cell_Height + Radius};
+    Drawing D(static_cast<std::size_t>(M));
+    for (Long I = 0; I < M; ++I)
+        for (Long P = 0; P < Points; ++P) {
+            const auto Seed = static_cast<std::uint64_t>(I) * 64 + static_cast<std::uint64_t>(P);
+            const Double Away = Radius * (1.0 - 0.9 * (I + 0.4 * Hash_Unit(Seed)) / M);
+            const Double Angle = 2.0 * std::numbers::pi * (P + 0.2) / Points;
+            D[static_cast<std::size_t>(I)].push_back(
+                {Middle.X + Away * std::cos(Angle), Middle.Y + Away * std::sin(Angle)});
+        }
+    return D;
+}
+
 /// A disc with one notch: a single run all but as long as the outline.
 inline Drawing Notch(Long N) {
     std::vector<Pix> Line;
@@ -280,6 +337,13 @@ inline std::optional<Drawing> Named(std::string_view Name) {
     if (Kind == "fjord") return Fjord(N);
     if (Kind == "spiral") return Spiral(N);
     if (Kind == "comb") return Comb(N);
+    if (Kind == "rake") return Rake(N);
+    if (Kind == "star") return Spikes(N, 19.5 * Cell_Height, 0.05, 0.0, 0.1);
+    if (Kind == "slant") return Spikes(N, 19.5 * Cell_Height, 0.4, 0.15, 0.6);
+    if (Kind == "cellstar") return Spikes(N, 0.4 * Cell_Height, 0.05, 0.0, 0.1);
+    if (Kind == "fan") return Fan(N);
+    if (Kind == "cellrings") return Nested_Rings(N, 8, 0.4 * Cell_Height);
+    if (Kind == "rings") return Nested_Rings(N, 32, 19.5 * Cell_Height);
     if (Kind == "notch") return Notch(N);
     if (Kind == "isles") return Isles(N);
     if (Kind == "nest") return Nest(N);
@@ -287,8 +351,8 @@ inline std::optional<Drawing> Named(std::string_view Name) {
     return std::nullopt;
 }
 
-/// Makes the drawing the project, as mask polygons.
-inline void Into_Model(const Drawing& D) {
+/// Makes the drawing the project, as polygons of a technique.
+inline void Into_Model(const Drawing& D, Int Technique = Technique_LWM) {
     Model_Reset();
     Double East = 0.0, South = 0.0;
     for (const auto& Line : D)
@@ -298,7 +362,9 @@ inline void Into_Model(const Drawing& D) {
         }
     Make_Map(static_cast<Long>(std::max(East / Cell_Width, South / Cell_Height)) + 1);
     for (const auto& Line : D) {
-        const Long I = Obj_Add({}, Line[0].X, Line[0].Y);
+        Attr A;
+        A.LWM_VTP2 = Technique;
+        const Long I = Obj_Add(A, Line[0].X, Line[0].Y);
         for (std::size_t P = 1; P < Line.size(); ++P) Pt_Append(I, Line[P].X, Line[P].Y);
     }
 }

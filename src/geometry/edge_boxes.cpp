@@ -24,8 +24,11 @@ std::uint32_t Part_Of_Span(Single V, Single Low, Single High) {
 
 void Edge_Boxes::Reset(Long N) {
     Nb_ = N;
+    Nb_Left_ = N;
+    Nb_Query_ = Nb_Seen_ = 0;
     Slot_.clear();
     Edge_.clear();
+    Slab_.clear();
     Node Empty;
     for (std::size_t C = 0; C < Fan; ++C) Empty.Set(C, None);
     std::size_t Count = static_cast<std::size_t>(N), Lv = 0;
@@ -40,8 +43,56 @@ void Edge_Boxes::Reset(Long N) {
 void Edge_Boxes::Put(Long E, Pix P1, Pix P2) {
     const Double ex = std::abs(P2.X - P1.X), ey = std::abs(P2.Y - P1.Y);
     const Single Steep = ex > 0.0 && !(ey < Steepest * ex) ? 1.0F : 0.0F;
+    // The slabs above have their direction and grow.
+    for (std::size_t Lv = 0, S = Slot(E); Lv < Slab_.size(); ++Lv, S /= Fan) {
+        Slab& Of = Slab_[Lv][S];
+        if (Lv == 0) Of = Across(P1, P2);
+        Of.Add(P1, P2);
+    }
     Set(Slot(E), {Rounded(std::min(P1.X, P2.X)), Rounded(std::min(P1.Y, P2.Y)),
                   Rounded(std::max(P1.X, P2.X)), Rounded(std::max(P1.Y, P2.Y)), Steep});
+}
+
+Edge_Boxes::Slab Edge_Boxes::Across(Pix P1, Pix P2) {
+    const Double dx = P2.X - P1.X, dy = P2.Y - P1.Y, Length = std::hypot(dx, dy);
+    Slab S;
+    if (Length > 0.0) S.nx = -dy / Length, S.ny = dx / Length;
+    return S;
+}
+
+// The mean direction is that of the doubled angles, since edges lead to and fro; long edges weigh
+// more.
+void Edge_Boxes::Lay_Slabs(std::size_t Lv, std::span<const std::array<Pix, 2>> Ends) {
+    std::vector<Slab>& Slabs = Slab_[Lv];
+    std::vector<Pix> Sum(Slabs.size());
+    const auto Of = [&](std::size_t E) { return Slot(static_cast<Long>(E)) >> (3 * Lv); };
+    const auto Each_Edge = [&](const auto& Visit) {
+        for (std::size_t E = 0; E < Ends.size(); ++E)
+            if (Get(Slot(static_cast<Long>(E))).LX < Far) Visit(Of(E), Ends[E][0], Ends[E][1]);
+    };
+    Each_Edge([&](std::size_t S, Pix P1, Pix P2) {
+        const Double dx = P2.X - P1.X, dy = P2.Y - P1.Y, Length = std::hypot(dx, dy);
+        if (!(Length > 0.0)) return;
+        Sum[S].X += (dx * dx - dy * dy) / Length;
+        Sum[S].Y += 2 * dx * dy / Length;
+    });
+    for (std::size_t S = 0; S < Slabs.size(); ++S) {
+        const Double Angle = std::atan2(Sum[S].Y, Sum[S].X) / 2;
+        Slabs[S] = {.nx = -std::sin(Angle), .ny = std::cos(Angle)};
+    }
+    Each_Edge([&](std::size_t S, Pix P1, Pix P2) { Slabs[S].Add(P1, P2); });
+}
+
+void Edge_Boxes::Lay_Slabs(const std::function<std::array<Pix, 2>(Long)>& Ends_Of) {
+    std::vector<std::array<Pix, 2>> Ends;
+    for (Long E = 0; E < Nb_; ++E) Ends.push_back(Ends_Of(E));
+    Sort_By_Outline();
+    Slab_.resize(Level_.size());
+    for (std::size_t Lv = 0; Lv < Level_.size(); ++Lv) {
+        Slab_[Lv].assign(Level_[Lv].size() * Fan, {});
+        Lay_Slabs(Lv, Ends);
+    }
+    Nb_With_Slab_ = Nb_Left_;
 }
 
 Edge_Boxes::Box_Single Edge_Boxes::Union(const Node& N) {
@@ -94,6 +145,16 @@ bool Edge_Boxes::Is_Overlaid() const {
         if (Sum > Most_Over_Each_Other * Whole) return true;
     }
     return false;
+}
+
+void Edge_Boxes::Sort_By_Outline() {
+    if (Slot_.empty()) return;
+    std::vector<Box_Single> Old;
+    for (Long E = 0; E < Nb_; ++E) Old.push_back(Get(Slot(E)));
+    Slot_.clear();
+    Edge_.clear();
+    for (std::size_t E = 0; E < Old.size(); ++E) Set(E, Old[E]);
+    Refresh_All();
 }
 
 // Along a curve that fills the outline's box, its quarters one after the other.

@@ -60,9 +60,11 @@ struct Leaf_Boxes {
 template <typename Pair>
 class Join {
 public:
-    Join(const Edge_Tree& A, const Edge_Tree& B, Pair& P) : A_(A), B_(B), Pair_(P) {}
+    Join(const Edge_Tree& A, const Edge_Tree& B, Pair& P, Box_Budget& Budget)
+        : A_(A), B_(B), Pair_(P), Budget_(Budget) {}
 
     void Between(int La, Long Ka, int Lb, Long Kb) {
+        if (--Budget_.Left < 0) return;
         if (!A_.Box(La, Ka).Meets(B_.Box(Lb, Kb)) || Pair_.Skips(A_.First_Edge(La, Ka))) return;
         if (La == 0 && Lb == 0) {
             Leaves(Ka, Kb);
@@ -93,11 +95,15 @@ private:
         const Box_Pix& Whole = B_.Box(0, Kb);
         const Long End = A_.End_Edge(0, Ka);
         const Leaf_Boxes Of_B(B_, Kb);
+        Budget_.Left -= Edge_Tree::Leaf;
         for (Long I = A_.First_Edge(0, Ka); I < End; ++I) {
             const Box_Pix Of_I = A_.Edge_Box(I);
             if (!Of_I.Meets(Whole)) continue;
             for (Long J = 0; J < Of_B.Nb; ++J)
-                if (Of_I.Meets(Of_B.Box[static_cast<std::size_t>(J)])) Pair_(I, Of_B.First + J);
+                if (Of_I.Meets(Of_B.Box[static_cast<std::size_t>(J)])) {
+                    Pair_(I, Of_B.First + J);
+                    --Budget_.Left;
+                }
         }
     }
 
@@ -112,6 +118,7 @@ private:
     const Edge_Tree& A_;
     const Edge_Tree& B_;
     Pair& Pair_;
+    Box_Budget& Budget_;
 };
 
 // Keeps the smallest pair in scan order, the closing edge last and given first.
@@ -161,14 +168,14 @@ private:
 
 }  // namespace
 
-Edge_Meet First_Self_Meet(const Edge_Tree& Tree, bool Closed) {
+Edge_Meet First_Self_Meet(const Edge_Tree& Tree, bool Closed, Box_Budget& Budget) {
     Self_Pairs Pairs(Tree, Closed);
-    Join<Self_Pairs>(Tree, Tree, Pairs).Within(Tree.Top(), 0);
+    Join<Self_Pairs>(Tree, Tree, Pairs, Budget).Within(Tree.Top(), 0);
     return Pairs.Found();
 }
 
-bool Outlines_Meet(const Edge_Tree& A, const Edge_Tree& B) {
+bool Outlines_Meet(const Edge_Tree& A, const Edge_Tree& B, Box_Budget& Budget) {
     Any_Pair Pairs(A, B);
-    Join<Any_Pair>(A, B, Pairs).Between(A.Top(), 0, B.Top(), 0);
+    Join<Any_Pair>(A, B, Pairs, Budget).Between(A.Top(), 0, B.Top(), 0);
     return Pairs.Found;
 }

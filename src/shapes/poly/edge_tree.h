@@ -7,10 +7,13 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <limits>
 #include <span>
 #include <vector>
 
 #include "geometry/box.h"
+#include "geometry/patience.h"
 #include "shapes/poly/work_lists.h"
 
 /// The edges of one outline and their boxes. Edges count from 0; edge e leads from point e to
@@ -59,13 +62,25 @@ private:
     std::array<Long, Max_Level> Count_{};
 };
 
+/// How many pairs of boxes a search may still look at. It is spent below 0, and what the search
+/// gives is then not its answer. Where many boxes lie over each other it is quicker to show that
+/// there is nothing to find (Sweep_Edges).
+struct Box_Budget {
+    static constexpr std::int64_t Endless = std::numeric_limits<std::int64_t>::max();
+
+    explicit Box_Budget(std::size_t Edges)
+        : Left(Search_Patience * static_cast<std::int64_t>(Edges)) {}
+    bool Is_Spent() const { return Left < 0; }
+    std::int64_t Left;
+};
+
 /// The pair of edges of one outline that meet at first in scan order: for each edge of the open
 /// chain those behind it, then the closing edge against the others. Neighbours are not compared.
 struct Edge_Meet {
     bool Found = false;
     Pix At;
 };
-Edge_Meet First_Self_Meet(const Edge_Tree& Tree, bool Closed);
+Edge_Meet First_Self_Meet(const Edge_Tree& Tree, bool Closed, Box_Budget& Budget);
 
 /// Whether an edge of A and an edge of B cross or touch.
-bool Outlines_Meet(const Edge_Tree& A, const Edge_Tree& B);
+bool Outlines_Meet(const Edge_Tree& A, const Edge_Tree& B, Box_Budget& Budget);

@@ -2,11 +2,19 @@
 // asked.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 
+#include "geometry/edge_sweep.h"
+#include "geometry/patience.h"
 #include "geometry/ring_rays.h"
 #include "geometry/sorted_points.h"
 #include "shapes/poly/nesting_lists.h"
+
+/// How many rays are cast for Nb outlines before what lies in what is found out for all at once.
+inline std::int64_t Ray_Budget(std::size_t Nb) {
+    return Search_Patience * static_cast<std::int64_t>(Nb);
+}
 
 /// Answers exactly as Cast_Ray does for each outline.
 class Nested_Rays {
@@ -26,6 +34,12 @@ public:
     /// The points that share this X with another one; without any, an odd count is possible
     /// only for a point inside the ray box of an outline.
     std::span<const Shared_X::Entry> Sharing(Double X) const { return Shared_.At(X); }
+    /// The innermost outline around each, found without rays; nothing when rays could tell
+    /// otherwise. They can not where edges keep apart (Sweep_Edges) and no two points share an X.
+    std::vector<Long> Around() const {
+        if (!Shared_.Is_Empty()) return {};
+        return Sweep_Edges({Lines_.Point, Lines_.First}).Around;
+    }
     bool Is_Shared(Double X) const { return !Shared_.Is_Empty() && !Shared_.At(X).empty(); }
 
 private:

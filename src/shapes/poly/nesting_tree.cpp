@@ -1,6 +1,6 @@
 // shapes/poly/nesting_tree.cpp - the containment tree of each outer polygon, and its numbers.
 #include <algorithm>
-#include <numeric>
+#include <utility>
 
 #include "geometry/box_index.h"
 #include "shapes/poly/nested_rays.h"
@@ -51,13 +51,18 @@ public:
 
     Long Owner(Long Point) const { return Owner_[static_cast<std::size_t>(Point)]; }
 
-    Long Find(Pix From, const std::vector<Long>& Node_Of) {
+    // Of the outline that a point belongs to; it has no node yet.
+    Long Find(Long Point, const std::vector<Long>& Node_Of) {
+        if (Left_ < 0 && !std::exchange(Is_Searched_, true)) Around_ = Rays_.Around();
+        if (!Around_.empty()) return Find_Around(Owner(Point), Node_Of);
+        const Pix From = Lines_.Point[static_cast<std::size_t>(Point)];
         Long Parent = 1;
         Double Nearest = Ray_Limit;
         const auto Try = [&](Long Poly) {
             const auto I = static_cast<std::size_t>(Poly);
             const Long N = Node_Of[I];
             if (N == 0 || Lines_.Ring(I).size() < 3) return;
+            --Left_;
             const Ray_Hit Hit = Rays_.Cast(From, I);
             if (!Hit.Odd || Hit.Nearest >= Ray_Limit) return;
             if (Hit.Nearest > Nearest || (Hit.Nearest == Nearest && N > Parent)) return;
@@ -73,6 +78,12 @@ public:
     }
 
 private:
+    Long Find_Around(Long Poly, const std::vector<Long>& Node_Of) const {
+        do Poly = Around_[static_cast<std::size_t>(Poly)];
+        while (Poly >= 0 && Node_Of[static_cast<std::size_t>(Poly)] == 0);
+        return Poly >= 0 ? Node_Of[static_cast<std::size_t>(Poly)] : 1;
+    }
+
     static std::vector<Box_Pix> Boxes_Of(const Outlines& Lines) {
         std::vector<Box_Pix> Boxes(Lines.Nb());
         for (std::size_t I = 0; I < Lines.Nb(); ++I) Boxes[I] = Ray_Box(Lines.Ring(I));
@@ -83,6 +94,9 @@ private:
     Nested_Rays Rays_;
     Box_Index Boxes_;
     std::vector<Long> Owner_;
+    std::int64_t Left_ = Ray_Budget(Lines_.Nb());
+    bool Is_Searched_ = false;
+    std::vector<Long> Around_;  // the outline around each, when found out at once
 };
 
 Nesting_Tree::Nesting_Tree(const Outer& O) : Group_{O.Poly} {
@@ -108,7 +122,7 @@ void Nesting_Tree::Build(const Outlines& Lines, std::span<const Long> Order) {
     for (const Long Point : Order.subspan(1)) {
         const auto G = static_cast<std::size_t>(Search.Owner(Point));
         if (Node_Of[G] != 0) continue;
-        const Long Parent = Search.Find(Lines.Point[static_cast<std::size_t>(Point)], Node_Of);
+        const Long Parent = Search.Find(Point, Node_Of);
         Add(G, Parent, Lines.Ring(G).size() < 3);
         Node_Of[G] = static_cast<Long>(Node_.size()) - 1;
     }

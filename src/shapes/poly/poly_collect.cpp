@@ -3,6 +3,7 @@
 #include "shapes/poly/poly_collect.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "core/messages.h"
 #include "core/model.h"
 #include "core/number_text.h"
+#include "geometry/edge_sweep.h"
 #include "geometry/segments.h"
 #include "shapes/poly/drawn_line.h"
 #include "shapes/poly/edge_tree.h"
@@ -27,6 +29,21 @@ bool Is_Taken(const Obj& O, Int Mode) {
 void Drop_Straight_Round(std::vector<Pix>& Line) {
     Drop_Straight(Line);
     if (Sens_3Pts(Line.back(), Line[0], Line[1]) == 0) Line.erase(Line.begin());
+}
+
+// The first place where an outline meets itself.
+Edge_Meet Self_Meet(std::span<const WPt> Line, bool Closed, std::vector<Box_Pix>& Memory) {
+    Memory.resize(std::max(Memory.size(), Edge_Tree::Size(static_cast<Long>(Line.size()))));
+    const Edge_Tree Tree(Line, Closed, Memory);
+    Box_Budget Budget(Line.size());
+    const Edge_Meet M = First_Self_Meet(Tree, Closed, Budget);
+    if (!Budget.Is_Spent()) return M;
+    std::vector<Pix> Points;
+    for (const WPt& P : Line) Points.push_back(To_Pix(P));
+    const std::array<std::size_t, 2> Ends{0, Points.size()};
+    if (!M.Found && Sweep_Edges({Points, Ends, Closed}).Apart) return {};
+    Budget.Left = Box_Budget::Endless;
+    return First_Self_Meet(Tree, Closed, Budget);
 }
 
 }  // namespace
@@ -70,11 +87,9 @@ Int Poly_Self_Cross(bool Closed) {
     const std::span<const WPt> All = Tab_WPt.Rows();
     for (const WPoly& W : Tab_WPoly.Rows()) {
         if (W.Last - W.First < 3) continue;
-        Memory.resize(std::max(Memory.size(), Edge_Tree::Size(W.Nb)));
-        const Edge_Tree Tree(
+        const Edge_Meet M = Self_Meet(
             All.subspan(static_cast<std::size_t>(W.First - 1), static_cast<std::size_t>(W.Nb)),
             Closed, Memory);
-        const Edge_Meet M = First_Self_Meet(Tree, Closed);
         if (!M.Found) continue;
         Err_PixX = Round_Lng(M.At.X);
         Err_PixY = Round_Lng(M.At.Y);

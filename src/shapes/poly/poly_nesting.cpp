@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "geometry/box_index.h"
 #include "geometry/exchange_order.h"
@@ -26,7 +27,8 @@ struct Prepared_Outline {
     Edge_Tree Tree;
 };
 
-bool Polys_Cross() {
+// Whether any two polygons cross or touch, as far as the budget goes.
+bool Search_Crossing(Box_Budget& Budget) {
     const auto& Poly = The_Nesting.Poly;
     std::vector<Box_Pix> Boxes(Poly.size());
     for (std::size_t I = 0; I < Poly.size(); ++I)
@@ -38,12 +40,30 @@ bool Polys_Cross() {
         return Prepared[I]->Tree;
     };
     bool Found = false;
-    for (std::size_t A = 0; A < Poly.size() && !Found; ++A)
+    for (std::size_t A = 0; A < Poly.size() && !Found && !Budget.Is_Spent(); ++A)
         Index.Each_Meeting(Boxes[A], [&](Long Place) {
             const auto B = static_cast<std::size_t>(Place);
-            if (A < B && !Found) Found = Outlines_Meet(Tree(A), Tree(B));
+            if (A < B && !Found && !Budget.Is_Spent())
+                Found = Outlines_Meet(Tree(A), Tree(B), Budget);
         });
     return Found;
+}
+
+Outlines All_Outlines() {
+    Outlines Lines;
+    Lines.Point.reserve(Tab_WPt.Rows().size());
+    for (const PolyRef& R : The_Nesting.Poly) Lines.Add(R);
+    return Lines;
+}
+
+bool Polys_Cross() {
+    Box_Budget Budget(Tab_WPt.Rows().size());
+    if (Search_Crossing(Budget)) return true;
+    if (!Budget.Is_Spent()) return false;
+    const Outlines Lines = All_Outlines();
+    if (Sweep_Edges({Lines.Point, Lines.First}).Apart) return false;
+    Budget.Left = Box_Budget::Endless;
+    return Search_Crossing(Budget);
 }
 
 // Finds for one outer polygon after the other what lies inside it.
@@ -83,7 +103,37 @@ private:
         return Firsts;
     }
 
+    // What lies inside each polygon that nothing contains, once and for all.
+    void Find_Inside() {
+        const std::vector<Long> Around = Rays_.Around();
+        if (Around.empty()) return;
+        Inside_.resize(Around.size());
+        std::vector<Long> Outermost(Around.size(), -1), Way;
+        for (std::size_t I = 0; I < Around.size(); ++I) {
+            auto At = static_cast<Long>(I);
+            for (; At >= 0 && Outermost[static_cast<std::size_t>(At)] < 0;
+                 At = Around[static_cast<std::size_t>(At)])
+                Way.push_back(At);
+            const Long Root = At >= 0 ? Outermost[static_cast<std::size_t>(At)] : Way.back();
+            for (; !Way.empty(); Way.pop_back())
+                Outermost[static_cast<std::size_t>(Way.back())] = Root;
+            if (Root != static_cast<Long>(I))
+                Inside_[static_cast<std::size_t>(Root)].push_back(static_cast<Long>(I));
+        }
+    }
+
+    void Take(Long Other) {
+        const auto I = static_cast<std::size_t>(Other);
+        Used_[I] = Placed_[I] = 1;
+        The_Nesting.Inner.push_back(Other);
+    }
+
     void Take_Inner(std::size_t This) {
+        if (Left_ < 0 && !std::exchange(Is_Searched_, true)) Find_Inside();
+        if (!Inside_.empty()) {
+            for (const Long Other : Inside_[This]) Take(Other);
+            return;
+        }
         std::vector<Long> Others = Also_[This];
         Firsts_.Each_Meeting(Ray_Box(Lines_.Ring(This)), [&](Long I) { Others.push_back(I); });
         std::sort(Others.begin(), Others.end());
@@ -92,10 +142,9 @@ private:
             const auto I = static_cast<std::size_t>(Other);
             if (I == This || Used_[I] != 0) continue;
             const Ray_Hit Hit = Rays_.Cast(First_Of(I), This);
-            if (!Hit.Odd || Hit.Nearest >= Ray_Limit) continue;
-            Used_[I] = Placed_[I] = 1;
-            The_Nesting.Inner.push_back(Other);
+            if (Hit.Odd && Hit.Nearest < Ray_Limit) Take(Other);
         }
+        Left_ -= static_cast<std::int64_t>(Others.size());
     }
 
     const Outlines& Lines_;
@@ -104,6 +153,9 @@ private:
     std::vector<Byte> Used_;    // lies inside another one, or is the first outer polygon
     std::vector<Byte> Placed_;  // is an outer polygon or lies inside one
     std::vector<std::vector<Long>> Also_;
+    std::int64_t Left_ = Ray_Budget(Lines_.Nb());
+    bool Is_Searched_ = false;
+    std::vector<std::vector<Long>> Inside_;  // of each outermost polygon, when found out at once
 };
 
 void Find_Outers() {
@@ -111,9 +163,7 @@ void Find_Outers() {
         The_Nesting.Outer.push_back({});
         return;
     }
-    Outlines Lines;
-    Lines.Point.reserve(Tab_WPt.Rows().size());
-    for (const PolyRef& R : The_Nesting.Poly) Lines.Add(R);
+    Outlines Lines = All_Outlines();
     const std::vector<Long> Order = Sorted_Points(Lines.Point);
     Shift_Equal(Lines.Point, Order, 1e-05);
     const std::vector<Long> Owner = Lines.Owners();

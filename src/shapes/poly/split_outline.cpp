@@ -46,9 +46,11 @@ Long Split_Outline::Find_Start() {
 }
 
 // Some edge that the line from A to B crosses, or -1.
-Long Split_Outline::Crossed_Edge(Long A, Long B) const {
+Long Split_Outline::Crossed_Edge(Long A, Long B) {
     const Long Before = Prev(A);
     if (B == Before || Next(B) == Before) return None;
+    if (Boxes_.Wants_Slabs())
+        Boxes_.Lay_Slabs([&](Long E) { return std::array{At(E), At(Next(E))}; });
     const Pix From = At(A), To = At(B);
     Long Found = None;
     Boxes_.Any_Near(From, To, Size_, {Before, B + 1}, [&](Long E) {

@@ -34,7 +34,7 @@ public:
 
     /// Whether the line from A forward to B crosses an edge outside the run between them. Edges
     /// with an end at A or B do not count.
-    bool Diag_Crosses(Long A, Long B) const { return Crossed_Edge(A, B) >= 0; }
+    bool Diag_Crosses(Long A, Long B) { return Crossed_Edge(A, B) >= 0; }
 
     /// Takes the points between A and B off the outline, which then begins at A. None of them may
     /// be reflex.
@@ -42,7 +42,7 @@ public:
 
 private:
     static std::size_t Ix(Long V) { return static_cast<std::size_t>(V); }
-    Long Crossed_Edge(Long A, Long B) const;
+    Long Crossed_Edge(Long A, Long B);
     void Renew(Long V);
     void Take_Out(Long V);
     void Block(Long V, Long E);

@@ -8,6 +8,7 @@
 
 #include "core/model_ops.h"
 #include "core/number_text.h"
+#include "geometry/patience.h"
 #include "geometry/segments.h"
 #include "grid/map_limits.h"
 #include "grid/terrain_grid.h"
@@ -36,7 +37,10 @@ Outline Outline_Of(const reference::Poly& W) {
 
 class Polygons : public Program_Test {
 public:
-    ~Polygons() override { Work_Lists_Reset(); }
+    ~Polygons() override {
+        Work_Lists_Reset();
+        Search_Patience = 64;
+    }
 
     void Clear() {
         Work_Lists_Reset();
@@ -219,6 +223,7 @@ TEST_F(Polygons, AgreeWithThePlainRulesOnRandomProjects) {
                                    : Seed % 16 == 1 ? Mode_VTP1
                                                     : Mode_LWM;
             SCOPED_TRACE("seed " + std::to_string(Seed) + ", kind " + std::to_string(K));
+            Search_Patience = Seed % 3 == 0 ? 64 : 0;
             shapes::Make_Project(Seed, static_cast<Kind>(K), Mode);
             Compare(Mode);
             if (HasFailure()) return;
@@ -237,6 +242,7 @@ TEST_F(Polygons, SplitsAndCutsOfTangledOutlinesAgree) {
             Poly_Collect(Mode);
             const Polys Drawn = Work_Lists();
             Long Rounds = 0;
+            Search_Patience = Seed % 3 == 0 ? 64 : 0;
             Poly_Split_Max(Seed % 2 == 0 ? 24 : 60);
             ASSERT_TRUE(
                 Same_As_Work_Lists(reference::Split(Drawn, Seed % 2 == 0 ? 24 : 60, Rounds)));
@@ -273,6 +279,7 @@ TEST_F(Polygons, LongNestedOutlinesAgree) {
         SCOPED_TRACE("seed " + std::to_string(Seed));
         Random R(Seed);
         const bool Whole = Seed % 2 == 0;
+        Search_Patience = Seed % 3 == 0 ? 64 : 0;
         Model_Reset();
         shapes::Make_Map(R, 4, 0);
         const shapes::Frame F = shapes::Map_Frame();
@@ -303,6 +310,7 @@ TEST_F(Polygons, ShiftedPointsThatMeetOthersAgree) {
     for (std::uint64_t Seed = 1; Seed <= 300; ++Seed) {
         SCOPED_TRACE("seed " + std::to_string(Seed));
         Random R(Seed);
+        Search_Patience = Seed % 3 == 0 ? 64 : 0;
         Model_Reset();
         shapes::Make_Map(R, 2, 0);
         const auto Add = [&](Pix At, Double Radius, Long Nb) {
@@ -320,7 +328,9 @@ TEST_F(Polygons, ShiftedPointsThatMeetOthersAgree) {
 }
 
 TEST_F(Polygons, LongWindingOutlinesAgree) {
-    for (const char* Name : {"coast-500", "fjord-400", "spiral-600", "comb-500", "notch-300"}) {
+    for (const char* Name :
+         {"coast-500", "fjord-400", "spiral-600", "comb-500", "notch-300", "rake-90",
+          "cellrings-200", "rings-40", "fan-500", "cellstar-1000", "star-5000"}) {
         SCOPED_TRACE(Name);
         drawings::Into_Model(*drawings::Named(Name));
         ASSERT_NO_FATAL_FAILURE(Compare(Mode_LWM));
