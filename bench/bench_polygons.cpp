@@ -28,7 +28,7 @@ using measure::Cpu_Seconds, measure::Median, measure::Peak_Memory, measure::Wall
 constexpr double Mebibyte = 1024.0 * 1024.0;
 
 // The same steps as Poly_Prepare and Poly_To_Cells, with the time after each.
-constexpr std::array Steps{"collect", "self cross", "nesting", "tree", "split", "cut", "cells"};
+constexpr std::array Steps{"collect", "self cross", "nesting", "tree", "split", "cells"};
 using Step_Times = std::array<double, Steps.size()>;
 
 std::uint64_t Digest() {
@@ -68,10 +68,6 @@ Step_Times Run_Steps(Poly_Mode Mode) {
     Auto_Tree();
     Done();
     Poly_Split_Max(60);
-    Done();
-    Poly_Cut_Cells(Mode);
-    Tab_NPoly.Reset();
-    Tab_NPt.Reset();
     Done();
     Poly_To_Cells(Mode);
     Done();

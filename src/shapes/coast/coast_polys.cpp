@@ -6,14 +6,12 @@
 
 #include "shapes/poly/drawn_line.h"
 #include "shapes/poly/poly_collect.h"
-#include "shapes/poly/poly_cut.h"
 #include "shapes/poly/poly_split.h"
 #include "shapes/poly/work_lists.h"
 
 namespace {
 
 constexpr Long Piece_Limit = 60;
-constexpr Int Mode_Cells = 0;
 
 // False when fewer than 2 points are left.
 bool Clean(std::vector<Pix>& Outline) {
@@ -40,7 +38,4 @@ void Coast_Polys() {
     }
     WPoly_Commit();
     Poly_Split_Max(Piece_Limit);
-    Poly_Cut_Cells(Mode_Cells);
-    Tab_NPoly.Reset();
-    Tab_NPt.Reset();
 }

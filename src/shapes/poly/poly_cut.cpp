@@ -21,10 +21,10 @@ constexpr std::size_t No_Pass = static_cast<std::size_t>(-1);
 
 class Grid_Cutter {
 public:
-    Grid_Cutter(const Grid_Lines& Lines, std::size_t End_Pass)
-        : Lines_(Lines), End_Pass_(End_Pass) {}
+    Grid_Cutter(const Grid_Lines& Lines, std::size_t End_Pass, Piece_Sink& To)
+        : Lines_(Lines), To_(To), End_Pass_(End_Pass) {}
 
-    // The pieces of a polygon after all passes before End_Pass, into the output lists.
+    // The pieces of a polygon after all passes before End_Pass.
     void Cut(const WPoly& W);
 
     // The earliest pass that could not be done, or No_Pass.
@@ -59,9 +59,10 @@ private:
     void Done(const Parallels&, std::span<const Pix> Piece) {
         Cut_Along(Meridians{Lines_.X, Lines_.TolX, Lines_.TolY}, Lines_.Y.size(), Piece);
     }
-    void Done(const Meridians&, std::span<const Pix> Piece) { NPoly_Append(*Source_, Piece); }
+    void Done(const Meridians&, std::span<const Pix> Piece) { To_.Take(*Source_, Piece); }
 
     const Grid_Lines& Lines_;
+    Piece_Sink& To_;
     std::size_t End_Pass_;
     std::size_t Failed_ = No_Pass;
     const WPoly* Source_ = nullptr;
@@ -132,34 +133,52 @@ void Grid_Cutter::Cut_Along(const Axis& A, std::size_t First_Pass, std::span<con
     }
 }
 
-std::size_t Cut_All(const Grid_Lines& Lines, std::size_t End_Pass) {
-    Tab_NPoly.Dimension(Nb_WPoly);
-    Tab_NPt.Dimension(Nb_WPt);
-    Grid_Cutter Cutter(Lines, End_Pass);
+std::size_t Cut_All(const Grid_Lines& Lines, std::size_t End_Pass, Piece_Sink& To) {
+    To.Begin();
+    Grid_Cutter Cutter(Lines, End_Pass, To);
     for (const WPoly& W : Tab_WPoly.Rows()) Cutter.Cut(W);
     return Cutter.Failed_Pass();
 }
 
-void Show_Pieces() {
-    std::vector<Pix> Points;
-    for (const WPoly& W : Tab_WPoly.Rows()) {
-        Points.clear();
-        for (Long I = W.First; I <= W.Last; ++I) Points.push_back(To_Pix(Tab_WPt[I]));
-        The_Cut_View.Piece_Cut(Points);
+struct Output_Lists final : Piece_Sink {
+    void Begin() override {
+        Tab_NPoly.Dimension(Nb_WPoly);
+        Tab_NPt.Dimension(Nb_WPt);
     }
-}
+    void Take(const WPoly& Like, std::span<const Pix> Points) override {
+        NPoly_Append(Like, Points);
+    }
+};
+
+// Shows the pieces on their way. Those of a pass that fails show as well.
+struct Shown final : Piece_Sink {
+    explicit Shown(Piece_Sink& To) : To_(To) {}
+    void Begin() override { To_.Begin(); }
+    void Take(const WPoly& Like, std::span<const Pix> Points) override {
+        The_Cut_View.Piece_Cut(Points);
+        To_.Take(Like, Points);
+    }
+    Piece_Sink& To_;
+};
 
 }  // namespace
 
-void Poly_Cut_Cells(Int Mode) {
+void Poly_Cut_Cells(Int Mode, Piece_Sink& To) {
     The_Host().Set_Caption("LCompileNom", "Lod8/13 cut");
     The_Host().Refresh();
     const Grid_Lines Lines = Grid_Lines_Of(Mode == Mode_VTP2 ? Polys_By_Area : Polys_By_Cell);
+    Shown Watched(To);
+    Piece_Sink& Sink = The_Cut_View.Piece_Cut != nullptr ? Watched : To;
     std::size_t End_Pass = No_Pass;
-    for (std::size_t Failed = 0; (Failed = Cut_All(Lines, End_Pass)) != No_Pass;) End_Pass = Failed;
-    WPoly_Commit();
-    if (The_Cut_View.Piece_Cut != nullptr) Show_Pieces();
+    for (std::size_t Failed = 0; (Failed = Cut_All(Lines, End_Pass, Sink)) != No_Pass;)
+        End_Pass = Failed;
     if (End_Pass == No_Pass) return;
     Plain_Box(End_Pass < Lines.Y.size() ? "Anormal Lat decoupe LOD13_8"
                                         : "Anormal Lon decoupe LOD13_8");
+}
+
+void Poly_Cut_Cells(Int Mode) {
+    Output_Lists Lists;
+    Poly_Cut_Cells(Mode, Lists);
+    WPoly_Commit();
 }

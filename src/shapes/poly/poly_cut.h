@@ -18,3 +18,15 @@ Seg_Cut Seg_Cut_Vert(Pix P1, Pix P2, Double Line_X, Double Tol);
 /// keep their polygon's place in the list and its values. A polygon that a line would cut more
 /// than twice ends the cutting with a message box: the lists are then as after the line before.
 void Poly_Cut_Cells(Int Mode);
+
+/// Where pieces go as they are made. Begin may come again: all that was taken before then counts
+/// for nothing.
+struct Piece_Sink {
+    virtual void Begin() = 0;
+    virtual void Take(const WPoly& Like, std::span<const Pix> Points) = 0;
+
+protected:
+    ~Piece_Sink() = default;
+};
+/// The same into a sink; the polygons stay in Tab_WPoly.
+void Poly_Cut_Cells(Int Mode, Piece_Sink& To);

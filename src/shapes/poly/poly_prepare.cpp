@@ -30,7 +30,4 @@ void Poly_Prepare(Int Mode) {
     if (Has_Imbric == 0 && Has_Auto == 0) return;
     if (Has_Auto != 0) Auto_Tree();
     Poly_Split_Max(Mode == Mode_VTP1 ? Piece_Limit_Third : Piece_Limit);
-    Poly_Cut_Cells(Mode);
-    Tab_NPoly.Reset();
-    Tab_NPt.Reset();
 }

@@ -10,16 +10,16 @@
 #include "shapes/poly/poly_split.h"
 #include "shapes/poly/work_lists.h"
 
-/// Fills Tab_WPoly and Tab_WPt with the final pieces of the polygons of a Poly_Mode: mask
-/// polygons on the Cell grid, textured polygons on the Area grid. When
-/// an outline crosses itself (message 121) or two cross each other (message 122), or when there
-/// are none, Has_Imbric and Has_Auto are both 0.
+/// Fills Tab_WPoly and Tab_WPt with convex pieces of the polygons of a Poly_Mode. When an outline
+/// crosses itself (message 121) or two cross each other (message 122), or when there are none,
+/// Has_Imbric and Has_Auto are both 0.
 void Poly_Prepare(Int Mode);
 
-/// Gives each piece of Tab_WPoly its cell, its points their local coordinates (Mode_VTP2: those
-/// of the Area), drops pieces that have shrunk to nothing, and sorts: cells from north to south and
-/// from west to east, nesting groups inside a cell, outermost polygons first. Fills Tab_CPoly and
-/// Tab_CPt and empties Tab_WPoly and Tab_WPt.
+/// Cuts the pieces of Tab_WPoly along the grid: mask polygons by Cells, textured ones by Areas
+/// (Poly_Cut_Cells). Gives each its cell and its points their local coordinates, drops those that
+/// have shrunk to nothing, and sorts: cells from north to south and from west to east, nesting
+/// groups inside a cell, outermost polygons first. Fills Tab_CPoly and Tab_CPt and empties the work
+/// lists. Only what is kept takes memory: of many polygons most pieces may go.
 void Poly_To_Cells(Int Mode);
 
 /// The same into other lists. Pieces for which Drops holds, without their repeated points, are

@@ -9,18 +9,18 @@
 
 namespace {
 
-Cell_Pos Cell_Of(std::span<const WPt> Points) {
+Cell_Pos Cell_Of(std::span<const Pix> Points) {
     Box_Pix B;
-    for (const WPt& P : Points) B.Add(To_Pix(P));
+    for (const Pix P : Points) B.Add(P);
     return LatLon_To_Cell(Pixel_To_LatLon({(B.LX + B.HX) / 2, (B.LY + B.HY) / 2}));
 }
 
-CPt Local(const WPt& P, const Cell_Pos& C, bool By_Area) {
+CPt Local(Pix P, const Cell_Pos& C, bool By_Area) {
     if (By_Area) {
-        const Loc_Area L = Pixel_Loc_In_Area(To_Pix(P), C.AreaLon, C.AreaLat);
+        const Loc_Area L = Pixel_Loc_In_Area(P, C.AreaLon, C.AreaLat);
         return {P.X, P.Y, L.LocX, L.LocY};
     }
-    const Loc_Cell L = Pixel_Loc_In_Cell(To_Pix(P), C);
+    const Loc_Cell L = Pixel_Loc_In_Cell(P, C);
     return {P.X, P.Y, L.LocX, L.LocY};
 }
 
@@ -83,34 +83,55 @@ void Sort_By_Cell(Table<CPoly>& Polys) {
                             [&](Long I, Long J) { return Comes_Before(At(I), At(J)); }));
 }
 
+// Takes cut pieces into lists, all but those that are dropped.
+class Cell_Lists final : public Piece_Sink {
+public:
+    Cell_Lists(bool By_Area, Table<CPoly>& Polys, Table<CPt>& Places,
+               bool (*Drops)(std::span<const CPt>))
+        : By_Area_(By_Area), Polys_(Polys), Places_(Places), Drops_(Drops) {}
+
+    void Begin() override {
+        Polys_.Dimension(0);
+        Places_.Dimension(0);
+    }
+    void Take(const WPoly& Like, std::span<const Pix> Points) override;
+
+private:
+    bool By_Area_;
+    Table<CPoly>& Polys_;
+    Table<CPt>& Places_;
+    bool (*Drops_)(std::span<const CPt>);
+};
+
+void Cell_Lists::Take(const WPoly& Like, std::span<const Pix> Points) {
+    const Cell_Pos C = Cell_Of(Points);
+    const Long Before = Places_.Nb();
+    const std::span<CPt> Line = Places_.Append_Rows(Points.size());
+    for (std::size_t I = 0; I < Line.size(); ++I) Line[I] = Local(Points[I], C, By_Area_);
+    const std::span<const CPt> Left = Without_Repeats(Line);
+    const bool Is_Kept = Left.size() >= 3 || (Points.size() == 2 && Left.size() == 2);
+    if (!Is_Kept || (Drops_ && Drops_(Left))) {
+        Places_.Truncate(Before);
+        return;
+    }
+    Places_.Truncate(Before + static_cast<Long>(Left.size()));
+    CPoly P = Finished(Like, C, By_Area_);
+    P.Nb = static_cast<Int>(Left.size());
+    P.First = Before + 1;
+    P.Last = Places_.Nb();
+    Polys_.Append(P);
+}
+
 }  // namespace
 
 void Poly_To_Cells_Into(Int Mode, Table<CPoly>& Polys, Table<CPt>& Places,
                         bool (*Drops)(std::span<const CPt>)) {
-    const bool By_Area = Mode == Mode_VTP2;
-    Polys.Reserve(Nb_WPoly);
-    Places.Reserve(Nb_WPt);
-    const std::span<const WPt> All = Tab_WPt.Rows();
-    for (const WPoly& W : Tab_WPoly.Rows()) {
-        const auto Points =
-            All.subspan(static_cast<std::size_t>(W.First - 1), static_cast<std::size_t>(W.Nb));
-        const Cell_Pos C = Cell_Of(Points);
-        const Long Before = Places.Nb();
-        const std::span<CPt> Line = Places.Append_Rows(Points.size());
-        for (std::size_t I = 0; I < Line.size(); ++I) Line[I] = Local(Points[I], C, By_Area);
-        const std::span<const CPt> Left = Without_Repeats(Line);
-        const bool Is_Kept = Left.size() >= 3 || (W.Nb == 2 && Left.size() == 2);
-        if (!Is_Kept || (Drops && Drops(Left))) {
-            Places.Truncate(Before);
-            continue;
-        }
-        Places.Truncate(Before + static_cast<Long>(Left.size()));
-        CPoly P = Finished(W, C, By_Area);
-        P.Nb = static_cast<Int>(Left.size());
-        P.First = Before + 1;
-        P.Last = Places.Nb();
-        Polys.Append(P);
-    }
+    Tab_NPoly.Reset();
+    Tab_NPt.Reset();
+    Polys.Reserve(Room_For_Points(Nb_WPoly));
+    Places.Reserve(Room_For_Points(Nb_WPt));
+    Cell_Lists Lists(Mode == Mode_VTP2, Polys, Places, Drops);
+    Poly_Cut_Cells(Mode, Lists);
     Tab_WPoly.Reset();
     Tab_WPt.Reset();
     Sort_By_Cell(Polys);

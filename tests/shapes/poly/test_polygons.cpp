@@ -116,6 +116,7 @@ public:
     std::string Cut(const std::string& Cell) {
         Draw(Cell);
         Poly_Prepare(Mode_LWM);
+        if (Has_Imbric != 0 || Has_Auto != 0) Poly_Cut_Cells(Mode_LWM);
         Polys List = Work_Lists();
         std::erase_if(List, [](const auto& W) {
             return W.Nb > 2 && std::abs(shapes::Area_2(Outline_Of(W))) < 1e-3;
@@ -209,9 +210,11 @@ void Polygons::Compare(Poly_Mode Mode) {
     Plain = reference::Split(Plain, Mode == Mode_VTP1 ? 24 : 60, Rounds);
     const std::string Failure =
         reference::Cut(Plain, Grid_Lines_Of(Mode == Mode_VTP2 ? Polys_By_Area : Polys_By_Cell));
+    EXPECT_EQ(Host_Of_Test.Caption["LCompile"], std::string(Num_Text(Rounds)));
+    Poly_Cut_Cells(Mode);
     ASSERT_EQ(Messages(Host_Of_Test), Failure);
     ASSERT_TRUE(Same_As_Work_Lists(Plain));
-    EXPECT_EQ(Host_Of_Test.Caption["LCompile"], std::string(Num_Text(Rounds)));
+    Poly_Prepare(Mode);
     Poly_To_Cells(Mode);
     Expect_In_Cells(Mode);
 }
