@@ -1,5 +1,5 @@
 // examples/make_example.cpp - makes the example project ready in a directory: paints its map
-// and lets its paths point there.
+// beside a copy of it. Its paths go from where it lies, so that the directory can be moved.
 #include <cstdio>
 #include <filesystem>
 
@@ -35,12 +35,7 @@ int main(int argc, char** argv) {
     const auto Project = Program_Path(argv[1]);
     const auto Home = Program_Path(Dir);
     if (!Project || !Home || !Load_Project(*Project)) return 1;
-    Carte = *Home + "\\Island.bmp";
-    NameBgl = *Home + "\\Island.bgl";
-    NameBglExcl = *Home + "\\Island_Excl.bgl";
-    Dir_LCWC = *Home + "\\Classes";
-    Dir_Raw = *Home + "\\Raw";
-    const bool Made = Dir_Create(Dir_LCWC) && Dir_Create(Dir_Raw) &&
+    const bool Made = Dir_Create(*Home + "\\" + Dir_LCWC) && Dir_Create(*Home + "\\" + Dir_Raw) &&
                       Paint_Map(Dir / "Island.bmp") && Save_Project(1, *Home + "\\Island.LWM");
     return Made ? 0 : 1;
 }

@@ -9,14 +9,16 @@ const char Cli_Help[] =
     R"(terrafold-cli - scenery generation without a window
 
 Usage:
-  terrafold-cli generate PROJECT [--app-path DIR] [--language FR|US] [--dry-run]
-  terrafold-cli restore-outputs PROJECT [--app-path DIR] [--language FR|US]
-  terrafold-cli play SCRIPT [--app-path DIR] [--language FR|US] [--canvas WxH]
+  terrafold-cli generate PROJECT [--app-path DIR] [--language FR|US] [--create]
+                         [--dry-run]
+  terrafold-cli restore-outputs PROJECT [--app-path DIR] [--language FR|US] [--create]
+  terrafold-cli play SCRIPT [--app-path DIR] [--language FR|US] [--create]
+                     [--canvas WxH]
   terrafold-cli play --journal FILE
   terrafold-cli resave IN OUT
   terrafold-cli info PROJECT
   terrafold-cli texture IN OUT.bmp [--palette FILE]
-  terrafold-cli --help | --version
+  terrafold-cli --help | -h | --version
 
 generate  writes the scenery sources of PROJECT (a .LWM file) and compiles them with
           the outside tools. Prints one line for each thing that happens, in order:
@@ -42,6 +44,7 @@ Options of generate, restore-outputs and play:
   --app-path DIR     directory of the outside tools, where the sources go as well
                      (default: TERRAFOLD_HOME, else the program's own directory if it
                      can be written, else the user's data directory)
+  --create           makes that directory if it is not there
   --language FR|US   language of the messages (default: as in the settings)
   --dry-run          (generate) starts no outside tool and takes every start as a success
   --canvas WxH       (play) size of the canvas in pixels (default: 801x601)
@@ -49,9 +52,10 @@ Options of generate, restore-outputs and play:
 Option of texture:
   --palette FILE     colours of textures of type R8 (default: Fs5.pal of the home)
 
-Exit status: 0 all well, 1 a message was shown, an output is missing or IN is no
-texture, 2 wrong usage, 3 the project could not be opened. Of play: 0 all was played, 2 wrong usage or a line
-that makes no sense, 4 an act that no user could do.
+Exit status: 0 all well, 1 a message was shown, an output is missing, IN is no texture
+or the output could not be printed, 2 wrong usage, 3 the project could not be opened.
+Of play: 0 all was played, 2 wrong usage or a line that makes no sense, 4 an act that no
+user could do.
 )";
 
 namespace {
@@ -103,6 +107,8 @@ void Parse_Option(const std::string& Word, Word_List& Words, Cli_Arguments& A) {
     std::string Size;
     if (Plays && Word == "--journal") {
         A.Is_Journal = true;
+    } else if (Word == "--create") {
+        A.Create = true;
     } else if (Generates && Word == "--dry-run") {
         A.Dry_Run = true;
     } else if (Plays && Take_Value(Word, "--canvas", Words, Size)) {

@@ -16,6 +16,7 @@ struct Cli_Arguments {
     std::string Palette;   // --palette, the system's path; empty when not given
     bool Is_Journal = false;  // --journal: Project is a journal to be told of
     bool Dry_Run = false;
+    bool Create = false;                           // --create: App_Dir is made if it is not there
     Long Canvas_Width = 801, Canvas_Height = 601;  // --canvas
 
     std::string Error;  // what is wrong with the command line; empty when it is right

@@ -3,6 +3,7 @@
 
 #include <chrono>
 
+#include "platform/paths.h"
 #include "platform/terminal.h"
 #include "platform/text1252.h"
 
@@ -47,6 +48,7 @@ void Cli_Host::Print(std::string_view Line) {
 
 Int Cli_Host::Show_Box(const Box& B) {
     Any_Message_ = true;
+    Last_Message_ = As_One_Line(B.Text);
     Print("message " + std::to_string(B.Num) + " " + B.Text);
     return Silent_Host::Show_Box(B);
 }
@@ -76,5 +78,5 @@ bool Cli_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
 
 void Cli_Host::Note_File(File_Event Event, std::string_view Path) {
     if (Event == File_Event::Missing) Any_Message_ = true;
-    Print(Event_Word(Event) + std::string(Path));
+    Print(Event_Word(Event) + Shown_Path(Path));
 }

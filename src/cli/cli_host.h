@@ -16,6 +16,8 @@ public:
 
     /// Whether a message was shown, or an output is missing.
     bool Any_Message() const { return Any_Message_; }
+    /// The text of the message shown last, on one line.
+    const std::string& Last_Message() const { return Last_Message_; }
 
     Int Show_Box(const Box& B) override;
     Form_End Run_Form(std::string_view Form) override;
@@ -34,6 +36,7 @@ private:
     bool Shows_Progress_;
     bool Progress_Is_Up_ = false;
     bool Any_Message_ = false;
+    std::string Last_Message_;
     std::string Name_;   // what is being made
     std::string Stage_;  // how far it is
 };

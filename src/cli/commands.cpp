@@ -69,6 +69,10 @@ bool Set_Up_App_Path(const Cli_Arguments& A) {
         Complain("no home of the program can have a quotation mark in its path: " + To_Utf8(*Dir));
         return false;
     }
+    if (Dir && !A.App_Dir.empty() && !A.Create && !Dir_Exists(*Dir)) {
+        Complain("there is no directory " + A.App_Dir + ": --create makes it");
+        return false;
+    }
     if (!Dir || !Prepare_App_Dir(*Dir)) {
         Complain(
             "no directory for resources and sources can be written" +
@@ -97,7 +101,10 @@ int With_Home(const Cli_Arguments& A, void (*Work)()) {
     Gen_Install();
     const Home_Turn Turn;
     if (!Turn.Is_Taken()) return Message_Shown;
-    if (!Open_Typed(A.Project)) return Status_Not_Opened();
+    if (!Open_Typed(A.Project)) {
+        if (Host.Any_Message()) Complain(To_Utf8(Host.Last_Message()));
+        return Status_Not_Opened();
+    }
     Work();
     return Host.Any_Message() ? Message_Shown : All_Well;
 }
@@ -108,6 +115,10 @@ int Resave(const Cli_Arguments& A) {
     if (!Open_Typed(A.Project)) return Status_Not_Opened();
     const auto Target = Typed_Path(A.Target);
     if (!Target) return Wrong_Usage;
+    if (File_Same(Nom_Projet, *Target)) {
+        Complain("IN and OUT are the same file: " + A.Target);
+        return Message_Shown;
+    }
     const bool Saved = Save_Project(1, *Target);
     return Saved && !Host.Any_Message() ? All_Well : Message_Shown;
 }
@@ -213,6 +224,13 @@ int Run(const Cli_Arguments& A) {
     }
 }
 
+// A script that reads the output must know when it is not whole.
+int Checked(int Status) {
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return Status;
+    Complain("the output could not be printed");
+    return Status == All_Well ? Message_Shown : Status;
+}
+
 }  // namespace
 
 int Cli_Run(const std::vector<std::string>& Words) {
@@ -224,9 +242,9 @@ int Cli_Run(const std::vector<std::string>& Words) {
     }
     if (A.What == Command::Help || A.What == Command::Version) {
         std::fputs(A.What == Command::Help ? Cli_Help : "terrafold-cli 5.0\n", stdout);
-        return All_Well;
+        return Checked(All_Well);
     }
     int Status = Message_Shown;
     if (!Within_Memory([&] { Status = Run(A); })) Complain("this needs more memory than there is");
-    return Status;
+    return Checked(Status);
 }

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "core/model.h"
+#include "core/project_paths.h"
 #include "gen/source_frame.h"
 #include "platform/paths.h"
 #include "platform/text1252.h"
@@ -87,10 +88,10 @@ std::string Counts() {
 }
 
 std::string Map() {
-    const std::string Found = File_Locate(Carte, Nom_Projet);
+    const std::string Found = Map_Path();
     return Object(2)
-        .Put("file", Carte)
-        .Raw("found", File_Exists(Found) ? Quoted(Found) : "null")
+        .Put("file", Shown_Path(In_Project(Carte)))
+        .Raw("found", File_Exists(Found) ? Quoted(Shown_Path(Found)) : "null")
         .Put("width", Map_Width)
         .Put("height", Map_Height)
         .Done();
@@ -107,15 +108,15 @@ std::string Extent(Double North, Double South, Double East, Double West) {
 
 // What generating may leave behind, by kind.
 std::string Outputs() {
-    const std::string Stem = Bgl_Stem();
+    const std::string Stem = Shown_Path(Bgl_Stem());
     return Object(2)
-        .Put("exclusions", NameBglExcl)
+        .Put("exclusions", Shown_Path(In_Project(NameBglExcl)))
         .Put("remesh", Stem + "_2.bgl")
         .Put("land_water", Stem + "_3.bgl")
         .Put("textured_polygons", Stem + "_5.bgl")
         .Put("lines", Stem + "_9.bgl")
         .Put("night_lines", Stem + "_9???.bgl")
-        .Put("classes", Dir_LCWC)
+        .Put("classes", Shown_Path(In_Project(Dir_LCWC)))
         .Done();
 }
 
@@ -123,7 +124,7 @@ std::string Outputs() {
 
 std::string Project_Info() {
     return Object(1)
-               .Put("project", Nom_Projet)
+               .Put("project", Shown_Path(Nom_Projet))
                .Put("simulator", std::string(FS_CFS == 1 ? "CFS2" : "FS"))
                .Raw("counts", Counts())
                .Raw("map", Map())

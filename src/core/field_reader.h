@@ -38,10 +38,17 @@ inline std::optional<Double> Stated_Version() {
     return Val(Cur_Token.substr(1, 3));
 }
 
+/// A line of a file, as a message tells it: "/home/me/p.LWM, line 7". Path may be empty.
+std::string Line_Of_File(std::string_view Path, Long Line);
+
 class Field_Reader {
 public:
-    bool Is_Damaged() const { return Damaged_; }
-    void Damage() { Damaged_ = true; }
+    bool Is_Damaged() const { return Damaged_Line_ != 0; }
+    void Damage() {
+        if (!Is_Damaged()) Damaged_Line_ = Reader_Line();
+    }
+    /// The line at which the file was found to be damaged, 0 when it is not.
+    Long Damaged_Line() const { return Damaged_Line_; }
 
     /// Goes to the next line that is not empty. The line behind the last record of a project
     /// file, "End", holds nothing: where it is met, lines are missing.
@@ -70,5 +77,5 @@ public:
 private:
     static constexpr std::size_t Longest_String = 32767;
 
-    bool Damaged_ = false;
+    Long Damaged_Line_ = 0;
 };

@@ -171,6 +171,13 @@ void Journal_End() {
     The_Journal = {};
 }
 
+void Journal_Leave() {
+    if (!The_Journal.Is_On) return;
+    History_Act_Ended();
+    Journal_Sync();
+    The_Journal = {};
+}
+
 void Journal_Sync() {
     if (The_Journal.File) The_Journal.File->Sync();
 }

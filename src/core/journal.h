@@ -32,6 +32,9 @@ void Journal_Saved(std::uint64_t Sum_Of_File);
 void Journal_Begin_Anew();
 /// The project is closed: the journal goes.
 void Journal_End();
+/// The program ends without having asked whether to save: the journal stays as it is, for the
+/// next start.
+void Journal_Leave();
 /// What it holds is on the disk when this returns.
 void Journal_Sync();
 

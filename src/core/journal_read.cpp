@@ -1,5 +1,6 @@
 // core/journal_read.cpp - reading and telling of a journal that was left behind.
 #include "core/journal_read.h"
+#include "platform/paths.h"
 
 #include <algorithm>
 
@@ -119,7 +120,7 @@ std::vector<std::string> Journal_Report(const Journal& J) {
         case Journal::State::Good:
             break;
     }
-    Out.push_back("project " + std::string(J.Path) +
+    Out.push_back("project " + Shown_Path(J.Path) +
                   (J.Model.empty() ? " as in its file" : ", whole in the journal"));
     Out.push_back("steps " + std::to_string(J.Nb_Acts()));
     std::size_t N = 0;

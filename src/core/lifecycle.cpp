@@ -12,6 +12,7 @@
 #include "core/names.h"
 #include "core/program.h"
 #include "core/project_file.h"
+#include "core/project_watch.h"
 #include "core/settings.h"
 #include "core/view_calls.h"
 #include "core/within_memory.h"
@@ -24,11 +25,12 @@ namespace {
 constexpr char Project_Filter[] = "Terrafold (*.LWM)|*.LWM";
 
 void Show_Title() {
-    The_Host().Set_Caption("Frm", std::string(Program_Title) + "  " + Nom_Projet);
+    The_Host().Set_Caption("Frm", std::string(Program_Title) + "  " + Shown_Path(Nom_Projet));
 }
 
 // What a project needs to be worked on once its model stands.
 void Begin_Editing(bool As_On_Disk) {
+    Project_Seen_First(Nom_Projet);
     History_Start();
     Journal_Start(As_On_Disk);
     Show_Title();
@@ -58,7 +60,7 @@ std::optional<std::string> Ask_Project_File(const File_Question& Q) {
     for (;;) {
         std::optional<std::string> Path = The_Host().Ask_File(Q);
         if (!Path || Name_Valid(Path_Name(*Path))) return Path;
-        Msg_Show(1);
+        Msg_Wrong_Value({}, Path_Name(*Path), Name_Rule_Text());
     }
 }
 
@@ -69,11 +71,12 @@ void End_Failed_Opening() {
 }
 
 bool Show_Loaded(bool As_On_Disk) {
+    const std::string Former_Map = Carte;  // one that is missing is asked for
     bool Is_Shown = false;
     const bool Fits = Within_Memory([&] {
         if (The_View.Tiles_Build && !The_View.Tiles_Build()) return;
         Recent_Update(Nom_Projet, 1);
-        Begin_Editing(As_On_Disk);
+        Begin_Editing(As_On_Disk && Carte == Former_Map);
         Is_Shown = true;
     });
     if (Is_Shown) return true;
@@ -104,8 +107,9 @@ bool Ask_Save() {
     const std::string Question = In_Language("Do you want to save ",
                                              "Voulez-vous enregistrer les modifications apport\xE9"
                                              "es \xE0 ");
-    const Int Answer = The_Host().Show_Box({.Text = Question + Upper_1252(Nom_Projet) + " ?",
-                                            .Style = Box_Question + Box_Yes_No_Cancel});
+    const Int Answer =
+        The_Host().Show_Box({.Text = Question + Upper_1252(Shown_Path(Nom_Projet)) + " ?",
+                             .Style = Box_Question + Box_Yes_No_Cancel});
     if (Answer == Button_Yes) return Save_Project(0, {});
     return Answer == Button_No;
 }
@@ -114,6 +118,7 @@ bool Load_Project(std::string_view Path) {
     const std::string Wanted(Path);  // Path may be a view of what is replaced
     Nom_Projet = Wanted;
     Projet_Open = 0;
+    Project_Seen(Wanted);
     Read_Project_File(Wanted);
     if (Load_Failed != 0) return false;
     Projet_Open = 1;
@@ -138,6 +143,7 @@ void Close_View() {
     History_End();
     Call(The_View.History_Show);
     Journal_End();
+    Project_Unseen();
     Call(The_View.Forms_Close);
     Call(The_View.Tiles_Remove);
     Call(The_View.Mode_Leave);
@@ -166,6 +172,7 @@ void Cmd_New() {
     }
     Projet_Open = 1;
     Init_Tables();
+    Project_Unseen();
     Call(The_View.View_Reset);
     Call(The_View.Tiles_Show);
     Recent_Update(Nom_Projet, 1);
@@ -204,7 +211,7 @@ void Open_From_Outside(std::string_view Path) {
     const std::string Wanted(Path);
     if (!Leave_Project()) return;
     if (!Name_Valid(Path_Name(Wanted))) {
-        Msg_Show(1);
+        Msg_Wrong_Value({}, Path_Name(Wanted), Name_Rule_Text());
         return;
     }
     Open_In_View(Wanted);
@@ -237,8 +244,9 @@ void Mnu_Reinit() {
     if (Projet_Open == 0) return;
     const std::string Question =
         In_Language("Do you want to really initialize ", "Voulez-vous r\xE9llement initialiser ");
-    const Int Answer = The_Host().Show_Box(
-        {.Text = Question + Upper_1252(Nom_Projet) + " ?", .Style = Box_Question + Box_Yes_No});
+    const Int Answer =
+        The_Host().Show_Box({.Text = Question + Upper_1252(Shown_Path(Nom_Projet)) + " ?",
+                             .Style = Box_Question + Box_Yes_No});
     if (Answer != Button_Yes) return;
     Call(The_View.Mode_Leave);
     if (Nb_Ima != 0) Call(The_View.Ima_Unload);

@@ -5,7 +5,9 @@
 // the host; tiles, view and editing modes through view_calls.h.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,14 +21,30 @@ struct Start_Options {
     std::string Language = {};  // for this run, in the place of that of the settings
 };
 
+/// What became of a start.
+enum class Start_Outcome {
+    Started,
+    Refused,     // after a message: a second instance, or a display that cannot serve
+    Handed_Over  // the instance that runs has been given the project of the command line
+};
+
 /// The start of the program, with the command line behind the program's name and the directory
-/// that App_Path is to be. Opens the project of the command line. False when the program must
-/// end, after a message: a second instance, or a display that cannot serve.
-bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
-                   const Start_Options& Options = {});
+/// that App_Path is to be. Opens the project of the command line. Unless it has started the program
+/// must end.
+Start_Outcome Program_Start(std::string_view Command_Line, std::string_view App_Dir,
+                            const Start_Options& Options = {});
+
+/// A project that a second start has handed over, and the descriptor that can be read when there
+/// is one (instance_door.h).
+std::optional<std::string> Handed_Over_Project();
+std::intptr_t Handed_Over_Descriptor();
 
 /// The end of the program: releases map tiles, pictures, tables and the one-instance lock.
 void Program_End();
+
+/// The same when the user could not be asked whether to save: the journal stays, and the next
+/// start offers it.
+void Program_End_Unasked();
 
 /// Lets another instance of the program start.
 void Instance_Release();

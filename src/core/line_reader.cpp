@@ -8,7 +8,8 @@ namespace {
 
 constexpr Long First_Field_Column = 5;
 
-std::string_view Rest;          // behind the present line
+std::string_view Rest;  // behind the present line
+Long Line_Number = 0;
 bool Token_Ended_Line = false;  // the token taken last reached the end of its line
 
 char At(Long Pos) {
@@ -30,6 +31,7 @@ Long Find(char C, Long Pos) {
 std::string_view Take_Line() {
     const std::size_t End = std::min(Rest.find('\n'), Rest.size());
     std::string_view Line = Rest.substr(0, End);
+    ++Line_Number;
     Rest.remove_prefix(std::min(End + 1, Rest.size()));
     if (Line.ends_with('\r')) Line.remove_suffix(1);
     return Line;
@@ -39,6 +41,7 @@ std::string_view Take_Line() {
 
 void Reader_Open(std::string_view Text) {
     Rest = Text;
+    Line_Number = 0;
     Cur_Line = {};
     Cur_Token = {};
     Cur_Len = 0;
@@ -85,6 +88,10 @@ void Next_Quoted() {
 
 bool Line_Is_Used_Up() {
     return Token_Ended_Line || Cur_Pos > Cur_Len;
+}
+
+Long Reader_Line() {
+    return Line_Number;
 }
 
 std::size_t Reader_Bytes_Left() {

@@ -35,5 +35,8 @@ void Next_Quoted();
 /// True when Next_Token has nothing more to take, the last token having ended the line.
 bool Line_Is_Used_Up();
 
+/// The number of the present line in the text, from 1, empty lines counted.
+Long Reader_Line();
+
 /// How many bytes are left behind the present line.
 std::size_t Reader_Bytes_Left();

@@ -58,3 +58,13 @@ Int Msg_Show(Int Num) {
 Int Msg_Show_Text(Int Num, std::string_view Extra) {
     return Show(Num, "\r\n" + std::string(Extra));
 }
+
+Int Msg_Wrong_Value(std::string_view Label, std::string_view Typed, std::string_view Allowed) {
+    while (Label.ends_with(':') || Label.ends_with(' ')) Label.remove_suffix(1);
+    std::string Extra(Label);
+    if (!Extra.empty()) Extra += In_Language(": ", " : ");
+    Extra += '"' + std::string(Typed) + '"';
+    if (!Allowed.empty())
+        Extra += In_Language("; allowed: ", " ; permis : ") + std::string(Allowed);
+    return Msg_Show_Text(1, Extra);
+}

@@ -29,3 +29,7 @@ Int Msg_Show(Int Num);
 
 /// The same with Extra on a line of its own.
 Int Msg_Show_Text(Int Num, std::string_view Extra);
+
+/// Message 1 with a line that says what was typed, into what field if Label is not empty, and
+/// what is allowed there, if that is known.
+Int Msg_Wrong_Value(std::string_view Label, std::string_view Typed, std::string_view Allowed);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/program.h"
 #include "platform/text1252.h"
 
 namespace {
@@ -24,6 +25,16 @@ bool Name_Valid(std::string_view Name) {
     const std::size_t Behind = Name.size() - Dot - 1;
     if (Behind < 1 || Behind > Max_Extension) return false;
     return Name[Dot - 1] != ' ' && Name.find('.', Dot + 1) == std::string_view::npos;
+}
+
+std::string Name_Rule_Text() {
+    return std::string(
+               In_Language("letters, digits, blanks and ", "lettres, chiffres, blancs et ")) +
+           "_.!#$%&'()-~{}" +
+           In_Language(", no blank first, one dot with one to three characters behind it",
+                       ", sans blanc au d\xE9"
+                       "but, un seul point suivi d'un \xE0 trois "
+                       "caract\xE8res");
 }
 
 void Path_Split(std::string_view Path, std::string& Dir, std::string& Name, Byte& Err) {

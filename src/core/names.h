@@ -11,6 +11,9 @@
 /// characters behind it.
 bool Name_Valid(std::string_view Name);
 
+/// That rule in words, in the program's language.
+std::string Name_Rule_Text();
+
 /// Parts Path, trimmed, at its last "\" into Dir (without that "\") and Name. Err is 1, and
 /// Dir and Name stay as they were, when Path is empty, ends in "\", has its only "\" at the
 /// start, or its name is not valid.

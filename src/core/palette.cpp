@@ -3,6 +3,7 @@
 
 #include "core/host.h"
 #include "platform/file_reader.h"
+#include "platform/paths.h"
 
 namespace {
 
@@ -35,5 +36,5 @@ void Pal_Tell_If_Lacking() {
                           "not whole:",
                           "Les textures de type R8 sont affich\xE9"
                           "es en gris : cette palette manque ou n'est pas compl\xE8te :") +
-              ("\r\n" + App_Path) + "\\Fs5.pal");
+              ("\r\n" + Shown_Path(App_Path + "\\Fs5.pal")));
 }

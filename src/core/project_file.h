@@ -32,8 +32,8 @@ inline Int V24_Upgrade = 0;  // one of the four is set and the file is of versio
 /// out, a plain box, and empties it. Nom_Projet is not touched in any case.
 void Read_Project_File(std::string_view Path);
 
-/// The same for the bytes of a project file.
-void Read_Project_Text(std::string_view Text);
+/// The same for the bytes of the project file Path.
+void Read_Project_Text(std::string_view Text, std::string_view Path = {});
 
 /// Writes the open project to Nom_Projet, or as a copy to New_Path when Save_As is 1; message
 /// 14 when that is the same. Nothing happens without an open project. The file appears whole

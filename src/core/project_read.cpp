@@ -18,6 +18,7 @@
 #include "core/view_calls.h"
 #include "core/within_memory.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 
 namespace {
 
@@ -39,6 +40,7 @@ class Project_Reader : private Field_Reader {
 public:
     /// False when the file is damaged.
     bool Read_All();
+    using Field_Reader::Damaged_Line;
 
 private:
     void Tagged_Line(std::string_view Tag);
@@ -274,10 +276,10 @@ void Ask_Upgrade() {
 }
 
 // Reads the version out of the first line, and shows why a file is refused.
-bool Version_Is_Accepted() {
+bool Version_Is_Accepted(std::string_view Path) {
     const std::optional<Double> Version = Stated_Version();
     if (!Version || *Version > Newest_Version) {
-        Msg_Result = Msg_Show(30);
+        Msg_Result = Msg_Show_Text(30, Line_Of_File(Path, Reader_Line()));
         return false;
     }
     if (*Version < Oldest_Version) {
@@ -297,12 +299,13 @@ void Clear_Model() {
 
 }  // namespace
 
-void Read_Project_Text(std::string_view Text) {
+void Read_Project_Text(std::string_view Text, std::string_view Path) {
     Load_Failed = 0;
     V24_Upgrade = 0;
     Reader_Open(Text);
-    const bool Accepted = Version_Is_Accepted();
-    const bool Sound = Accepted && Project_Reader().Read_All();
+    const bool Accepted = Version_Is_Accepted(Path);
+    Project_Reader Reader;
+    const bool Sound = Accepted && Reader.Read_All();
     ++Model_Changes;
     PtGrid_Forget();
     Reader_Open({});
@@ -313,7 +316,7 @@ void Read_Project_Text(std::string_view Text) {
     Load_Failed = 1;
     if (!Accepted) return;
     Clear_Model();
-    Msg_Result = Msg_Show(31);
+    Msg_Result = Msg_Show_Text(31, Line_Of_File(Path, Reader.Damaged_Line()));
 }
 
 void Read_Project_File(std::string_view Path) {
@@ -321,7 +324,7 @@ void Read_Project_File(std::string_view Path) {
     const bool Fits = Within_Memory([&] {
         const std::optional<std::string> Text = File_Read_Or_Throw(Path);
         Is_There = Text.has_value();
-        if (Is_There) Read_Project_Text(*Text);
+        if (Is_There) Read_Project_Text(*Text, Path);
     });
     if (Fits && Is_There) return;
     Load_Failed = Fits ? 1 : Load_No_Memory;
@@ -331,5 +334,5 @@ void Read_Project_File(std::string_view Path) {
         return Box_No_Memory("The project", "Le projet");
     }
     Plain_Box(In_Language("The file cannot be read: ", "Le fichier ne peut pas \xEAtre lu : ") +
-              std::string(Path));
+              Shown_Path(Path));
 }

@@ -11,8 +11,10 @@
 #include "core/program.h"
 #include "core/project_fields.h"
 #include "core/project_file.h"
+#include "core/project_watch.h"
 #include "platform/clock.h"
 #include "platform/file_owner.h"
+#include "platform/paths.h"
 #include "platform/text1252.h"
 
 namespace {
@@ -211,11 +213,15 @@ bool Save_Project(Int Save_As, std::string_view New_Path) {
         return false;
     }
     const std::string Path = Save_As == 1 ? std::string(New_Path) : Nom_Projet;
-    if (Write_Project_File(Save_As, Path)) return true;
+    if (Save_As == 0 && !Project_May_Be_Replaced(Path)) return false;
+    if (Write_Project_File(Save_As, Path)) {
+        if (Save_As == 0) Project_Seen(Path);
+        return true;
+    }
     Plain_Box(In_Language("The project could not be saved; the file is as it was before: ",
                           "Le projet n'a pas pu \xEAtre enregistr\xE9 ; le fichier est rest\xE9 "
                           "comme avant : ") +
-              Path + Why_Not_Saved(Path));
+              Shown_Path(Path) + Why_Not_Saved(Path));
     return false;
 }
 

@@ -12,6 +12,7 @@
 #include "core/settings.h"
 #include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 #include "platform/text1252.h"
 
 namespace {
@@ -90,14 +91,16 @@ std::string Ref_Dir() {
     return App_Path + "\\Resource\\";
 }
 
-bool Ref_Read_Text(std::string_view Text) {
+bool Ref_Read_Text(std::string_view Text, std::string_view Path) {
     Reader_Open(Text);
     const std::optional<Double> Version = Stated_Version();
     Field_Reader In;
     const Reference R = Version ? Read_Lines(In, *Version) : Reference();
+    const Long First_Line = Reader_Line();
     Reader_Open({});
     if (!Version || In.Is_Damaged()) {
-        Msg_Result = Msg_Show(Version ? 31 : 30);
+        Msg_Result = Msg_Show_Text(Version ? 31 : 30,
+                                   Line_Of_File(Path, Version ? In.Damaged_Line() : First_Line));
         return false;
     }
     Cur_Attr = R.Of_Object;
@@ -110,8 +113,8 @@ bool Ref_Read(std::string_view Path) {
     const std::optional<std::string> Text = File_Read(Path);
     if (!Text)
         Plain_Box(In_Language("The file cannot be read: ", "Le fichier ne peut pas \xEAtre lu : ") +
-                  std::string(Path));
-    if (!Text || !Ref_Read_Text(*Text)) return false;
+                  Shown_Path(Path));
+    if (!Text || !Ref_Read_Text(*Text, Path)) return false;
     Set_Last_Used(Path);
     return true;
 }
@@ -123,7 +126,7 @@ bool Ref_Save(std::string_view Path, std::string_view Name) {
                               "La r\xE9"
                               "f\xE9rence n'a pas pu \xEAtre enregistr\xE9"
                               "e : ") +
-                  std::string(Path));
+                  Shown_Path(Path));
         return false;
     }
     Ref_Name = R.Name;

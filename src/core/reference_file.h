@@ -37,7 +37,7 @@ std::string Ref_Dir();
 bool Ref_Read(std::string_view Path);
 
 /// The same for the bytes of a file, without making it the last one used.
-bool Ref_Read_Text(std::string_view Text);
+bool Ref_Read_Text(std::string_view Text, std::string_view Path = {});
 
 /// Writes Cur_Attr under Name, trimmed and with ' for each double quote, which becomes Ref_Name,
 /// and makes the file the last one used. An older file is replaced in one step; when that fails

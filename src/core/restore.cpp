@@ -30,7 +30,8 @@ bool Ask(const std::string& Text) {
 }
 
 std::string What_It_Holds(const Journal& J) {
-    const std::string Steps = Number(J.Nb_Acts()), Time(J.Steps.back().Time), Of(J.Path);
+    const std::string Steps = Number(J.Nb_Acts()), Time(J.Steps.back().Time),
+                      Of(Shown_Path(J.Path));
     return In_Language("Terrafold did not end properly. The journal holds what was not saved of ",
                        "Terrafold ne s'est pas termin\xE9 normalement. Le journal contient ce qui "
                        "n'\xE9tait pas enregistr\xE9 de ") +
@@ -144,7 +145,7 @@ void Keep_Once_More(Append_File& Claimed, const std::string& Path) {
     if (Was_Kept(Path) || !File_Rename(Path, Kept)) return;
     Plain_Box(In_Language("The journal is kept once more: ",
                           "Le journal est gard\xE9 encore une fois : ") +
-              Kept);
+              Shown_Path(Kept));
 }
 
 void Drop(Append_File& Claimed, const std::string& Path) {
@@ -164,7 +165,7 @@ bool Offer(const std::string& Path) {
                               "it is: ",
                               "Un journal d'une version plus r\xE9"
                               "cente, ou d'une autre machine, est laiss\xE9 tel quel : ") +
-                  Path);
+                  Shown_Path(Path));
         return false;
     }
     if (J.Steps.empty() || Is_In_The_File(J)) {

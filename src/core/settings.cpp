@@ -9,6 +9,7 @@
 #include "core/number_text.h"
 #include "core/program.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 #include "platform/settings_file.h"
 #include "platform/simulator_dir.h"
 #include "platform/text1252.h"
@@ -26,7 +27,7 @@ std::string Recent_Key(std::size_t I) {
 }
 
 void Show_Recent(std::size_t I) {
-    The_Host().Set_Caption("Mnu_File_Prec(" + std::to_string(I) + ")", DerApt[I]);
+    The_Host().Set_Caption("Mnu_File_Prec(" + std::to_string(I) + ")", Shown_Path(DerApt[I]));
 }
 
 void Set_DirFS(std::string Dir) {

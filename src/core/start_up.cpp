@@ -10,11 +10,14 @@
 #include "core/model_ops.h"
 #include "core/palette.h"
 #include "core/program.h"
+#include "core/project_watch.h"
 #include "core/restore.h"
 #include "core/settings.h"
 #include "core/view_calls.h"
 #include "platform/files.h"
+#include "platform/instance_door.h"
 #include "platform/instance_lock.h"
+#include "platform/paths.h"
 #include "platform/text1252.h"
 
 namespace {
@@ -24,13 +27,23 @@ constexpr Int Fewest_Bits_Per_Pixel = 8;
 
 // Held from the start of the program to its end.
 std::optional<Instance_Lock> Lock;
+std::optional<Instance_Door> Door;
 
 bool Is_First_Instance() {
     if (!Lock) Lock.emplace();
-    if (Lock->Take()) return true;
-    Instance_Release();
+    if (!Lock->Take()) {
+        Instance_Release();
+        return false;
+    }
+    if (!Door) Door.emplace();
+    return true;
+}
+
+// For the instance that runs: the project, or else a message here.
+Start_Outcome End_As_Second() {
+    if (Instance_Hand_Over(Cmd_File)) return Start_Outcome::Handed_Over;
     Plain_Box("This program is already running");
-    return false;
+    return Start_Outcome::Refused;
 }
 
 bool Display_Serves() {
@@ -89,7 +102,7 @@ void Tell_No_File(const std::string& Path) {
                    ? In_Language("This is a directory, not a project: ",
                                  "Ceci est un r\xE9pertoire, pas un projet : ")
                    : In_Language("There is no such file: ", "Ce fichier n'existe pas : ")) +
-              Path);
+              Shown_Path(Path));
 }
 
 void Open_Command_Line_Project(std::string_view Command_Line) {
@@ -124,15 +137,15 @@ std::string Command_Line_File(std::string_view Command_Line) {
     return File_Exists(Path) ? Path : std::string();
 }
 
-bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
-                   const Start_Options& Options) {
+Start_Outcome Program_Start(std::string_view Command_Line, std::string_view App_Dir,
+                            const Start_Options& Options) {
     Edit_On = 0;
-    if (Options.Alone && !Is_First_Instance()) return false;
     Cmd_File = Command_Line_File(Command_Line);
+    if (Options.Alone && !Is_First_Instance()) return End_As_Second();
     Set_App_Path(App_Dir);
     if (!Display_Serves()) {
         Instance_Release();
-        return false;
+        return Start_Outcome::Refused;
     }
     if (Options.Alone) Delete_Tiles_Left();
     Pal_Load();
@@ -144,12 +157,26 @@ bool Program_Start(std::string_view Command_Line, std::string_view App_Dir,
     if (Options.Keeps_View) Read_View_Settings();
     Confirm_Parameters();
     if (!Offer_Restore()) Open_Command_Line_Project(Command_Line);
-    return true;
+    return Start_Outcome::Started;
+}
+
+std::optional<std::string> Handed_Over_Project() {
+    return Door ? Door->Take() : std::nullopt;
+}
+
+std::intptr_t Handed_Over_Descriptor() {
+    return Door ? Door->Descriptor() : -1;
+}
+
+void Program_End_Unasked() {
+    Journal_Leave();
+    Program_End();
 }
 
 void Program_End() {
     History_End();
     Journal_End();
+    Project_Unseen();
     Call(The_View.Forms_Close);
     Call(The_View.Tiles_Remove);
     Call(The_View.Ima_Unload);
@@ -161,5 +188,6 @@ void Program_End() {
 }
 
 void Instance_Release() {
+    Door.reset();
     Lock.reset();
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "core/number_text.h"
+#include "core/program.h"
 #include "platform/text1252.h"
 
 namespace {
@@ -37,6 +38,29 @@ bool Is_Number(std::string_view Text) {
     return Text.empty();
 }
 
+// What only keeps a value within its type says nothing to a user.
+bool Is_Said(Double Limit) {
+    constexpr Double Far_Off = 1e30;
+    return std::fabs(Limit) < Far_Off;
+}
+
+std::string Lower_End(const Number_Limits& L) {
+    const bool Is_Open = Is_Said(L.Above) && L.Above >= L.Min;
+    if (Is_Open && !L.Whole)
+        return In_Language(" above ", " au-dessus de ") + Shown_Number(L.Above);
+    if (!Is_Open && !Is_Said(L.Min)) return {};
+    return In_Language(" from ", " de ") + Shown_Number(Is_Open ? L.Above + 1 : L.Min);
+}
+
+std::string Upper_End(const Number_Limits& L, bool Is_Second) {
+    const bool Is_Open = Is_Said(L.Below) && L.Below <= L.Max;
+    if (Is_Open && !L.Whole)
+        return std::string(Is_Second ? In_Language(" and", " et") : "") +
+               In_Language(" below ", " au-dessous de ") + Shown_Number(L.Below);
+    if (!Is_Open && !Is_Said(L.Max)) return {};
+    return In_Language(" to ", " \xE0 ") + Shown_Number(Is_Open ? L.Below - 1 : L.Max);
+}
+
 std::string With_Zero(std::string_view Num) {
     std::string Text(Num);
     const std::size_t First = Text.starts_with('-') ? 1 : 0;
@@ -49,6 +73,13 @@ std::string With_Zero(std::string_view Num) {
 bool Within(Double X, const Number_Limits& Limits) {
     return std::isfinite(X) && Limits.Min <= X && Limits.Above < X && X <= Limits.Max &&
            X < Limits.Below && (!Limits.Whole || X == std::trunc(X));
+}
+
+std::string Limits_Text(const Number_Limits& Limits) {
+    const std::string Lower = Lower_End(Limits);
+    return (Limits.Whole ? In_Language("a whole number", "un nombre entier")
+                         : In_Language("a number", "un nombre")) +
+           Lower + Upper_End(Limits, !Lower.empty());
 }
 
 std::optional<Double> Typed_Number(std::string_view Text, const Number_Limits& Limits) {

@@ -23,6 +23,9 @@ struct Number_Limits {
 /// Whether X is finite and within Limits.
 bool Within(Double X, const Number_Limits& Limits);
 
+/// Limits in words, in the program's language: "a whole number from 0 to 63".
+std::string Limits_Text(const Number_Limits& Limits);
+
 /// The number that Text is, blanks round it not counted: a sign, digits with at most one point
 /// or comma among them, an exponent ("-9999", ".5", "2,5", "1E3"). Nothing for any other text,
 /// one beyond a Double included, and for a number outside Limits. "-0" gives 0.

@@ -1,5 +1,6 @@
 // gen/emit_classes.cpp - cells into rasters, and rasters through the terrain tools.
 #include "gen/emit_classes.h"
+#include "core/project_paths.h"
 
 #include <algorithm>
 #include <span>
@@ -140,7 +141,7 @@ bool Is_Directory(const std::string& Dir) {
     Plain_Box(In_Language("No classes are generated, this is no directory: ",
                           "Aucune classe n'est g\xE9n\xE9r\xE9"
                           "e, ceci n'est pas un r\xE9pertoire : ") +
-              Dir);
+              Shown_Path(Dir));
     return false;
 }
 
@@ -148,14 +149,14 @@ bool Is_Directory(const std::string& Dir) {
 bool Directories_Stand() {
     if (The_Host().Is_Dry_Run()) return true;
     const bool Needs_Raw = Dir_Raw_On != 0 || ReUse_Raw != 0;
-    return Is_Directory(Dir_LCWC) && (!Needs_Raw || Is_Directory(Dir_Raw));
+    return Is_Directory(In_Project(Dir_LCWC)) && (!Needs_Raw || Is_Directory(In_Project(Dir_Raw)));
 }
 
 // One square: raster, description, tools. Whether the next one may follow.
 bool Generate_Square(const Class_Kind& Kind, Lod5_Cells Cells) {
     const Lod5_Pos& Square = Cells.front().Pos;
-    const std::string Raw_File = Square_Path(Dir_Raw, Kind, Square, ".Raw");
-    const std::string Bgl = Square_Path(Dir_LCWC, Kind, Square, ".bgl");
+    const std::string Raw_File = Square_Path(In_Project(Dir_Raw), Kind, Square, ".Raw");
+    const std::string Bgl = Square_Path(In_Project(Dir_LCWC), Kind, Square, ".bgl");
     if (!Bgl_May_Be_Made(Bgl)) return true;
     const Class_Raster Class_Grid = Raster_Of(Cells, Raw_File);
     for (const char* Name : {"FicRaw.Raw", "FicTemp.Tmf", "Compress.Tmf", Kind.Inf})

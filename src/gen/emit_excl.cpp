@@ -1,5 +1,6 @@
 // gen/emit_excl.cpp - exclusion records sorted into Areas, Cells and classes.
 #include "gen/emit_excl.h"
+#include "core/project_paths.h"
 
 #include <algorithm>
 #include <span>
@@ -98,13 +99,14 @@ void Write_Source(Source_File& Out, const std::vector<Excl_Area>& Areas) {
 
 void Emit_Excl() {
     const std::vector<Excl_Area> Areas = Group(Sorted_Records());
-    if (Areas.empty() || !Bgl_May_Be_Made(NameBglExcl)) return;
+    const std::string Bgl = In_Project(NameBglExcl);
+    if (Areas.empty() || !Bgl_May_Be_Made(Bgl)) return;
     Show_Stage(NameBglExcl, "Exclude : BGLC.exe");
     Source_File Out(Source_Path("Terrafold$_Excl.ASM"));
     if (!Out.Is_Open()) return;
     Write_Source(Out, Areas);
     if (!Out.Close()) return;
-    const bool Has_Run = Run_BGLC(Out.Path(), NameBglExcl, " ");
-    Bgl_Ended(NameBglExcl, Has_Run);
+    const bool Has_Run = Run_BGLC(Out.Path(), Bgl, " ");
+    Bgl_Ended(Bgl, Has_Run);
     if (!Has_Run) Plain_Box("BGLC.exe not found");
 }

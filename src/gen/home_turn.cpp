@@ -5,6 +5,7 @@
 #include "core/program.h"
 #include "platform/append_file.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 
 namespace {
 
@@ -24,5 +25,5 @@ Home_Turn::Home_Turn() : Lock_(Held.lock()) {
     else
         Plain_Box(In_Language("Another generation is running in this directory: ",
                               "Une autre g\xE9n\xE9ration est en cours dans ce r\xE9pertoire : ") +
-                  App_Path);
+                  Shown_Path(App_Path));
 }

@@ -7,6 +7,7 @@
 #include "core/host.h"
 #include "core/model.h"
 #include "core/program.h"
+#include "core/project_paths.h"
 #include "core/resets.h"
 #include "gen/kept_outputs.h"
 #include "gen/source_frame.h"
@@ -31,12 +32,13 @@ void Protect(std::string_view Path) {
 
 void Protect_All() {
     Protect(Nom_Projet);
-    Protect(Carte);
-    Protect(File_Locate(Carte, Nom_Projet));
+    Protect(In_Project(Carte));
+    Protect(Map_Path());
     for (const Ima& M : Tab_Ima.Rows()) {
-        Protect(M.DirFic);
+        const std::string Picture = In_Project(M.DirFic);
+        Protect(Picture);
         for (const std::string& Name : M.Texture_Name)
-            Protect(std::string(Path_Dir(M.DirFic)) + Name);
+            Protect(std::string(Path_Dir(Picture)) + Name);
     }
     Own_Files.insert("");  // what no path has
 }
@@ -57,7 +59,7 @@ bool Has_Name_Of_Output(std::string_view Path) {
 void Pass_Over(std::string_view Path, const std::string& Why) {
     if (!Refused.emplace(Path).second) return;
     Facts.push_back({.Path = std::string(Path), .State = Output_State::Passed_Over});
-    Plain_Box(Why + std::string(Path));
+    Plain_Box(Why + Shown_Path(Path));
 }
 
 bool Is_Kept(std::string_view Path) {
@@ -129,7 +131,7 @@ void Bgl_Ended(std::string_view Path, bool Have_Run) {
 }
 
 void Delete_Older_Outputs() {
-    if (!NameBglExcl.empty()) Bgl_Delete(NameBglExcl);
+    if (!NameBglExcl.empty()) Bgl_Delete(In_Project(NameBglExcl));
     const std::string Stem = Bgl_Stem();
     for (const std::string& Path : Files_Matching(Stem, "_*.bgl"))
         if (Is_Numbered(Path, Stem.size())) Bgl_Delete(Path);

@@ -10,6 +10,7 @@
 #include "gen/kept_outputs.h"
 #include "gen/outputs.h"
 #include "gen/source_frame.h"
+#include "platform/paths.h"
 
 namespace {
 
@@ -38,7 +39,7 @@ void Restore_Outputs() {
     if (std::ranges::all_of(Outputs, [](const Kept_Output& K) { return K.File.empty(); })) {
         Plain_Box(In_Language("No former outputs are kept of ",
                               "Aucun ancien fichier de sortie n'est gard\xE9 de ") +
-                  Nom_Projet);
+                  Shown_Path(Nom_Projet));
         return;
     }
     for (const Kept_Output& K : Outputs) Bgl_Delete(K.Path);

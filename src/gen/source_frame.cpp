@@ -6,8 +6,10 @@
 
 #include "core/host.h"
 #include "core/program.h"
+#include "core/project_paths.h"
 #include "grid/terrain_grid.h"
 #include "platform/clock.h"
+#include "platform/paths.h"
 
 namespace {
 
@@ -20,7 +22,7 @@ void Box_Not_Made(const std::string& Path) {
     Plain_Box(In_Language("Cannot create the file ",
                           "Impossible de cr\xE9"
                           "er le fichier ") +
-              Path);
+              Shown_Path(Path));
 }
 
 // Path, with nothing there any more.
@@ -99,7 +101,7 @@ void Source_Frame(Source_File& Out, std::string_view Title, const Bgl_Limits& Li
 
 std::string Bgl_Stem() {
     if (NameBgl.size() <= Extension_Size) return {};
-    return NameBgl.substr(0, NameBgl.size() - Extension_Size);
+    return In_Project(NameBgl.substr(0, NameBgl.size() - Extension_Size));
 }
 
 std::string Source_Path(std::string_view Name) {
@@ -120,7 +122,7 @@ void Box_Not_Whole(const std::string& Path) {
     Plain_Box(In_Language("Cannot write the file ",
                           "Impossible d'\xE9"
                           "crire le fichier ") +
-              Path);
+              Shown_Path(Path));
 }
 
 bool Run_Process(std::string_view Cmd_Line, Int Show_Mode) {

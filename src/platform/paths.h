@@ -22,6 +22,11 @@ std::optional<std::filesystem::path> Native_Path(std::string_view Path);
 /// in a divider. Nothing when code page 1252 can't write it or a name in it holds a "\".
 std::optional<std::string> Program_Path(const std::filesystem::path& Path);
 
+/// Path as people on this system write it, in code page 1252: the system's form of one with a root
+/// that can exist here, ending in a divider where Path does. Files and the command lines of tools
+/// keep the program's form.
+std::string Shown_Path(std::string_view Path);
+
 /// The roots from which directories are chosen, each ending in "\\": the drives, and on a POSIX
 /// system "\\" before those of the Wine prefix.
 std::vector<std::string> Drive_List();

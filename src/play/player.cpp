@@ -7,6 +7,7 @@
 #include "core/lifecycle.h"
 #include "core/program.h"
 #include "core/view_calls.h"
+#include "platform/paths.h"
 #include "platform/text1252.h"
 #include "play/script_path.h"
 #include "ui/dialogs/dialogs.h"
@@ -315,7 +316,7 @@ bool Player::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
 }
 
 void Player::Note_File(File_Event Event, std::string_view Path) {
-    Print(Event_Word(Event) + std::string(Path));
+    Print(Event_Word(Event) + Shown_Path(Path));
 }
 
 Play_End Play(const Script& S, const Play_Options& Options,

@@ -134,13 +134,13 @@ void Form_Window::dropEvent(QDropEvent* E) {
     if (!Path) return;
     E->acceptProposedAction();
     QMetaObject::invokeMethod(
-        this,
-        [this, Path = *Path] {
-            Shown_->Do([&](Form& F) {
-                if (F.On_Drop) F.On_Drop(Path);
-            });
-        },
-        Qt::QueuedConnection);
+        this, [this, Path = *Path] { Take_File(Path); }, Qt::QueuedConnection);
+}
+
+void Form_Window::Take_File(const std::string& Path) {
+    Shown_->Do([&](Form& F) {
+        if (F.On_Drop) F.On_Drop(Path);
+    });
 }
 
 Main_Window::Main_Window(Form& F)

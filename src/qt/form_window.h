@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <memory>
+#include <string>
 
 #include "ui/form/form.h"
 
@@ -14,6 +15,8 @@ public:
     Form_Window(Form& F, QWidget* Parent, Qt::WindowFlags Flags);
 
     Form_Widget& Shown() { return *Shown_; }
+    /// What follows when the file Path is given to the window from outside.
+    void Take_File(const std::string& Path);
 
 protected:
     void closeEvent(QCloseEvent* E) override;

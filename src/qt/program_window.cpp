@@ -2,13 +2,18 @@
 #include "qt/program_window.h"
 
 #include <QApplication>
+#include <QSocketNotifier>
+#include <QTimer>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
+#include <utility>
 
 #include "core/lifecycle.h"
 #include "core/program.h"
 #include "core/view_calls.h"
 #include "platform/arguments.h"
+#include "platform/end_signal.h"
 #include "platform/program_dir.h"
 #include "qt/boxes.h"
 #include "qt/busy.h"
@@ -51,15 +56,68 @@ Program_Window::Program_Window(Window_Host& Host) : Host_(Host) {
 
 Program_Window::~Program_Window() = default;
 
-bool Program_Window::Start(std::string_view Command_Line, std::string_view App_Dir) {
+Start_Outcome Program_Window::Start(std::string_view Command_Line, std::string_view App_Dir) {
     Show_When_Laid_Out(*Window_);
     Host_.Tell_Error_Stream(!Command_Line.empty());
-    const bool Started = Program_Start(Command_Line, App_Dir);
+    const Start_Outcome Outcome = Program_Start(Command_Line, App_Dir);
     Host_.Tell_Error_Stream(false);
-    return Started;
+    return Outcome;
 }
 
 namespace {
+
+// What is under way does not come to its end: dialogs are open, or the program works. So what it
+// holds is tidied and nothing returns to it.
+std::unique_ptr<QSocketNotifier> End_On_Signal() {
+    const std::intptr_t Descriptor = End_Signals_Catch();
+    if (Descriptor < 0) return nullptr;
+    auto Coming = std::make_unique<QSocketNotifier>(Descriptor, QSocketNotifier::Read);
+    QObject::connect(Coming.get(), &QSocketNotifier::activated, [] {
+        Program_End_Unasked();
+        std::_Exit(End_Signal_Status());
+    });
+    return Coming;
+}
+
+// Projects that second starts hand over: the window comes to the front at once, and opens them
+// when no dialog is up and no work is under way.
+class Second_Starts {
+public:
+    explicit Second_Starts(Form_Window& Window) : Window_(Window) {
+        const std::intptr_t Descriptor = Handed_Over_Descriptor();
+        Later_.setInterval(Later_Ms);
+        QObject::connect(&Later_, &QTimer::timeout, [this] { Look(); });
+        if (Descriptor < 0) Later_.start();
+        if (Descriptor < 0) return;
+        Coming_ = std::make_unique<QSocketNotifier>(Descriptor, QSocketNotifier::Read);
+        QObject::connect(Coming_.get(), &QSocketNotifier::activated, [this] { Look(); });
+    }
+
+private:
+    static constexpr int Later_Ms = 300;
+
+    void Look() {
+        while (auto Path = Handed_Over_Project()) {
+            Waiting_ = std::move(*Path);
+            Raise();
+        }
+        const bool Waits =
+            !Waiting_.empty() && (Busy::Is_On() || QApplication::activeModalWidget() != nullptr);
+        if (Coming_) Waits ? Later_.start() : Later_.stop();
+        if (!Waits && !Waiting_.empty()) Window_.Take_File(std::exchange(Waiting_, {}));
+    }
+    void Raise() {
+        if (Window_.isMinimized()) Window_.showNormal();
+        Window_.raise();
+        Window_.activateWindow();
+        QApplication::alert(&Window_);
+    }
+
+    Form_Window& Window_;
+    std::string Waiting_;
+    std::unique_ptr<QSocketNotifier> Coming_;
+    QTimer Later_;
+};
 
 // With the quotes that a shell has taken off.
 std::string Command_Line(std::span<const std::string> Project) {
@@ -88,6 +146,9 @@ int Program_Run(std::span<const std::string> Project) {
         return 1;
     }
     Program_Window Program(Host);
-    if (!Program.Start(Command_Line(Project), *App_Dir)) return 1;
+    const auto Ending = End_On_Signal();
+    const Start_Outcome Outcome = Program.Start(Command_Line(Project), *App_Dir);
+    if (Outcome != Start_Outcome::Started) return Outcome == Start_Outcome::Handed_Over ? 0 : 1;
+    const Second_Starts Following(Program.Window());
     return QCoreApplication::exec();
 }

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "core/host.h"
+#include "core/lifecycle.h"
 
 class Form_Window;
 class Window_Host;
@@ -19,8 +20,8 @@ public:
     Program_Window(const Program_Window&) = delete;
     Program_Window& operator=(const Program_Window&) = delete;
 
-    /// Starts the program. False when it must end at once.
-    bool Start(std::string_view Command_Line, std::string_view App_Dir);
+    /// Starts the program, which must end at once unless it has started.
+    Start_Outcome Start(std::string_view Command_Line, std::string_view App_Dir);
     Form_Window& Window() { return *Window_; }
 
 private:
@@ -30,6 +31,6 @@ private:
     Form_Window* Window_;
 };
 
-/// The whole run, with the words of the command line that name a project: 0, or 1 when it could not
-/// start. Needs a QApplication.
+/// The whole run, with the words of the command line that name a project: 0, 1 when it could not
+/// start, or what tells of the signal that has ended it. Needs a QApplication.
 int Program_Run(std::span<const std::string> Project);

@@ -1,5 +1,6 @@
 // tex/bitmap.cpp - the headers of a bitmap file, and its pixels line by line.
 #include "tex/bitmap.h"
+#include "platform/paths.h"
 
 #include <algorithm>
 #include <limits>
@@ -136,5 +137,5 @@ std::string Bitmap_Fault_Text(Bitmap_Fault Fault, std::string_view Path) {
         }
         return "";
     };
-    return std::string(Text()) + "\r\n" + std::string(Path);
+    return std::string(Text()) + "\r\n" + Shown_Path(Path);
 }

@@ -1,4 +1,5 @@
 // tex/texture_fault.cpp - what is wrong with a texture, in words.
+#include "platform/paths.h"
 #include "tex/texture.h"
 
 namespace {
@@ -38,5 +39,5 @@ const char* Wording_Of(Texture_Fault Fault) {
 }  // namespace
 
 std::string Texture_Fault_Text(Texture_Fault Fault, std::string_view Path) {
-    return std::string(Wording_Of(Fault)) + "\r\n" + std::string(Path);
+    return std::string(Wording_Of(Fault)) + "\r\n" + Shown_Path(Path);
 }

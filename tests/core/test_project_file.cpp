@@ -10,6 +10,7 @@
 #include "core/project_test.h"
 #include "core/view_calls.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 #include "support/environment.h"
 
 using Project_File = Project_Test;
@@ -123,7 +124,7 @@ TEST_F(Project_File, AFailedSaveIsToldAndChangesNothing) {
         Host_Of_Test.Boxes.clear();
         EXPECT_FALSE(Save_Project(0, {})) << Path;
         ASSERT_EQ(Host_Of_Test.Boxes.size(), 1U) << Path;
-        EXPECT_TRUE(Host_Of_Test.Boxes[0].Text.ends_with(Path));
+        EXPECT_TRUE(Host_Of_Test.Boxes[0].Text.ends_with(Shown_Path(Path)));
         EXPECT_FALSE(Host_Of_Test.Visible["Fram_Creat_2500"]);
         EXPECT_EQ(Host_Of_Test.Pointer, Pointer_Shape::Normal);
     }
@@ -153,7 +154,7 @@ TEST_F(Project_File, AFileThatCannotBeReadLeavesTheModel) {
         Load_Failed = 0;
         Read_Project_File(Path);
         EXPECT_EQ(Load_Failed, 1);
-        EXPECT_EQ(Host_Of_Test.Boxes.back().Text, "The file cannot be read: " + Path);
+        EXPECT_EQ(Host_Of_Test.Boxes.back().Text, "The file cannot be read: " + Shown_Path(Path));
         EXPECT_EQ(Carte, "C:\\Map.bmp");
     }
 }

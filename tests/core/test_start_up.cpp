@@ -3,7 +3,9 @@
 #include "core/model.h"
 #include "core/project_file.h"
 #include "core/view_calls.h"
+#include "platform/instance_door.h"
 #include "platform/instance_lock.h"
+#include "platform/paths.h"
 #include "support/environment.h"
 #include "support/program_test.h"
 
@@ -18,7 +20,7 @@ protected:
                   "[Terrafold]\r\nLanguage=US\r\nFl1Fois=" + Fl1Fois_Kept + "\r\n");
     }
     bool Start(std::string_view Command_Line = "") {
-        return Program_Start(Command_Line, Dir.Path("App\\"));
+        return Program_Start(Command_Line, Dir.Path("App\\")) == Start_Outcome::Started;
     }
 
 private:
@@ -34,6 +36,12 @@ TEST_F(Start_Up, ASecondInstanceEnds) {
         EXPECT_EQ(Host_Of_Test.Events,
                   (std::vector<std::string>{"message 0 This program is already running"}));
         EXPECT_EQ(Language, "FR") << "nothing was read";
+        Dir.Write("given.LWM", "");
+        Instance_Door Door;
+        EXPECT_EQ(Program_Start(Dir.Path("given.LWM"), Dir.Path("App")),
+                  Start_Outcome::Handed_Over);
+        EXPECT_EQ(Door.Take(), Dir.Path("given.LWM"));
+        EXPECT_EQ(Host_Of_Test.Events.size(), 1U) << "no message";
     }
     EXPECT_TRUE(Start()) << "the other one has ended";
     EXPECT_EQ(Ini_File, Dir.Path("App") + "\\Resource\\Terrafold.Ini");
@@ -73,7 +81,7 @@ TEST_F(Start_Up, TheFirstStartAsksUntilTheParametersAreConfirmed) {
     EXPECT_EQ(Asked, 3);
     EXPECT_EQ(Projet_Open, 1);
     EXPECT_EQ(Nom_Projet, Path);
-    EXPECT_EQ(Host_Of_Test.Caption["Frm"], "Terrafold V5.0 04/10/2003  " + Path);
+    EXPECT_EQ(Host_Of_Test.Caption["Frm"], "Terrafold V5.0 04/10/2003  " + Shown_Path(Path));
     EXPECT_EQ(Host_Of_Test.Pointer, Pointer_Shape::Normal);
     Program_End();
     Confirmed("0");
@@ -122,7 +130,7 @@ TEST_F(Start_Up, TilesOfAKilledProgramAreTakenAway) {
         EXPECT_FALSE(Start());
         EXPECT_TRUE(Dir.Has(Tiles[0])) << "the other one's";
     }
-    EXPECT_TRUE(Program_Start("", Dir.Path("App"), {.Alone = false}));
+    EXPECT_EQ(Program_Start("", Dir.Path("App"), {.Alone = false}), Start_Outcome::Started);
     EXPECT_TRUE(Dir.Has(Tiles[0])) << "perhaps another one's";
     Program_End();
     EXPECT_TRUE(Start());

@@ -43,6 +43,13 @@ protected:
     std::string Without_Dir(std::string Text) const {
         for (std::size_t At; (At = Text.find(Dir.Path())) != std::string::npos;)
             Text.replace(At, Dir.Path().size(), "HOME");
+        // What people are shown has the system's divider.
+        const std::string Here = Dir.Native().generic_string();
+        for (std::size_t At = 0; (At = Text.find(Here, At)) != std::string::npos;) {
+            Text.replace(At, Here.size(), "HOME");
+            for (; At < Text.size() && Text[At] != ' ' && Text[At] != '\n'; ++At)
+                if (Text[At] == '/') Text[At] = '\\';
+        }
         return Text;
     }
 

@@ -12,6 +12,7 @@
 #include "gen/source_frame.h"
 #include "gen/vlines.h"
 #include "gen_test.h"
+#include "platform/paths.h"
 #include "shapes/line/line_collect.h"
 #include "support/rows.h"
 
@@ -160,7 +161,7 @@ TEST_F(Parts, FailuresAreToldInTheUsersLanguage) {
     Dir.Write("App/Some.asm/in the way", "");
     const Source_File Out(Source_Path("Some.asm"));
     EXPECT_FALSE(Out.Is_Open());
-    EXPECT_EQ(Host_Of_Test.Boxes.back().Text, "Cannot create the file " + Out.Path());
+    EXPECT_EQ(Host_Of_Test.Boxes.back().Text, "Cannot create the file " + Shown_Path(Out.Path()));
     Host_Of_Test.Tool = [](std::string_view) { return false; };
     EXPECT_FALSE(Run_BGLC("a.asm", "b.bgl"));
     EXPECT_EQ(Host_Of_Test.Boxes.back().Style, Box_Information);

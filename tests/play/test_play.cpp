@@ -1,4 +1,5 @@
 // tests/play/test_play.cpp - scripts that make no sense, and acts that no user could do.
+#include "platform/paths.h"
 #include "play/play.h"
 
 #include <gtest/gtest.h>
@@ -111,7 +112,7 @@ TEST_F(Play_Test, ActsThatNoUserCouldDo) {
 TEST_F(Play_Test, Questions) {
     const std::string Open = Open_Small();
     const std::string Asked =
-        "message 0 Do you want to save " + Upper_1252(Dir.Path("small.LWM")) + " ?|";
+        "message 0 Do you want to save " + Upper_1252(Shown_Path(Dir.Path("small.LWM"))) + " ?|";
     EXPECT_EQ(Played(Open + "click Mnu_File_Close").substr(0, Asked.size() + 30),
               Asked + "4 line 3: a question has no an");
     EXPECT_EQ(Played(Open + "answer ok\nclick Mnu_File_Close").substr(0, Asked.size() + 41),
@@ -121,11 +122,13 @@ TEST_F(Play_Test, Questions) {
 }
 
 TEST_F(Play_Test, AFieldThatRefusesKeepsTheFocus) {
-    EXPECT_EQ(Played("click Mnu_Param_Gene\ntype DirFS \"no such\"\nchoose Opt_Lang 0\n"
-                     "show Opt_Lang DirFS\nkey Esc\nkey Tab\nkey Enter\nclick Mnu_File_Quit"),
-              "form Frm_PGen|message 1 (501) ????|"
-              "show Opt_Lang text=\"\" value=1 enabled=1 visible=1|"
-              "show DirFS text=\"no such\" value=0 enabled=1 visible=1|end Frm_PGen ok|");
+    EXPECT_EQ(
+        Played("click Mnu_Param_Gene\ntype DirFS \"no such\"\nchoose Opt_Lang 0\n"
+               "show Opt_Lang DirFS\nkey Esc\nkey Tab\nkey Enter\nclick Mnu_File_Quit"),
+        "form Frm_PGen|message 1 (501) ???? FS9 Directory: \"no such\"; allowed: the path of a "
+        "directory that is there|"
+        "show Opt_Lang text=\"\" value=1 enabled=1 visible=1|"
+        "show DirFS text=\"no such\" value=0 enabled=1 visible=1|end Frm_PGen ok|");
 }
 
 TEST_F(Play_Test, TheCanvasHasTheSizeAsked) {

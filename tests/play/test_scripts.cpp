@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -93,6 +94,13 @@ protected:
         return Replaced(Replaced(std::move(Text), "@WDIR@", Dir.Path()), "@DIR@",
                         Dir.Native().generic_string());
     }
+    // Paths below the test's directory in the program's form, whichever they were told in.
+    static std::string In_One_Form(std::string Text) {
+        for (std::size_t At = 0; (At = Text.find("@WDIR@/", At)) != std::string::npos;)
+            for (At += 6; At < Text.size() && !std::strchr(" \"\n", Text[At]); ++At)
+                if (Text[At] == '/') Text[At] = '\\';
+        return Text;
+    }
     // What a script prints, and last how it ended if it did not go well.
     std::string Output_Of(const fs::path& File) {
         std::string Out;
@@ -105,8 +113,9 @@ protected:
         if (End.Status != 0)
             Out += "exit " + std::to_string(End.Status) + " line " + std::to_string(End.Line) +
                    ": " + End.Reason + "\n";
-        Out = Replaced(Replaced(Out, Dir.Path(), "@WDIR@"), Upper_1252(Dir.Path()), "@WDIR@");
-        return To_Utf8(Replaced(Out, Dir.Native().generic_string(), "@DIR@"));
+        for (const std::string& Here : {Dir.Path(), Dir.Native().generic_string()})
+            Out = Replaced(Replaced(std::move(Out), Here, "@WDIR@"), Upper_1252(Here), "@WDIR@");
+        return To_Utf8(In_One_Form(std::move(Out)));
     }
     void Play_And_Compare(const std::string& Name) {
         EXPECT_TRUE(

@@ -34,7 +34,7 @@ protected:
     }
     bool Start(const std::string& Command_Line = {}) {
         P = std::make_unique<Program_Window>(Host);
-        const bool Runs = P->Start(Command_Line, Dir.Path("App"));
+        const bool Runs = P->Start(Command_Line, Dir.Path("App")) == Start_Outcome::Started;
         W = &P->Window();
         Turn();
         return Runs;

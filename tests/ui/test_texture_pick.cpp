@@ -1,4 +1,5 @@
 // tests/ui/test_texture_pick.cpp - the texture picker, picking into a field, previews in dialogs.
+#include "platform/paths.h"
 #include "support/bitmap_file.h"
 #include "support/environment.h"
 #include "support/texture_file.h"
@@ -34,7 +35,7 @@ protected:
 
 TEST_F(Texture_Pick, WanderingAboutAndAccepting) {
     const bool Picked = Pick(Field, [&](Form_Driver& D) {
-        EXPECT_EQ(D.Text("Path"), Dir.Path("T")) << "where the field's file is";
+        EXPECT_EQ(D.Text("Path"), Shown_Path(Dir.Path("T"))) << "where the field's file is";
         EXPECT_EQ(D.Items("Dir1"), (std::vector<std::string>{"..", "Y", "z"}));
         EXPECT_EQ(D.Items("File1"), Files);
         EXPECT_EQ(D.Value("File1"), 0) << "the first is chosen, whatever it is";
@@ -63,7 +64,7 @@ TEST_F(Texture_Pick, WanderingAboutAndAccepting) {
     EXPECT_EQ(Field, Dir.Path("T") + "\\z\\in.r8");
     Field.clear();
     EXPECT_FALSE(Pick(Field, [&](Form_Driver& D) {
-        EXPECT_EQ(D.Text("Path"), Dir.Path("T") + "\\z")
+        EXPECT_EQ(D.Text("Path"), Shown_Path(Dir.Path("T") + "\\z"))
             << "an empty field: where the user was last";
         D.Choose("Dir1", "..");
         D.Double_Click("Dir1");
@@ -108,9 +109,9 @@ TEST_F(Texture_Pick, WhereItStartsTheFirstTime) {
     };
     Dir.Write("FS/scenery/.keep", "");
     const Environment_Scope Simulator("TERRAFOLD_FSDIR", Dir.Native("FS").string());
-    EXPECT_EQ(Start(), Dir.Path("FS"));
+    EXPECT_EQ(Start(), Shown_Path(Dir.Path("FS")));
     const Environment_Scope None("TERRAFOLD_FSDIR", Dir.Native("T").string());
-    EXPECT_EQ(Start(), App_Path) << "no simulator there";
+    EXPECT_EQ(Start(), Shown_Path(App_Path)) << "no simulator there";
 }
 
 TEST_F(Texture_Pick, ASquareIsAskedForUntilThereIsOne) {

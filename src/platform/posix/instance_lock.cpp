@@ -12,11 +12,10 @@
 #include <string>
 #include <system_error>
 
+#include "platform/posix/lock_place.h"
 #include "platform/system.h"
 
 namespace fs = std::filesystem;
-
-namespace {
 
 std::optional<fs::path> Lock_File() {
     if (const auto Own = Env_Text("TERRAFOLD_LOCK")) return fs::path(*Own);
@@ -28,6 +27,8 @@ std::optional<fs::path> Lock_File() {
     if (Error) return std::nullopt;
     return Shared / ("terrafold-" + std::to_string(geteuid()) + ".lock");
 }
+
+namespace {
 
 // -1 when there can be no such file. Others may write in the temporary directory, so a link or
 // a file of another user is not taken.

@@ -116,6 +116,19 @@ std::optional<std::string> Program_Path(const fs::path& Path) {
     return From_Utf8(Text);
 }
 
+std::string Shown_Path(std::string_view Path) {
+    const bool Has_Drive = Begins_With_Drive(Path);
+    if (Has_Drive || Path.starts_with('\\')) {
+        const auto Native = Native_Path(Path);
+        auto Text = Native ? From_Utf8(Native->native()) : std::nullopt;
+        if (Text && Path.ends_with('\\') && !Text->ends_with('/')) *Text += '/';
+        if (Text) return *Text;
+    }
+    std::string Text(Path);
+    if (!Has_Drive) std::replace(Text.begin(), Text.end(), '\\', '/');
+    return Text;
+}
+
 std::vector<std::string> Drive_List() {
     std::vector<std::string> Drives{"\\"};
     std::error_code Error;

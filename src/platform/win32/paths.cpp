@@ -40,6 +40,10 @@ std::optional<std::string> Program_Path(const fs::path& Path) {
     return From_Utf8(Text);
 }
 
+std::string Shown_Path(std::string_view Path) {
+    return std::string(Path);
+}
+
 std::vector<std::string> Drive_List() {
     const DWORD Drives_There = GetLogicalDrives();
     std::vector<std::string> Drives;

@@ -6,6 +6,7 @@
 
 #include "core/model.h"
 #include "core/program.h"
+#include "core/project_paths.h"
 #include "platform/files.h"
 #include "tex/texture.h"
 
@@ -24,7 +25,7 @@ std::size_t Holder(Long I) {
 bool Load(Long I) {
     Picture P;
     std::string Description;
-    if (Texture_Read(Tab_Ima[I].DirFic, Pal_Fs5, P, Description) != Texture_Fault::None)
+    if (Texture_Read(In_Project(Tab_Ima[I].DirFic), Pal_Fs5, P, Description) != Texture_Fault::None)
         return false;
     if (WPicIma.size() <= Holder(I)) WPicIma.resize(Holder(I) + 1);
     WPicIma[Holder(I)] = std::move(P);

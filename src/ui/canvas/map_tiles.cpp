@@ -3,16 +3,19 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 
 #include "core/host.h"
 #include "core/model.h"
 #include "core/number_text.h"
 #include "core/program.h"
+#include "core/project_paths.h"
 #include "core/resets.h"
 #include "core/view_calls.h"
 #include "core/within_memory.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "platform/text1252.h"
 #include "tex/bitmap.h"
 #include "ui/canvas/map_cut.h"
 #include "ui/canvas/view.h"
@@ -96,7 +99,7 @@ std::string Cut(Map_Progress& F, File_Reader& File, const Bitmap_Header& Map,
                                    "coup\xE9"
                                    "e, ceci ne peut pas \xEAtre \xE9"
                                    "crit :")) +
-           "\r\n" + Fault;
+           "\r\n" + Shown_Path(Fault);
 }
 
 bool Has_Too_Many_Tiles(const Bitmap_Header& Map) {
@@ -153,7 +156,7 @@ void Compare_Map_Size() {
     Plain_Box(std::string(In_Language("The map has another size than the project expects: ",
                                       "La carte n'a pas la taille attendue par le projet : ")) +
               Size(Last_Cut.Width, Last_Cut.Height) + In_Language(" instead of ", " au lieu de ") +
-              Size(Map_Width, Map_Height) + "\r\n" + Carte);
+              Size(Map_Width, Map_Height) + "\r\n" + Shown_Path(Carte));
 }
 
 // A tile file is a full square, or it is none of ours.
@@ -162,6 +165,39 @@ Bitmap_Fault Read_Tile(const std::string& Path, Picture& P) {
     if (Fault != Bitmap_Fault::None) return Fault;
     const bool Is_Whole = P.Width == Tile_Size && P.Height == Tile_Size;
     return Is_Whole ? Bitmap_Fault::None : Bitmap_Fault::Size;
+}
+
+// Asks for the map that is not where the project says. False when the user gives none.
+bool Ask_For_Map() {
+    const std::string Named = In_Project(Carte);
+    const std::string Beside = std::string(Path_Dir(Nom_Projet)) + std::string(Path_Name(Named));
+    std::string Text = In_Language("The map of the project is not there. It was looked for here:",
+                                   "La carte du projet est introuvable. Elle a \xE9t\xE9 "
+                                   "cherch\xE9"
+                                   "e ici :");
+    Text += "\r\n" + Shown_Path(Named);
+    if (!Equal_No_Case(Beside, Named)) Text += "\r\n" + Shown_Path(Beside);
+    Text += "\r\n";
+    Text +=
+        In_Language("Do you want to show where it is ?", "Voulez-vous indiquer o\xF9 elle est ?");
+    if (The_Host().Show_Box({.Text = Text, .Style = Box_Question + Box_Yes_No}) != Button_Yes)
+        return false;
+    const auto Path = The_Host().Ask_File({.Mode = File_Question::Kind::Open,
+                                           .Title = In_Language("Map File", "Carte"),
+                                           .Start_Dir = std::string(Path_Dir(Nom_Projet)),
+                                           .File_Name = std::string(Path_Name(Named)),
+                                           .Filter = "BMP (*.Bmp)|*.Bmp"});
+    if (Path) Carte = As_Project_Holds(*Path, Carte);
+    return Path.has_value();
+}
+
+// The map, which may have to be asked for; nothing when there is none.
+std::optional<std::string> Find_Map() {
+    for (;;) {
+        std::string Path = Map_Path();
+        if (File_Exists(Path)) return Path;
+        if (!Ask_For_Map()) return std::nullopt;
+    }
 }
 
 }  // namespace
@@ -254,9 +290,11 @@ void Map_Free_Tiles() {
 
 bool Tiles_Build() {
     Nb_Tiles = Nb_Tile_Rows = Nb_Tile_Cols = 0;
+    const auto Path = Find_Map();
+    if (!Path) return false;
     Int Error = 0;
     Main_Form_Progress Progress;
-    Map_Split_Tiles(Progress, File_Locate(Carte, Nom_Projet), Error);
+    Map_Split_Tiles(Progress, *Path, Error);
     if (Error != 0) return false;
     Take_Tile_Counts();
     Compare_Map_Size();

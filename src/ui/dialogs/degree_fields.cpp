@@ -1,5 +1,6 @@
 // ui/dialogs/degree_fields.cpp - fields for a latitude or a longitude.
 #include "ui/dialogs/degree_fields.h"
+#include "core/program.h"
 
 #include <cctype>
 
@@ -27,6 +28,13 @@ bool Take(Form& F, Degree_Field& D, const std::string& Text) {
     return true;
 }
 
+std::string Degrees_Allowed(bool Is_Lat) {
+    return Is_Lat ? In_Language("a latitude such as N48:30:00 or 48.5, from -90 to 90",
+                                "une latitude comme N48:30:00 ou 48.5, de -90 \xE0 90")
+                  : In_Language("a longitude such as E2:30:00 or 2.5, from -180 to 180",
+                                "une longitude comme E2:30:00 ou 2.5, de -180 \xE0 180");
+}
+
 }  // namespace
 
 void Add_Degree_Fields(Form& F, std::vector<Degree_Field>& Fields) {
@@ -35,7 +43,8 @@ void Add_Degree_Fields(Form& F, std::vector<Degree_Field>& Fields) {
                .Name = D.Name,
                .Words = D.Words,
                .Rule = {.Accept = [&F, &D](const std::string& Text) { return Take(F, D, Text); },
-                        .Held = [&D] { return D.Held; }},
+                        .Held = [&D] { return D.Held; },
+                        .Allowed = [&D] { return Degrees_Allowed(Is_Lat(D)); }},
                .Columns = 20});
         F.Add({.Name = D.Label, .Columns = 20});
     }

@@ -8,6 +8,7 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text1252.h"
+#include "ui/form/field_rules.h"
 
 namespace {
 
@@ -40,6 +41,13 @@ std::size_t Root_Of(const std::string& Path, const std::vector<std::string>& Dri
     return Best;
 }
 
+// A drive of Wine goes by its letter.
+std::vector<std::string> Shown(std::vector<std::string> Drives) {
+    for (std::string& Drive : Drives)
+        if (Drive == "\\") Drive = Shown_Path(Drive);
+    return Drives;
+}
+
 }  // namespace
 
 std::string Path_Joined(const std::string& Dir, const std::string& Name) {
@@ -51,12 +59,13 @@ Dir_Lists::Dir_Lists(Form& F, Events E) : Form_(F), Events_(std::move(E)), Drive
            .Name = "Path",
            .Words = {"Path:", "Chemin :"},
            .Rule = {.Accept = [this](const std::string& Text) { return Take_Path(Text); },
-                    .Held = [this] { return Dir_; }},
+                    .Held = [this] { return Shown_Path(Dir_); },
+                    .Allowed = Dir_That_Is_There},
            .Columns = 48});
     F.Add({.Kind = Control_Kind::Combo,
            .Name = "Drive1",
            .Words = {"Drive:", "Lecteur :"},
-           .Items = Drives_,
+           .Items = Shown(Drives_),
            .On_Click = [this] { Change_Drive(); }});
     F.Add({.Kind = Control_Kind::List,
            .Name = "Dir1",
@@ -74,7 +83,7 @@ void Dir_Lists::List_Dir(const std::string& Path) {
     std::vector<std::string> Names = Dir_Dirs(Dir_);
     const bool Is_Root = Dir_.ends_with('\\');
     if (!Is_Root) Names.insert(Names.begin(), Up);
-    Form_.Set_Text("Path", Dir_);
+    Form_.Set_Text("Path", Shown_Path(Dir_));
     Form_.Set_Value("Drive1", static_cast<Long>(Root_Of(Dir_, Drives_)));
     Form_.Set_Items("Dir1", std::move(Names), -1);
     if (Events_.On_Dir) Events_.On_Dir();

@@ -1,6 +1,7 @@
 // ui/dialogs/frm_cvll1.cpp - latitudes and longitudes from one text form into the others.
 #include <array>
 
+#include "core/program.h"
 #include "core/typed_number.h"
 #include "geo/latlon_text.h"
 #include "ui/dialogs/dialogs.h"
@@ -45,6 +46,19 @@ std::string In_Degrees(const Position_Field& P) {
     return Shown_Number(Round_Degrees(P.Deg));
 }
 
+std::string Allowed(const Position_Field& P) {
+    const char* Such_As = In_Language("a text such as ", "un texte comme ");
+    switch (P.Of) {
+        case Decimal:
+            return Limits_Text({});
+        case Igc:
+            return std::string(Such_As) + (P.Is_Lat ? "4830000N" : "00230000E");
+        case Seconds:
+            break;
+    }
+    return std::string(Such_As) + (P.Is_Lat ? "N48:30:00" : "E2:30:00");
+}
+
 class CvLL_Form final : public Form {
 public:
     CvLL_Form()
@@ -86,7 +100,8 @@ private:
         Add({.Kind = Control_Kind::Text,
              .Name = P.Name,
              .Rule = {.Accept = [&P](const std::string& Text) { return Take(P, Text); },
-                      .Held = [&P] { return P.Held; }},
+                      .Held = [&P] { return P.Held; },
+                      .Allowed = [&P] { return Allowed(P); }},
              .Columns = 20});
         for (const char* Form : {"", "A"})
             Add({.Kind = Control_Kind::Text,

@@ -3,6 +3,7 @@
 
 #include "core/host.h"
 #include "core/program.h"
+#include "platform/paths.h"
 #include "ui/dialogs/dialogs.h"
 #include "ui/dialogs/dir_lists.h"
 
@@ -33,7 +34,7 @@ private:
         Close(Form_End::Ok);
     }
     static void Tell_Not_Ready(const std::string& Drive) {
-        Plain_Box(Drive + In_Language(" is not ready", " n'est pas pr\xEAt"));
+        Plain_Box(Shown_Path(Drive) + In_Language(" is not ready", " n'est pas pr\xEAt"));
     }
 
     Dir_Lists Lists_{

@@ -4,6 +4,7 @@
 #include "core/model.h"
 #include "core/model_ops.h"
 #include "core/program.h"
+#include "core/project_paths.h"
 #include "platform/files.h"
 #include "ui/canvas/edit_state.h"
 #include "ui/dialogs/dialogs.h"
@@ -59,7 +60,10 @@ private:
              .Words = Seasons[I],
              .Rule = Text_Rule(
                  Cur_Ima.Texture_Name[I],
-                 [](const std::string& Text) { return Text.empty() || File_Exists(Text); }),
+                 [](const std::string& Text) {
+                     return Text.empty() || File_Exists(In_Project(Text));
+                 },
+                 File_Or_None),
              .Columns = 48,
              .No_Quotes = true,
              .On_Choose = [this, I] { Choose_Season(I); }});

@@ -1,12 +1,14 @@
 // ui/dialogs/frm_lod.cpp - the fill, height and textures of a Cell.
 #include "core/dialog_flags.h"
 #include "core/messages.h"
+#include "core/project_paths.h"
 #include "grid/terrain_grid.h"
 #include "platform/files.h"
 #include "ui/dialogs/class_choice.h"
 #include "ui/dialogs/dialogs.h"
 #include "ui/dialogs/square_dialog.h"
 #include "ui/dialogs/texture_pick.h"
+#include "ui/form/field_rules.h"
 
 namespace {
 
@@ -20,7 +22,7 @@ std::string Texture_Field(std::size_t I) {
 }
 
 bool No_File_Or_One(const std::string& Path) {
-    return Path.empty() || File_Exists(Path);
+    return Path.empty() || File_Exists(In_Project(Path));
 }
 
 class LOD_Form final : public Record_Dialog<Area> {
@@ -82,6 +84,7 @@ private:
             };
             Add_Text({.Name = Texture_Field(I),
                       .Words = {"Texture", "Texture"},
+                      .Rule = {.Allowed = File_Or_None},
                       .Columns = Path_Columns,
                       .On_Choose = [this, I, Name] { Pick(I, Name); }},
                      Name, No_File_Or_One);

@@ -8,6 +8,7 @@
 #include "platform/settings_file.h"
 #include "ui/dialogs/dialogs.h"
 #include "ui/dialogs/frm_dir.h"
+#include "ui/form/field_rules.h"
 
 namespace {
 
@@ -34,7 +35,8 @@ public:
              .Words = {"FS9 Directory :", "R\xE9pertoire FS9 :"},
              .Tip_Words = {"Double-click to choose", "Double-click pour choisir"},
              .Rule = {.Accept = [this](const std::string& Text) { return Take_Dir(Text); },
-                      .Held = [this] { return New_DirFS_; }},
+                      .Held = [this] { return New_DirFS_; },
+                      .Allowed = Dir_That_Is_There},
              .Columns = 48,
              .On_Choose = [this] { Choose(); }});
         Add({.Kind = Control_Kind::Frame, .Name = "Fram_Lang", .Words = {"Language", "Langage"}});

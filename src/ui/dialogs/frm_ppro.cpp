@@ -5,6 +5,7 @@
 #include "core/host.h"
 #include "core/messages.h"
 #include "core/program.h"
+#include "core/project_paths.h"
 #include "core/typed_number.h"
 #include "geo/latlon_text.h"
 #include "geo/metres.h"
@@ -246,7 +247,7 @@ private:
         Set_Title(
             Is_New ? std::string(In_Language("New File", "Nouveau Projet"))
                    : In_Language("Parameters modification for ", "Modification param\xE8tres de ") +
-                         Nom_Projet);
+                         Shown_Path(Nom_Projet));
         for (const Chosen_Field& C : Chosen_Fields) Set_Text(C.Name, The_Draft.*C.Of);
         for (const Flag_Control& C : Flags) Set_Value(C.Name, The_Draft.*C.Of);
         Set_Text("Delta_Alt", Shown_Number(The_Draft.New_Delta_Alt));
@@ -308,7 +309,9 @@ private:
             }
             if (Path_Name(*Path).find('.') == std::string_view::npos) *Path += ".LWM";
             if (!File_Exists(*Path)) return Put("NomProjet", &Project_Draft::New_Nom_Projet, *Path);
-            Msg_Show(1);
+            Msg_Wrong_Value({}, Path_Name(*Path),
+                            In_Language("the name of a file that is not there yet",
+                                        "le nom d'un fichier qui n'existe pas encore"));
         }
     }
 
@@ -320,7 +323,12 @@ private:
             const bool Is_There = File_Exists(*Path);
             const auto Size = Is_There ? Map_Size(*Path) : std::nullopt;
             if (Size) return Take_Map(*Path, Size->first, Size->second);
-            Msg_Show(Is_There ? 10 : 1);
+            if (Is_There)
+                Msg_Show(10);
+            else
+                Msg_Wrong_Value({}, Path_Name(*Path),
+                                In_Language("the name of a file that is there",
+                                            "le nom d'un fichier pr\xE9sent"));
         }
     }
 
@@ -345,7 +353,7 @@ private:
 
     void Choose_Output_Dir(const char* Name, std::string Project_Draft::*Of, const char* Title) {
         Dir_Title = Title;
-        std::string Path = The_Draft.*Of;
+        std::string Path = In_Project(The_Draft.*Of);
         Int Cancelled = 1;
         Choose_Dir(Path, Cancelled);
         if (Cancelled == 0) Put(Name, Of, Path);

@@ -2,6 +2,7 @@
 #include "core/dialog_flags.h"
 #include "core/messages.h"
 #include "core/model_ops.h"
+#include "core/program.h"
 #include "core/typed_number.h"
 #include "ui/canvas/view.h"
 #include "ui/dialogs/dialogs.h"
@@ -43,7 +44,8 @@ private:
     void Take() {
         const auto Alt = Typed_Number((*this)["Alt"].Text, Altitudes);
         if (!Alt) {
-            Msg_Show(1);
+            Msg_Wrong_Value((*this)["Alt"].Words.In(::Language), (*this)["Alt"].Text,
+                            Limits_Text(Altitudes));
             return Set_Focus("Alt");
         }
         Last_Alt_Pt = static_cast<Single>(*Alt);

@@ -1,6 +1,8 @@
 // ui/dialogs/frm_route_parts.cpp - controls and pages of the dialog of an object's attributes.
 #include "ui/dialogs/frm_route_parts.h"
+#include "core/program.h"
 
+#include "core/project_paths.h"
 #include "platform/files.h"
 #include "ui/form/field_rules.h"
 
@@ -16,7 +18,7 @@ bool Is_Nesting_Text(const std::string& Text) {
 }
 
 bool Is_No_Or_Some_File(const std::string& Path) {
-    return Path.empty() || File_Exists(Path);
+    return Path.empty() || File_Exists(In_Project(Path));
 }
 
 void Add_Text(Form& F, const char* Name, Wording Words, Field_Rule Rule, Int Columns) {
@@ -40,7 +42,12 @@ void Add_Fields(Form& F) {
     Attr& A = Cur_Attr;
     Add_Text(F, "Text_Rt", {"Text:", "Texte:"}, Text_Rule(A.Text_Rt), 40);
     Add_Text(F, "Imbrication", {"Imbrication :", "Imbrication :"},
-             Text_Rule(A.Imbrication, Is_Nesting_Text), 8);
+             Text_Rule(A.Imbrication, Is_Nesting_Text,
+                       [] {
+                           return In_Language("five characters with _ in the middle, or nothing",
+                                              "cinq caract\xE8res avec _ au milieu, ou rien");
+                       }),
+             8);
     Add_Number(F, "Alt_Coast", {"Altitude (m) :", "Altitude (m) :"},
                Number_Rule(A.Alt_Coast, {.Above = -10000, .Below = 10000}));
     Add_Number(F, "Layer_Vtp2", {"Layer:", "Layer:"}, Number_Rule(A.Layer_Vtp2, Layers));
@@ -109,8 +116,8 @@ void Add_Textures(Form& F) {
                                             {"Texture 6:", "Texture 6 :"}}};
     for (const auto& Group : Route_Textures)
         for (std::size_t I = 0; I < Group.size(); ++I)
-            Add_Text(F, Group[I], Words[I], Text_Rule(Cur_Attr.Texture_Name[I], Is_No_Or_Some_File),
-                     40);
+            Add_Text(F, Group[I], Words[I],
+                     Text_Rule(Cur_Attr.Texture_Name[I], Is_No_Or_Some_File, File_Or_None), 40);
 }
 
 void Add_Images(Form& F) {

@@ -94,7 +94,7 @@ protected:
             return true;
         };
         C.Kind = Control_Kind::Text;
-        C.Rule = {.Accept = Accept, .Held = Held};
+        C.Rule = {.Accept = Accept, .Held = Held, .Allowed = C.Rule.Allowed};
         Fills_.push_back([this, Name = C.Name, Held] { Set_Text(Name, Held()); });
         Add(std::move(C));
     }

@@ -1,5 +1,6 @@
 // ui/dialogs/texture_pick.cpp - the steps that all texture fields share.
 #include "ui/dialogs/texture_pick.h"
+#include "core/project_paths.h"
 
 #include "core/host.h"
 #include "core/messages.h"
@@ -9,7 +10,7 @@
 bool Pick_Texture(std::string& Path, Texture_Shape Shape) {
     std::string Dir, Name;
     Byte Error = 0;
-    Path_Split(Path, Dir, Name, Error);
+    Path_Split(In_Project(Path), Dir, Name, Error);
     if (Error == 0 && Dir_Exists(Dir)) LBmp_Dir = Dir;
     for (;;) {
         LBmp_Cancelled = 1;

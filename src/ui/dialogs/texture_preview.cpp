@@ -1,5 +1,6 @@
 // ui/dialogs/texture_preview.cpp - from a texture file to the images that show it.
 #include "ui/dialogs/texture_preview.h"
+#include "core/project_paths.h"
 
 #include <utility>
 
@@ -22,7 +23,8 @@ bool Texture_Preview::Show(std::string_view Path) {
     Delete_Temp();
     Picture P;
     std::string Description;
-    if (Texture_Read(Path, Pal_Fs5, P, Description) != Texture_Fault::None) return false;
+    if (Texture_Read(In_Project(Path), Pal_Fs5, P, Description) != Texture_Fault::None)
+        return false;
     Show_Picture(std::move(P));
     return true;
 }

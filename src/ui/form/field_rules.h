@@ -31,4 +31,11 @@ requires std::is_arithmetic_v<T> Field_Rule Number_Rule(T& Target, Number_Limits
 }
 
 /// A text held in Target, which must outlive the form. Fits, if it is given, refuses others.
-Field_Rule Text_Rule(std::string& Target, std::function<bool(const std::string& Text)> Fits = {});
+/// Allowed says which.
+Field_Rule Text_Rule(std::string& Target, std::function<bool(const std::string& Text)> Fits = {},
+                     std::function<std::string()> Allowed = {});
+
+/// What a field takes that names a file, or none.
+std::string File_Or_None();
+/// What one takes that names a directory.
+std::string Dir_That_Is_There();

@@ -54,10 +54,12 @@ enum class Button_Role {
 /// The rule of a field. Accept is given the trimmed text when Enter is pressed or the field is
 /// left after typing: it takes the value and returns true, or returns false and changes
 /// nothing; message 1 then follows and the focus stays. Held is the text of the value held,
-/// which Escape and every accepted entry put back.
+/// which Escape and every accepted entry put back. Allowed says what is taken, in the program's
+/// language; the message shows it.
 struct Field_Rule {
     std::function<bool(const std::string& Text)> Accept = {};
     std::function<std::string()> Held = {};
+    std::function<std::string()> Allowed = {};
 };
 
 inline constexpr Long Mixed_Check = 2;  // a Check that stands for several which differ

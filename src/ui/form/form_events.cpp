@@ -70,7 +70,8 @@ bool Accept_Typed(Form& F) {
     if (Name.empty()) return true;
     const Control& C = F[Name];
     if (C.Rule.Accept && !C.Rule.Accept(std::string(Trim(C.Text)))) {
-        Msg_Show(1);
+        Msg_Wrong_Value(C.Words.In(F.Language()), C.Text,
+                        C.Rule.Allowed ? C.Rule.Allowed() : std::string());
         Access::Typed(F) = Name;
         Access::Focus(F) = Name;
         Focus_Back(F, C);

@@ -1,6 +1,7 @@
 // tests/gen/posix/test_full_disk.cpp - sources that the disk has no room for.
 #include "gen/emit_excl.h"
 #include "gen/gen_test.h"
+#include "platform/paths.h"
 #include "support/file_size_limit.h"
 
 namespace {
@@ -23,7 +24,7 @@ TEST_F(Full_Disk_Test, ASourceThatEndsHalfwayIsToldAndNotCompiled) {
         EXPECT_FALSE(Has_Source("Terrafold$_Excl.ASM"));
         EXPECT_EQ(Host_Of_Test.Events, (std::vector<std::string>{"message 0 Impossible d'\xE9"
                                                                  "crire le fichier " +
-                                                                     Path,
+                                                                     Shown_Path(Path),
                                                                  "delete " + Path}));
     }
     Emit_Excl();

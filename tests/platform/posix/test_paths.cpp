@@ -48,10 +48,14 @@ TEST(Paths, DrivesAreThoseOfTheWinePrefix) {
         EXPECT_EQ(Native_Path("C:\\program files\\fs9\\FS9.EXE"),
                   Dir.Native(".wine/drive_c/Program Files/FS9/fs9.exe"));
         EXPECT_EQ(Native_Path("c:\\..\\New"), Dir.Native(".wine/drive_c/New")) << "no way out";
+        EXPECT_EQ(Shown_Path("C:\\PROGRAM FILES\\new\\"),
+                  Dir.Native(".wine/drive_c/Program Files/new/"));
         EXPECT_EQ(Native_Path("D:\\x"), std::nullopt) << "a link to nowhere";
         EXPECT_EQ(Native_Path("E:\\x"), std::nullopt);
         EXPECT_EQ(Drive_List(), (std::vector<std::string>{"\\", "C:\\"}));
     }
     const Environment_Scope Prefix("WINEPREFIX", Dir.Native("none").string());
     EXPECT_EQ(Native_Path("C:\\x"), std::nullopt);
+    EXPECT_EQ(Shown_Path("C:\\x"), "C:\\x") << "it has no other form here";
+    EXPECT_EQ(Shown_Path("maps\\x.bmp"), "maps/x.bmp");
 }

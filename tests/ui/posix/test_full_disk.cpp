@@ -19,7 +19,7 @@ TEST_F(Full_Disk, LeavesNoTile) {
     }
     EXPECT_EQ(Error, 1);
     ASSERT_EQ(Host_Of_Test.Boxes.size(), 1u);
-    EXPECT_TRUE(Host_Of_Test.Boxes[0].Text.ends_with("\\Temp\\$$$_01.bmp"));
+    EXPECT_TRUE(Host_Of_Test.Boxes[0].Text.ends_with("/Temp/$$$_01.bmp"));
     EXPECT_TRUE(std::filesystem::is_empty(Dir.Native("App/Temp")));
 }
 

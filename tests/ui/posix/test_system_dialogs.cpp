@@ -5,6 +5,7 @@
 #include "core/lifecycle.h"
 #include "core/settings.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 #include "support/environment.h"
 #include "ui/dialogs/frm_dir.h"
 #include "ui/frm/frm.h"
@@ -24,7 +25,7 @@ TEST_F(System_Dialogs, TheFirstStartAsksUntilItIsConfirmed) {
         });
         const Modal_Script Closes([](Form_Driver& D) { D.Close(); });
         const Modal_Script Confirms([](Form_Driver& D) { D.Click("Cmd_Ok"); });
-        EXPECT_TRUE(Program_Start("", App_Path));
+        EXPECT_EQ(Program_Start("", App_Path), Start_Outcome::Started);
         EXPECT_EQ(Language, "US");
         EXPECT_EQ(Frm()["Mnu_File"].Caption, "Files");
         Instance_Release();
@@ -52,9 +53,9 @@ TEST_F(System_Dialogs, ADriveThatIsNotReadyIsLeftAlone) {
     std::string Path = App_Path;
     Int Cancelled = 1;
     const Modal_Script Script([&](Form_Driver& D) {
-        EXPECT_EQ(D.Items("Drive1"), (std::vector<std::string>{"\\", "C:\\"}));
+        EXPECT_EQ(D.Items("Drive1"), (std::vector<std::string>{"/", "C:\\"}));
         D.Choose("Drive1", "C:\\");
-        EXPECT_EQ(D.Text("Path"), "C:\\");
+        EXPECT_EQ(D.Text("Path"), Shown_Path("C:\\"));
         EXPECT_EQ(D.Items("Dir1"), std::vector<std::string>{"FS9"}) << "there is no way up";
         D.Choose("Drive1", 0);
         std::filesystem::remove_all(Dir.Native("drive_c"));
@@ -62,7 +63,7 @@ TEST_F(System_Dialogs, ADriveThatIsNotReadyIsLeftAlone) {
         ASSERT_EQ(Host_Of_Test.Boxes.size(), 1U);
         EXPECT_EQ(Host_Of_Test.Boxes[0].Text, "C:\\ n'est pas pr\xEAt");
         EXPECT_EQ(D.Value("Drive1"), 0);
-        EXPECT_EQ(D.Text("Path"), "\\");
+        EXPECT_EQ(D.Text("Path"), "/");
         D.Click("Cmd_Ok");
     });
     Choose_Dir(Path, Cancelled);
