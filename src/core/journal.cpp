@@ -10,6 +10,7 @@
 #include "core/host.h"
 #include "core/program.h"
 #include "core/resets.h"
+#include "core/within_memory.h"
 #include "platform/append_file.h"
 #include "platform/clock.h"
 #include "platform/files.h"
@@ -86,9 +87,11 @@ bool Begin_File(bool With_Model) {
         Path = Journal_Free_Path("");
         if (!Path.empty()) File->Create(Path);
     }
-    const std::string Base = Base_Record(J.Base, With_Model);
-    const bool Whole =
-        File->Is_Open() && File->Append(Head() + Record_Head(Base)) && File->Append(Base);
+    bool Whole = false;
+    Within_Memory([&] {
+        const std::string Base = Base_Record(J.Base, With_Model);
+        Whole = File->Is_Open() && File->Append(Head() + Record_Head(Base)) && File->Append(Base);
+    });
     if (File->Is_Open() && !Whole) {
         File.reset();
         File_Delete(Path);
