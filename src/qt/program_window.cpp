@@ -15,6 +15,7 @@
 #include "platform/arguments.h"
 #include "platform/end_signal.h"
 #include "platform/program_dir.h"
+#include "platform/text1252.h"
 #include "qt/boxes.h"
 #include "qt/busy.h"
 #include "qt/canvas_widget.h"
@@ -126,7 +127,7 @@ std::string Command_Line(std::span<const std::string> Project) {
     if (!Project.empty())
         std::fprintf(stderr,
                      "terrafold: the path %s has characters that the program cannot write\n",
-                     Project.front().c_str());
+                     To_Utf8(As_One_Line(From_Utf8_Loose(Project.front()))).c_str());
     return {};
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/arguments.h"
+#include "platform/text1252.h"
 #include "qt/command_line.h"
 #include "qt/program_window.h"
 
@@ -62,7 +63,8 @@ int main(int argc, char** argv) {
     const Window_Arguments A = Window_Parse(Program_Arguments(argc, argv));
     if (A.What == Window_Arguments::Command::Help) return Print(Window_Help);
     if (!A.Error.empty()) {
-        std::fprintf(stderr, "terrafold: %s\nTry terrafold --help\n", A.Error.c_str());
+        std::fprintf(stderr, "terrafold: %s\nTry terrafold --help\n",
+                     To_Utf8(As_One_Line(From_Utf8_Loose(A.Error))).c_str());
         return Wrong_Usage;
     }
     if (A.What == Window_Arguments::Command::Version) return Print("terrafold 5.0\n");
