@@ -125,6 +125,7 @@ int main(int argc, char** argv) {
     const Surface_Scope On(Canvas);
     View_Resize(Canvas_Width, Canvas_Height);
     View_Center_Map();
+    Modes_Install();
     Mode_Area = 1;
     std::printf("milliseconds (median of %d)\n", Rounds);
     std::printf("  zoom      map     grid  objects   screen    whole   frames   by QPainter\n");

@@ -194,6 +194,30 @@ void Paint_Run(std::uint32_t* Pixels, const Run& M, const Brush& With) {
     }
 }
 
+// A line to the same pixel or a neighbour of it, as most of a drawing seen from afar are: what
+// Paint_Run would make of it, where an image pixel is a canvas pixel.
+void Paint_Step(const Raster& R, const Line_Px& L, std::int64_t Thick, std::uint32_t Colour) {
+    const bool Along_X = L.Y1 == L.Y2 || L.X1 != L.X2;
+    const std::int64_t Size_A = Along_X ? R.Width : R.Height, Size_B = Along_X ? R.Height : R.Width;
+    const std::ptrdiff_t Step_A = Along_X ? 1 : R.Stride, Step_B = Along_X ? R.Stride : 1;
+    const auto Across = [&](std::int64_t A, std::int64_t B) {
+        if (A < 0 || A >= Size_A) return;
+        const std::int64_t First = B + 1 - (Thick + 1) / 2;
+        const std::int64_t End = std::min(First + Thick, Size_B);
+        std::uint32_t* Column = R.Pixels + A * Step_A;
+        for (std::int64_t I = std::max<std::int64_t>(First, 0); I < End; ++I)
+            Column[I * Step_B] = Colour;
+    };
+    const bool Has_Two = L.X1 != L.X2 || L.Y1 != L.Y2;
+    Across(Along_X ? L.X1 : L.Y1, Along_X ? L.Y1 : L.X1);
+    if (Has_Two) Across(Along_X ? L.X2 : L.Y2, Along_X ? L.Y2 : L.X2);
+}
+
+bool Is_Step(const Line_Px& L) {
+    const auto Is_One = [](Long From, Long To) { return std::abs(std::int64_t{To} - From) <= 1; };
+    return Is_One(L.X1, L.X2) && Is_One(L.Y1, L.Y2);
+}
+
 // Most segments of a drawing seen from afar: they end where they begin, at the last one's end.
 bool Is_Painted(const Line_Px& L, const Line_Px& Before) {
     return L.X1 == L.X2 && L.Y1 == L.Y2 && L.X1 == Before.X2 && L.Y1 == Before.Y2;
@@ -247,9 +271,15 @@ void Raster_Lines(const Raster& R, std::span<const Line_Px> Segments, const Pen&
                   .Beat = Rhythm_Of(With.Style),
                   .Scale = R.Scale};
     const auto Paint = With.Colour == Contrast_Colour ? Paint_Run<true> : Paint_Run<false>;
+    const bool Has_Steps =
+        R.Scale == 1.0 && With.Style == Line_Style::Solid && With.Colour != Contrast_Colour;
     const Line_Px* Before = nullptr;
     for (const Line_Px& L : Segments) {
-        if (Before == nullptr || !Is_Painted(L, *Before)) Paint(R.Pixels, Make_Run(R, L), B);
+        const bool Is_New = Before == nullptr || !Is_Painted(L, *Before);
+        if (Is_New && Has_Steps && Is_Step(L))
+            Paint_Step(R, L, B.Thick, B.Colour);
+        else if (Is_New)
+            Paint(R.Pixels, Make_Run(R, L), B);
         Before = &L;
     }
 }

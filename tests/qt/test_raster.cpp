@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "core/grid_colours.h"
 #include "qt/raster.h"
 
 namespace {
@@ -110,6 +111,22 @@ TEST(Raster_Test, ALineKeepsItsPixelsWhereverTheCanvasEnds) {
     Far.Lines(
         {{-2000000000, -2000000000, 2000000000, 2000000000}, {50, 0, 60, 29}, {0, -9, 39, -2}});
     EXPECT_EQ(std::count(Far.Pixels.begin(), Far.Pixels.end(), Red), 30) << "the diagonal alone";
+}
+
+// Contrast goes the long way, and paints white on black: the same pixels.
+TEST(Raster_Test, AStepToANeighbourIsALineLikeAnyOther) {
+    for (const Int Width : {1, 2, 3, 4})
+        for (Long At = 0; At < 9 * 81; ++At) {
+            const Line_Px L{At % 9 - 2, At / 9 % 9 - 2, At % 9 - 3 + At / 81 % 3,
+                            At / 9 % 9 - 3 + At / 243};
+            Painted Shown(6, 5), Against(6, 5);
+            Shown.Lines({L}, Width);
+            Raster_Lines(Against.R, {&L, 1}, {.Colour = Contrast_Colour, .Width = Width});
+            for (Long Y = 0; Y < 5; ++Y)
+                ASSERT_EQ(Shown.Row(Y), Against.Row(Y)) << L.X1 << " " << L.Y1 << " " << Width;
+            EXPECT_EQ(std::count(Against.Pixels.begin(), Against.Pixels.end(), 0xFFFFFFFFU),
+                      std::count(Shown.Pixels.begin(), Shown.Pixels.end(), Red));
+        }
 }
 
 TEST(Raster_Test, WidthAndDotsGrowWithThePixelsOfTheScreen) {

@@ -139,10 +139,16 @@ public:
         if (O.Nb_Pts == 1) return Paint_Block(O, With);
         const Reach Seen(With.Width);
         Long P = O.First_Pt;
-        Pic_Px A = On_Canvas(Tab_Pt[P]);
+        Spot A = Spot_Of(On_Canvas(Tab_Pt[P]));
         for (Long N = 2; N <= O.Nb_Pts && P != O.Last_Pt; ++N) {
-            P = Tab_Pt[P].Next;
-            const Pic_Px B = On_Canvas(Tab_Pt[P]);
+            const Pt& Next = Tab_Pt[P = Tab_Pt[P].Next];
+            const Pic_Px At = On_Canvas(Next);
+            // Seen from afar most points fall on the pixel where the segment before has ended.
+            if (N > 2 && A.Has_On_Its_Pixel(At)) {
+                A.At = At;
+                continue;
+            }
+            const Spot B = Spot_Of(At);
             Paint_Segment(A, B, Seen, With);
             A = B;
         }
@@ -163,15 +169,42 @@ public:
 private:
     // As Map_To_Pic does it, with the canvas's origin worked out once.
     Pic_Px On_Canvas(const Pt& P) const {
-        return {(P.X - Origin_.X) * Zoom, (P.Y - Origin_.Y) * Zoom};
+        return {(P.X - Origin_.X) * Zoom_, (P.Y - Origin_.Y) * Zoom_};
     }
 
-    void Paint_Segment(Pic_Px A, Pic_Px B, const Reach& Seen, const Pen& With) {
-        const std::optional<Line_Px> L = Line_On_Canvas(A, B);
+    // A point on the canvas, and its pixel if it is near.
+    struct Spot {
+        Pic_Px At;
+        bool Is_Near = false;
+        Double X = 0.0, Y = 0.0;
+
+        // Halves are rounded to even ones and may belong to it, too.
+        bool Has_On_Its_Pixel(Pic_Px P) const {
+            return Is_Near && std::fabs(P.X - X) < 0.5 && std::fabs(P.Y - Y) < 0.5;
+        }
+    };
+
+    static Spot Spot_Of(Pic_Px At) {
+        if (Is_Far(At)) return {At};
+        return {At, true, Whole(At.X), Whole(At.Y)};
+    }
+
+    // As Round_Lng rounds what is near: from this number on Doubles have no fractions.
+    static Double Whole(Double X) {
+        constexpr Double No_Fractions = 6755399441055744.0;  // 1.5 times 2 to the 52nd
+        return (X + No_Fractions) - No_Fractions;
+    }
+
+    void Paint_Segment(const Spot& A, const Spot& B, const Reach& Seen, const Pen& With) {
+        const std::optional<Line_Px> L =
+            A.Is_Near && B.Is_Near ? Line_Px{static_cast<Long>(A.X), static_cast<Long>(A.Y),
+                                             static_cast<Long>(B.X), static_cast<Long>(B.Y)}
+                                   : Line_On_Canvas(A.At, B.At);
         if (L && Seen.Meets(*L)) Out_.Add(*L, With);
     }
 
     static constexpr Double Margin = 8.0;  // more than the width of any pen
+    const Double Zoom_ = Zoom;
     const Pix Origin_ = Pic_To_Map({0.0, 0.0});
     const Pix North_West_ = Pic_To_Map({-Margin, -Margin});
     const Pix South_East_ = Pic_To_Map({Pic_Width + Margin, Pic_Height + Margin});

@@ -153,7 +153,10 @@ void View_Clear() {
 }
 
 void Install_View_Calls() {
-    The_View.View_Redraw = View_Redraw;
+    The_View.View_Redraw = [] {
+        View_Redraw();
+        View_Controls_Show();
+    };
     The_View.View_Reset = View_Reset;
     The_View.Bars_Follow = Scroll_Bars_Follow;
     The_View.View_Clear = View_Clear;
