@@ -28,7 +28,7 @@ same() {
 }
 
 options() { grep -oE -- '(^|[^-a-z])--?[a-z]+(-[a-z]+)*' | grep -oE -- '--?[a-z]+(-[a-z]+)*' | sort -u; }
-commands() { grep -oE 'terrafold-cli [a-z-]+' | sort -u; }
+commands() { grep -oE 'terrafold-cli [a-z][a-z-]+' | sort -u; }
 page() { sed -e 's/\\//g' -e 's/^\.[A-Z]* //' -e 's/[][",|]/ /g' -e 's/  */ /g' "man/$1.1"; }
 
 full=/dev/full
