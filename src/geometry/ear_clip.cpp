@@ -45,6 +45,7 @@ private:
     std::size_t Head = 0;
     Point_Tree Not_Right;  // on: the points left that make no right turn; only they can block
     Long Left;
+    Long Held;    // by the tree; those that are gone slow it down
     Long At = 0;  // some point that is left
     bool Touching = false;
     std::vector<Ear> Ears;
@@ -63,7 +64,8 @@ Clipper::Clipper(std::span<const Pix> Outline)
       Next(P.size()),
       Stamp(P.size()),
       Not_Right(P),
-      Left(static_cast<Long>(P.size())) {
+      Left(static_cast<Long>(P.size())),
+      Held(Left) {
     for (Long V = 0; V < Left; ++V) {
         Prev[V] = V == 0 ? Left - 1 : V - 1;
         Next[V] = V == Left - 1 ? 0 : V + 1;
@@ -105,6 +107,10 @@ void Clipper::Take_Out(Long V) {
     Next[V] = -1;
     At = B;
     --Left;
+    if (2 * Left < Held) {
+        Not_Right.Thin_Out([this](Long I) { return Next[I] >= 0; });
+        Held = Left;
+    }
     for (const Long N : {A, B}) {
         Not_Right.Switch(N, Turn(N) <= 0);
         Wish(N);

@@ -83,16 +83,33 @@ void Edge_Boxes::Lay_Slabs(std::size_t Lv, std::span<const std::array<Pix, 2>> E
     Each_Edge([&](std::size_t S, Pix P1, Pix P2) { Slabs[S].Add(P1, P2); });
 }
 
-void Edge_Boxes::Lay_Slabs(const std::function<std::array<Pix, 2>(Long)>& Ends_Of) {
-    std::vector<std::array<Pix, 2>> Ends;
-    for (Long E = 0; E < Nb_; ++E) Ends.push_back(Ends_Of(E));
-    Sort_By_Outline();
+// How much the slabs of groups of edges cover inside their boxes, each level taken by itself.
+Double Edge_Boxes::Lay_All_Slabs(std::span<const std::array<Pix, 2>> Ends) {
+    Double Sum = 0.0;
     Slab_.resize(Level_.size());
     for (std::size_t Lv = 0; Lv < Level_.size(); ++Lv) {
         Slab_[Lv].assign(Level_[Lv].size() * Fan, {});
         Lay_Slabs(Lv, Ends);
+        for (std::size_t S = 0; Lv > 0 && S < Slab_[Lv].size(); ++S) {
+            const Box_Single B = Level_[Lv][S / Fan].Get(S % Fan);
+            if (B.LX <= B.HX)
+                Sum += (Slab_[Lv][S].High - Slab_[Lv][S].Low) *
+                       std::hypot(Double{B.HX} - B.LX, Double{B.HY} - B.LY);
+        }
     }
+    return Sum;
+}
+
+void Edge_Boxes::Lay_Slabs(const std::function<std::array<Pix, 2>(Long)>& Ends_Of) {
+    std::vector<std::array<Pix, 2>> Ends;
+    for (Long E = 0; E < Nb_; ++E) Ends.push_back(Ends_Of(E));
     Nb_With_Slab_ = Nb_Left_;
+    const Double As_It_Is = Lay_All_Slabs(Ends);
+    // Edges that follow each other may be more alike than those that lie together, or less.
+    Sort_The_Other_Way();
+    if (Lay_All_Slabs(Ends) <= As_It_Is) return;
+    Sort_The_Other_Way();
+    Lay_All_Slabs(Ends);
 }
 
 Edge_Boxes::Box_Single Edge_Boxes::Union(const Node& N) {
@@ -147,8 +164,12 @@ bool Edge_Boxes::Is_Overlaid() const {
     return false;
 }
 
-void Edge_Boxes::Sort_By_Outline() {
-    if (Slot_.empty()) return;
+void Edge_Boxes::Sort_The_Other_Way() {
+    if (Slot_.empty()) {
+        Sort_By_Place();
+        Refresh_All();
+        return;
+    }
     std::vector<Box_Single> Old;
     for (Long E = 0; E < Nb_; ++E) Old.push_back(Get(Slot(E)));
     Slot_.clear();

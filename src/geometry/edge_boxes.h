@@ -183,7 +183,8 @@ private:
     void Refresh_All();
     bool Is_Overlaid() const;
     void Sort_By_Place();
-    void Sort_By_Outline();
+    void Sort_The_Other_Way();
+    Double Lay_All_Slabs(std::span<const std::array<Pix, 2>> Ends);
     void Lay_Slabs(std::size_t Lv, std::span<const std::array<Pix, 2>> Ends);
     bool Is_Off(const Query& Q, std::size_t Lv, std::size_t Child) const {
         return !Slab_.empty() && Q.Is_Off(Slab_[Lv][Child]);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 Point_Tree::Point_Tree(std::span<const Pix> Points)
     : Points(Points), Order(Points.size()), Leaf_Of(Points.size()), Is_On(Points.size()) {
@@ -38,6 +39,14 @@ Long Point_Tree::Build(Long First, Long Last, Long Parent) {
     Nodes[At].Left = Left;
     Nodes[At].Right = Right;
     return At;
+}
+
+void Point_Tree::Thin_Out(const std::function<bool(Long)>& Is_Left) {
+    std::erase_if(Order, [&](Long I) { return !Is_Left(I); });
+    Nodes.clear();
+    Build(0, static_cast<Long>(Order.size()), -1);
+    for (const Long I : Order)
+        if (std::exchange(Is_On[I], 0) != 0) Switch(I, true);
 }
 
 void Point_Tree::Switch(Long I, bool On) {

@@ -2,6 +2,8 @@
 // triangle.
 #pragma once
 
+#include <algorithm>
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -14,6 +16,10 @@ public:
     /// Holds all Points, switched off. They must outlive the tree.
     explicit Point_Tree(std::span<const Pix> Points);
 
+    /// Keeps only the points I for which Is_Left(I) holds, as they are switched. Where many are
+    /// gone, a search is quicker then.
+    void Thin_Out(const std::function<bool(Long)>& Is_Left);
+
     /// Switches point I on or off.
     void Switch(Long I, bool On);
 
@@ -21,7 +27,7 @@ public:
     /// included, satisfies Test(I).
     template <typename Test>
     bool Any_In(Pix A, Pix B, Pix C, const Test& Holds) const {
-        return Search(0, {A, B, C}, Holds);
+        return Search(0, Triangle(A, B, C), Holds);
     }
 
 private:
@@ -35,7 +41,14 @@ private:
         Long Left = -1, Right = -1;  // -1 in a leaf
     };
     struct Triangle {
+        Triangle(Pix A, Pix B, Pix C)
+            : A(A),
+              B(B),
+              C(C),
+              Low{std::min({A.X, B.X, C.X}), std::min({A.Y, B.Y, C.Y})},
+              High{std::max({A.X, B.X, C.X}), std::max({A.Y, B.Y, C.Y})} {}
         Pix A, B, C;
+        Pix Low, High;  // its box: beside a thin one its edges tell little
     };
 
     Long Build(Long First, Long Last, Long Parent);
@@ -46,7 +59,9 @@ private:
         return Exact_Turn(P, Q, Corner) < 0;
     }
     static bool Apart(const Node& N, const Triangle& T) {
-        return Beyond(N, T.A, T.B) || Beyond(N, T.B, T.C) || Beyond(N, T.C, T.A);
+        return N.High.X < T.Low.X || T.High.X < N.Low.X || N.High.Y < T.Low.Y ||
+               T.High.Y < N.Low.Y || Beyond(N, T.A, T.B) || Beyond(N, T.B, T.C) ||
+               Beyond(N, T.C, T.A);
     }
     static bool Inside(Pix P, const Triangle& T) {
         return Exact_Turn(T.A, T.B, P) >= 0 && Exact_Turn(T.B, T.C, P) >= 0 &&

@@ -5,7 +5,7 @@
 #include "geometry/segments.h"
 
 void Split_Outline::Load(std::span<const Pix> Points) {
-    Point_.assign(Points.begin(), Points.end());
+    Point_ = Points;
     Nb_ = static_cast<Long>(Points.size());
     First_ = 0;
     Nb_Reflex_ = 0;
@@ -17,8 +17,7 @@ void Split_Outline::Load(std::span<const Pix> Points) {
         Next_[Ix(V)] = V + 1 == Nb_ ? 0 : V + 1;
         Prev_[Ix(V)] = V == 0 ? Nb_ - 1 : V - 1;
     }
-    for (auto* Links : {&Blocker_, &First_Blocked_, &Next_Blocked_, &Prev_Blocked_})
-        Links->assign(Points.size(), None);
+    for (auto* Links : {&Blocker_, &First_Blocked_, &Next_Blocked_, &Prev_Blocked_}) Links->clear();
     Reflex_.Reset(Nb_);
     Open_.Reset(Nb_);
     for (Long V = 0; V < Nb_; ++V) {
@@ -100,6 +99,10 @@ void Split_Outline::Take_Out(Long V) {
 }
 
 void Split_Outline::Block(Long V, Long E) {
+    // In most outlines nothing ever is.
+    if (Blocker_.empty())
+        for (auto* Links : {&Blocker_, &First_Blocked_, &Next_Blocked_, &Prev_Blocked_})
+            Links->assign(Point_.size(), None);
     Open_.Remove(V);
     const Long Other = First_Blocked_[Ix(E)];
     Blocker_[Ix(V)] = E;
@@ -110,6 +113,7 @@ void Split_Outline::Block(Long V, Long E) {
 }
 
 void Split_Outline::Unblock(Long V) {
+    if (Blocker_.empty()) return;
     const Long E = Blocker_[Ix(V)];
     if (E < 0) return;
     Blocker_[Ix(V)] = None;
@@ -123,6 +127,7 @@ void Split_Outline::Unblock(Long V) {
 
 // Edge E is no more, so the points that it blocked may be free.
 void Split_Outline::Free_Blocked_By(Long E) {
+    if (Blocker_.empty()) return;
     while (First_Blocked_[Ix(E)] >= 0) {
         const Long V = First_Blocked_[Ix(E)];
         Unblock(V);

@@ -14,7 +14,7 @@
 
 class Split_Outline {
 public:
-    /// Begins with new points. First is place 0.
+    /// Begins with new points, which must stay where they are. First is place 0.
     void Load(std::span<const Pix> Points);
 
     Long Nb() const { return Nb_; }
@@ -51,7 +51,7 @@ private:
 
     static constexpr Long None = -1;
 
-    std::vector<Pix> Point_;
+    std::span<const Pix> Point_;
     std::vector<Long> Next_, Prev_;
     Long First_ = 0;
     Long Nb_ = 0;
@@ -63,6 +63,6 @@ private:
     Place_Set Open_;  // not reflex and not known to be blocked
 
     // A blocked point remembers the edge that stands in its way, and each edge the points that
-    // it blocks: a chain of links.
+    // it blocks: a chain of links. Empty until a point is blocked.
     std::vector<Long> Blocker_, First_Blocked_, Next_Blocked_, Prev_Blocked_;
 };
