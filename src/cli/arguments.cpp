@@ -10,7 +10,7 @@ const char Cli_Help[] =
 
 Usage:
   terrafold-cli generate PROJECT [--app-path DIR] [--language FR|US] [--create]
-                         [--dry-run]
+                         [--output-dir DIR] [--dry-run | --sources-only] [--json]
   terrafold-cli restore-outputs PROJECT [--app-path DIR] [--language FR|US] [--create]
   terrafold-cli play SCRIPT [--app-path DIR] [--language FR|US] [--create]
                      [--canvas WxH]
@@ -47,6 +47,10 @@ Options of generate, restore-outputs and play:
   --create           makes that directory if it is not there
   --language FR|US   language of the messages (default: as in the settings)
   --dry-run          (generate) starts no outside tool and takes every start as a success
+  --sources-only     (generate) writes the sources, starts no tool and touches no output
+  --output-dir DIR   (generate) puts every output there, whatever the project says
+  --json             (generate) prints a JSON object a line: the same events, then each
+                     output with its state, size and time, then the end
   --canvas WxH       (play) size of the canvas in pixels (default: 801x601)
 
 Option of texture:
@@ -111,6 +115,12 @@ void Parse_Option(const std::string& Word, Word_List& Words, Cli_Arguments& A) {
         A.Create = true;
     } else if (Generates && Word == "--dry-run") {
         A.Dry_Run = true;
+    } else if (Generates && Word == "--sources-only") {
+        A.Sources_Only = true;
+    } else if (Generates && Word == "--json") {
+        A.Json = true;
+    } else if (Generates && Take_Value(Word, "--output-dir", Words, A.Output_Dir)) {
+        if (A.Output_Dir.empty()) A.Error = "--output-dir needs a directory";
     } else if (Plays && Take_Value(Word, "--canvas", Words, Size)) {
         if (!Read_Size(Size, A.Canvas_Width, A.Canvas_Height))
             A.Error = "--canvas is a size such as 801x601";
@@ -119,7 +129,8 @@ void Parse_Option(const std::string& Word, Word_List& Words, Cli_Arguments& A) {
     } else if (Take_Value(Word, "--language", Words, A.Language)) {
         A.Language = Upper_Ascii(A.Language);
         if (A.Language != "FR" && A.Language != "US") A.Error = "--language is FR or US";
-    } else if (Word == "--app-path" || Word == "--language" || (Plays && Word == "--canvas")) {
+    } else if (Word == "--app-path" || Word == "--language" || (Plays && Word == "--canvas") ||
+               (Generates && Word == "--output-dir")) {
         A.Error = Word + " needs a value";
     } else {
         A.Error = "unknown option " + Word;

@@ -16,7 +16,10 @@ struct Cli_Arguments {
     std::string Palette;   // --palette, the system's path; empty when not given
     bool Is_Journal = false;  // --journal: Project is a journal to be told of
     bool Dry_Run = false;
-    bool Create = false;                           // --create: App_Dir is made if it is not there
+    bool Create = false;  // --create: App_Dir is made if it is not there
+    bool Sources_Only = false;
+    bool Json = false;
+    std::string Output_Dir;  // the system's path, as typed; empty when not given
     Long Canvas_Width = 801, Canvas_Height = 601;  // --canvas
 
     std::string Error;  // what is wrong with the command line; empty when it is right

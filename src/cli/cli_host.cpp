@@ -38,18 +38,28 @@ void Cli_Host::Clear_Progress() {
     Progress_Is_Up_ = false;
 }
 
-void Cli_Host::Print(std::string_view Line) {
+void Cli_Host::Print_Utf8(std::string_view Line) {
     Clear_Progress();
-    std::string Utf8 = To_Utf8(As_One_Line(Line));
-    Utf8 += '\n';
-    std::fwrite(Utf8.data(), 1, Utf8.size(), Out_);
+    std::fwrite(Line.data(), 1, Line.size(), Out_);
     std::fflush(Out_);
+}
+
+void Cli_Host::Print(std::string_view Line) {
+    Print_Utf8(To_Utf8(As_One_Line(Line)) + '\n');
+}
+
+void Cli_Host::Tell_Message(const Box& B) {
+    Print("message " + std::to_string(B.Num) + " " + B.Text);
+}
+
+void Cli_Host::Tell(std::string_view Event, std::string_view What) {
+    Print(std::string(Event) + " " + std::string(What));
 }
 
 Int Cli_Host::Show_Box(const Box& B) {
     Any_Message_ = true;
     Last_Message_ = As_One_Line(B.Text);
-    Print("message " + std::to_string(B.Num) + " " + B.Text);
+    Tell_Message(B);
     return Silent_Host::Show_Box(B);
 }
 
@@ -72,11 +82,11 @@ void Cli_Host::Refresh() {
 }
 
 bool Cli_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
-    Print("run " + std::string(Cmd_Line));
+    Tell("run", Cmd_Line);
     return Dry_Run_ || Silent_Host::Run_Tool(Cmd_Line, Show_Mode);
 }
 
 void Cli_Host::Note_File(File_Event Event, std::string_view Path) {
     if (Event == File_Event::Missing) Any_Message_ = true;
-    Print(Event_Word(Event) + Shown_Path(Path));
+    Tell(Event_Word(Event), Shown_Path(Path));
 }

@@ -27,6 +27,13 @@ public:
     bool Is_Dry_Run() const override { return Dry_Run_; }
     void Note_File(File_Event Event, std::string_view Path) override;
 
+protected:
+    /// A message; another event by its word and what it is about.
+    virtual void Tell_Message(const Box& B);
+    virtual void Tell(std::string_view Event, std::string_view What);
+    /// Prints a line that has its end.
+    void Print_Utf8(std::string_view Line);
+
 private:
     void Print(std::string_view Line);
     void Clear_Progress();

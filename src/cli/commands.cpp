@@ -3,10 +3,12 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <optional>
 
 #include "cli/arguments.h"
 #include "cli/cli_host.h"
+#include "cli/json_host.h"
 #include "cli/project_info.h"
 #include "core/journal_read.h"
 #include "core/lifecycle.h"
@@ -95,8 +97,7 @@ bool Open_Typed(const std::string& Typed) {
 }
 
 // Does Work on the open project, in a home that no other program works in.
-int With_Home(const Cli_Arguments& A, void (*Work)()) {
-    Cli_Host Host(stdout, A.Dry_Run);
+int With_Home(const Cli_Arguments& A, Cli_Host& Host, const std::function<void()>& Work) {
     const Host_Scope Scope(Host);
     Gen_Install();
     const Home_Turn Turn;
@@ -107,6 +108,42 @@ int With_Home(const Cli_Arguments& A, void (*Work)()) {
     }
     Work();
     return Host.Any_Message() ? Message_Shown : All_Well;
+}
+
+// Outputs keep their names.
+void Outputs_To(std::string Dir) {
+    if (Dir.ends_with('\\')) Dir.pop_back();
+    for (std::string* Path : {&NameBgl, &NameBglExcl})
+        if (!Path->empty()) *Path = Dir + "\\" + std::string(Path_Name(*Path));
+    Dir_LCWC = Dir;
+}
+
+int Generate(const Cli_Arguments& A) {
+    std::optional<std::string> Dir;
+    if (!A.Output_Dir.empty()) {
+        Dir = Typed_Path(A.Output_Dir);
+        if (!Dir) return Wrong_Usage;
+        if (!Dir_Exists(*Dir)) {
+            Complain("--output-dir is no directory: " + A.Output_Dir);
+            return Wrong_Usage;
+        }
+    }
+    const Tool_Choice Choice = A.Sources_Only ? Tool_Choice::Sources_Only : Tool_Choice::All;
+    const auto Work = [&] {
+        if (Dir) Outputs_To(*Dir);
+        return Generation_Run({.Choice = Choice});
+    };
+    Json_Host Json(stdout, A.Dry_Run);
+    Cli_Host Plain(stdout, A.Dry_Run);
+    if (!A.Json) return With_Home(A, Plain, Work);
+    return With_Home(A, Json, [&] {
+        if (Work()) Json.Print_Report();
+    });
+}
+
+int Restore(const Cli_Arguments& A) {
+    Cli_Host Host(stdout, false);
+    return With_Home(A, Host, Restore_Outputs);
 }
 
 int Resave(const Cli_Arguments& A) {
@@ -212,9 +249,9 @@ int Run(const Cli_Arguments& A) {
         case Command::Play:
             return Play_Script(A);
         case Command::Generate:
-            return With_Home(A, Cmd_API);
+            return Generate(A);
         case Command::Restore_Outputs:
-            return With_Home(A, Restore_Outputs);
+            return Restore(A);
         case Command::Resave:
             return Resave(A);
         case Command::Texture:

@@ -2,52 +2,27 @@
 #include "cli/project_info.h"
 
 #include <array>
-#include <charconv>
-#include <cmath>
 #include <string_view>
 
+#include "cli/json.h"
 #include "core/model.h"
 #include "core/project_paths.h"
 #include "gen/source_frame.h"
 #include "platform/paths.h"
-#include "platform/text1252.h"
 
 namespace {
-
-std::string Quoted(std::string_view Text) {
-    std::string Json = "\"";
-    for (const char& C : Text) {
-        if (C == '"' || C == '\\') {
-            Json += '\\';
-            Json += C;
-        } else if (Is_Control(C)) {
-            std::array<char, 8> Escape;
-            std::snprintf(Escape.data(), Escape.size(), "\\u%04x", static_cast<unsigned char>(C));
-            Json += Escape.data();
-        } else {
-            Json += To_Utf8({&C, 1});
-        }
-    }
-    return Json + '"';
-}
-
-std::string Number(Double X) {
-    if (!std::isfinite(X)) return "null";
-    std::array<char, 40> Text;
-    return {Text.data(), std::to_chars(Text.data(), Text.data() + Text.size(), X).ptr};
-}
 
 // A JSON object, built one key at a time.
 class Object {
 public:
     explicit Object(int Depth) : Indent_(static_cast<std::size_t>(Depth) * 2, ' ') {}
     Object& Raw(std::string_view Key, const std::string& Value) {
-        Text_ +=
-            (Text_.empty() ? "" : ",") + std::string("\n") + Indent_ + Quoted(Key) + ": " + Value;
+        Text_ += (Text_.empty() ? "" : ",") + std::string("\n") + Indent_ + Json_Text(Key) + ": " +
+                 Value;
         return *this;
     }
-    Object& Put(std::string_view Key, Double X) { return Raw(Key, Number(X)); }
-    Object& Put(std::string_view Key, const std::string& Text) { return Raw(Key, Quoted(Text)); }
+    Object& Put(std::string_view Key, Double X) { return Raw(Key, Json_Number(X)); }
+    Object& Put(std::string_view Key, const std::string& Text) { return Raw(Key, Json_Text(Text)); }
     std::string Done() const { return "{" + Text_ + "\n" + Indent_.substr(2) + "}"; }
 
 private:
@@ -91,7 +66,7 @@ std::string Map() {
     const std::string Found = Map_Path();
     return Object(2)
         .Put("file", Shown_Path(In_Project(Carte)))
-        .Raw("found", File_Exists(Found) ? Quoted(Shown_Path(Found)) : "null")
+        .Raw("found", File_Exists(Found) ? Json_Text(Shown_Path(Found)) : "null")
         .Put("width", Map_Width)
         .Put("height", Map_Height)
         .Done();

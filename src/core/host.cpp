@@ -68,18 +68,28 @@ bool Silent_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
     return Process_Run(Cmd_Line, Show_Mode == 0);
 }
 
+bool Silent_Host::End_Tool() {
+    Process_End_Running();
+    return true;
+}
+
+bool Silent_Host::Has_Tool(std::string_view Path) {
+    return Process_Can_Start(Path);
+}
+
 void Silent_Host::Note_File(File_Event, std::string_view) {}
+void Silent_Host::Show_Folder(std::string_view) {}
 
 const char* Event_Word(File_Event Event) {
     switch (Event) {
         case File_Event::Deleted:
-            return "delete ";
+            return "delete";
         case File_Event::Written:
-            return "write ";
+            return "write";
         case File_Event::Missing:
-            return "missing ";
+            return "missing";
         default:
-            return "would delete ";
+            return "would delete";
     }
 }
 

@@ -27,11 +27,17 @@ inline constexpr Int Box_Ok_Cancel = 1;
 inline constexpr Int Box_Yes_No_Cancel = 3;
 inline constexpr Int Box_Yes_No = 4;
 
+/// A pixel of the map.
+struct Map_Place {
+    Long X = 0, Y = 0;
+};
+
 struct Box {
     std::string Text;  // lines are parted by CR LF
     Int Style = Box_Ok;
     std::string Title = "Terrafold";
     Int Num = 0;  // number of the message as the code asked for it, 0 for a plain box
+    std::optional<Map_Place> Place = {};  // what it tells of
 };
 
 /// A question for a file. Start_Dir may be empty, and end in a backslash or not; Filter is
@@ -79,6 +85,8 @@ public:
 
     /// Shows a message box and returns the button pressed.
     virtual Int Show_Box(const Box& B) = 0;
+    /// Told of a message in a long work that stops nothing, which the user reads at its end.
+    virtual void Note_Message(const Box& B) = 0;
     /// Asks for a file; nothing when the user cancels.
     virtual std::optional<std::string> Ask_File(const File_Question& Q) = 0;
     /// Runs a dialog modally by its name ("Frm_PGen"). Absent when this host has no such form.
@@ -102,18 +110,26 @@ public:
     /// Lets the window system handle what has come in.
     virtual void Turn() = 0;
     virtual Display_Info Display() = 0;
-    /// Puts a text where other programs can paste it from.
+    /// Puts a text, whose lines end in CR LF, where other programs can paste it from.
     virtual void Copy_Text(std::string_view Text) = 0;
 
     /// Runs an outside tool by its command line and waits for it; Show_Mode 0 is hidden. True
     /// when it was started and has ended.
     virtual bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) = 0;
+    /// Ends the tool that runs, so that Run_Tool returns; false when it had ended by itself. Called
+    /// from what Run_Tool lets happen meanwhile.
+    virtual bool End_Tool() = 0;
+    /// Whether an outside tool of that path is there and can be started.
+    virtual bool Has_Tool(std::string_view Path) = 0;
     /// Whether tools are only taken as run: nothing but sources may change then.
     virtual bool Is_Dry_Run() const = 0;
     /// Whether Run_Tool starts tools; else what they were to make is not to be looked for.
     virtual bool Starts_Tools() const = 0;
     /// Told of every file that the generator deletes or has written.
     virtual void Note_File(File_Event Event, std::string_view Path) = 0;
+
+    /// Shows a directory as the desktop does.
+    virtual void Show_Folder(std::string_view Dir) = 0;
 };
 
 /// The host in use. There always is one: at first a Silent_Host.
@@ -136,6 +152,8 @@ private:
 class Silent_Host : public Host {
 public:
     Int Show_Box(const Box& B) override;
+    /// Shows it at once.
+    void Note_Message(const Box& B) override { Show_Box(B); }
     std::optional<std::string> Ask_File(const File_Question& Q) override;
     Form_End Run_Form(std::string_view Form) override;
     void Open_Form(std::string_view Form, Int Delay_Ms) override;
@@ -150,9 +168,12 @@ public:
     Display_Info Display() override;
     void Copy_Text(std::string_view Text) override;
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
+    bool End_Tool() override;
+    bool Has_Tool(std::string_view Path) override;
     bool Is_Dry_Run() const override { return false; }
     bool Starts_Tools() const override { return !Is_Dry_Run(); }
     void Note_File(File_Event Event, std::string_view Path) override;
+    void Show_Folder(std::string_view Dir) override;
 };
 
 /// A plain message box with an Ok button and the program's name as title.

@@ -25,13 +25,14 @@ std::string Key_Text(Int Key_Num) {
 }
 
 // Asks with message Num and what stands behind its text.
-Int Show(Int Num, std::string_view Tail) {
+Int Show(Int Num, std::string_view Tail, std::optional<Map_Place> Place = {}) {
     Int Key_Num = 0;
     Box B;
     Msg_Fetch(Num, Key_Num, B.Title);
     B.Text = "(" + std::to_string(Key_Num) + ") " + Msg_Text + std::string(Tail);
     B.Style = static_cast<Int>(Msg_Icon + Msg_Buttons);
     B.Num = Num;
+    B.Place = Place;
     Msg_Result = The_Host().Show_Box(B);
     return Msg_Result;
 }
@@ -55,8 +56,8 @@ Int Msg_Show(Int Num) {
     return Show(Num, "");
 }
 
-Int Msg_Show_Text(Int Num, std::string_view Extra) {
-    return Show(Num, "\r\n" + std::string(Extra));
+Int Msg_Show_Text(Int Num, std::string_view Extra, std::optional<Map_Place> Place) {
+    return Show(Num, "\r\n" + std::string(Extra), Place);
 }
 
 Int Msg_Wrong_Value(std::string_view Label, std::string_view Typed, std::string_view Allowed) {

@@ -6,6 +6,7 @@
 // with five digits. A key that is missing gives "48 00 ????", so a lost message is a warning.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,7 +29,8 @@ void Msg_Fetch(Int Num, Int& Key_Num, std::string& Title);
 Int Msg_Show(Int Num);
 
 /// The same with Extra on a line of its own.
-Int Msg_Show_Text(Int Num, std::string_view Extra);
+/// Place is the pixel that it tells of.
+Int Msg_Show_Text(Int Num, std::string_view Extra, std::optional<Map_Place> Place = {});
 
 /// Message 1 with a line that says what was typed, into what field if Label is not empty, and
 /// what is allowed there, if that is known.

@@ -1,7 +1,12 @@
 // gen/driver.h - from the open project to the simulator's files.
 #pragma once
 
+#include <functional>
+#include <string>
+#include <vector>
+
 #include "core/numbers.h"
+#include "gen/generation_report.h"
 
 /// Set by Tex_Link_Check when a linked polygon leaves its texture: nothing is generated.
 inline Int Poly_Out_Of_Tex = 0;
@@ -15,8 +20,19 @@ void Tex_Link_Check();
 /// altitude label.
 void Mode_Leave();
 
+struct Generation_Plan {
+    Tool_Choice Choice = Tool_Choice::All;
+    /// Asked before anything is touched when tools that the project needs can't be started, with
+    /// their paths. Without it they are not looked for.
+    std::function<Tool_Choice(const std::vector<std::string>& Missing)> On_Missing = {};
+};
+
 /// The whole generation: checks, deletion of older outputs, then every emitter in its order.
-/// The model is only read. Called with a project open.
+/// The model is only read. Called with a project open. The_Report tells what became of it; false
+/// when nothing was begun.
+bool Generation_Run(const Generation_Plan& Plan);
+
+/// The same, whatever tools there are.
 void Cmd_API();
 
 /// Gives the core the routines of this folder that it asks for (core/view_calls.h).

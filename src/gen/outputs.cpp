@@ -3,12 +3,14 @@
 
 #include <set>
 #include <string>
+#include <utility>
 
 #include "core/host.h"
 #include "core/model.h"
 #include "core/program.h"
 #include "core/project_paths.h"
 #include "core/resets.h"
+#include "gen/generation_host.h"
 #include "gen/kept_outputs.h"
 #include "gen/source_frame.h"
 #include "platform/files.h"
@@ -89,6 +91,12 @@ void Outputs_Begin() {
     Facts.clear();
 }
 
+void Outputs_End() {
+    if (Aside.empty()) return;
+    Kept_Put_Back(Aside);
+    Facts.push_back({.Path = std::exchange(Aside, {}), .State = Output_State::Ended});
+}
+
 bool Bgl_May_Be_Made(std::string_view Path) {
     if (Refused.contains(Path)) return false;
     const bool Is_Named = Has_Name_Of_Output(Path);
@@ -120,7 +128,11 @@ bool Bgl_Set_Aside(std::string_view Path) {
 void Bgl_Ended(std::string_view Path, bool Have_Run) {
     if (Refused.contains(Path)) return;
     Output_State State = Have_Run ? Output_State::Made : Output_State::Not_Started;
-    if (The_Host().Starts_Tools() && !File_Exists(Path)) {
+    if (Tool_Was_Ended()) {
+        File_Delete(Path);  // no more than a part of it
+        State = Output_State::Ended;
+        if (Aside == Path) Kept_Put_Back(Path);
+    } else if (The_Host().Starts_Tools() && !File_Exists(Path)) {
         if (Aside == Path) Kept_Put_Back(Path);
         if (Have_Run) State = Output_State::Missing;
     }
@@ -130,9 +142,9 @@ void Bgl_Ended(std::string_view Path, bool Have_Run) {
     if (State == Output_State::Missing) The_Host().Note_File(File_Event::Missing, Path);
 }
 
-void Delete_Older_Outputs() {
-    if (!NameBglExcl.empty()) Bgl_Delete(In_Project(NameBglExcl));
+void Delete_Older_Outputs(bool (*Is_Left_Out)(Maker)) {
+    if (!NameBglExcl.empty() && !Is_Left_Out(Maker::Assembler)) Bgl_Delete(In_Project(NameBglExcl));
     const std::string Stem = Bgl_Stem();
     for (const std::string& Path : Files_Matching(Stem, "_*.bgl"))
-        if (Is_Numbered(Path, Stem.size())) Bgl_Delete(Path);
+        if (Is_Numbered(Path, Stem.size()) && !Is_Left_Out(Maker_Of(Path))) Bgl_Delete(Path);
 }

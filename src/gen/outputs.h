@@ -9,10 +9,13 @@
 #include <string_view>
 #include <vector>
 
+#include "gen/makers.h"
+
 enum class Output_State {
     Made,         // its tool has ended, and it is there; in a dry run, it would have run
     Missing,      // its tool has ended without having made it
     Not_Started,  // its tool could not be started
+    Ended,        // the user has ended its tool
     Passed_Over,  // it may not be touched, or what was there could not be kept
 };
 
@@ -44,6 +47,9 @@ bool Bgl_Set_Aside(std::string_view Path);
 /// is not there, the host is told that it is missing.
 void Bgl_Ended(std::string_view Path, bool Have_Run);
 
+/// A generation has ended, be it in the middle: what was set aside goes back.
+void Outputs_End();
+
 /// Deletes the outputs that an earlier generation has made: the exclusions, and what is named by
-/// the stem of NameBgl, "_" and digits.
-void Delete_Older_Outputs();
+/// the stem of NameBgl, "_" and digits. What a maker that is left out has made stays.
+void Delete_Older_Outputs(bool (*Is_Left_Out)(Maker) = [](Maker) { return false; });

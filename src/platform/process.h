@@ -16,6 +16,9 @@
 /// has started first; on Windows they end with this program, however that ends.
 bool Process_Run(std::string_view Cmd_Line, bool Hidden);
 
+/// Whether the file Program can be started: on a POSIX system one for Windows where there is wine.
+bool Process_Can_Start(std::string_view Program);
+
 /// Ends the program that Process_Run waits for, if there is one; Process_Run then returns true.
 /// May be called from another thread.
 void Process_End_Running();

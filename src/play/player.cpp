@@ -36,10 +36,15 @@ bool Is_Registered(std::string_view Form) {
     return std::ranges::count(Form_Names(), Form) != 0;
 }
 
+// What a generation brings of itself.
+bool Is_Of_Generation(std::string_view Form) {
+    return Form == "Frm_Tools" || Form == "Frm_Report";
+}
+
 // Acts that go to no form.
 bool Needs_No_Form(Verb What) {
     return What == Verb::Answer || What == Verb::File || What == Verb::Aircraft ||
-           What == Verb::State || What == Verb::Say;
+           What == Verb::State || What == Verb::Say || What == Verb::Reports;
 }
 
 }  // namespace
@@ -138,6 +143,9 @@ void Player::Play_Act(const Act& A) {
             return;
         case Verb::Aircraft:
             return Set_Aircraft(A);
+        case Verb::Reports:
+            Reports_ = A.Words[0] == "on";
+            return;
         case Verb::Show:
             return Show(A);
         case Verb::Items:
@@ -228,8 +236,12 @@ std::optional<std::string> Player::Ask_File(const File_Question& Q) {
     return Path;
 }
 
+bool Player::Has_Form(std::string_view Name) const {
+    return !Over_ && Is_Registered(Name) && (Reports_ || !Is_Of_Generation(Name));
+}
+
 Form_End Player::Run_Form(std::string_view Name) {
-    if (Over_ || !Is_Registered(Name)) return Form_End::Absent;
+    if (!Has_Form(Name)) return Form_End::Absent;
     Print("form " + std::string(Name));
     const Form_End End = Form_Run(Name, *this);
     Print_End(Name, End);
@@ -264,7 +276,7 @@ void Player::Open_Form(std::string_view Name, Int) {
 // A form that is not modal opens when the act that asked for it is over.
 void Player::Open_Waiting_Forms() {
     for (const std::string& Name : std::exchange(Waiting_, {})) {
-        if (Over_ || !Is_Registered(Name)) continue;
+        if (!Has_Form(Name)) continue;
         Print("form " + Name);
         Form_Open(Name, *this);
     }
@@ -305,10 +317,6 @@ void Player::Set_Focus(std::string_view Control) {
     Frm_Set_Focus(Control);
 }
 
-void Player::Copy_Text(std::string_view Text) {
-    Print("copy " + std::string(Text));
-}
-
 bool Player::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
     if (Over_) return false;
     Print("run " + std::string(Cmd_Line));
@@ -316,7 +324,20 @@ bool Player::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
 }
 
 void Player::Note_File(File_Event Event, std::string_view Path) {
-    Print(Event_Word(Event) + Shown_Path(Path));
+    Print(std::string(Event_Word(Event)) + " " + Shown_Path(Path));
+}
+
+void Player::Show_Folder(std::string_view Dir) {
+    Print("folder " + Shown_Path(Dir));
+}
+
+// A line each, as it would be pasted.
+void Player::Copy_Text(std::string_view Text) {
+    while (!Text.empty()) {
+        const std::size_t End = std::min(Text.find("\r\n"), Text.size());
+        Print("copy " + std::string(Text.substr(0, End)));
+        Text.remove_prefix(std::min(End + 2, Text.size()));
+    }
 }
 
 Play_End Play(const Script& S, const Play_Options& Options,

@@ -44,9 +44,10 @@ public:
     void Set_Visible(std::string_view Control, bool On) override;
     void Set_Value(std::string_view Control, Long Value) override;
     void Set_Focus(std::string_view Control) override;
-    void Copy_Text(std::string_view Text) override;
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
     void Note_File(File_Event Event, std::string_view Path) override;
+    void Show_Folder(std::string_view Dir) override;
+    void Copy_Text(std::string_view Text) override;
 
 private:
     struct Ready_Answer {
@@ -62,6 +63,7 @@ private:
     void Play_Act(const Act& A);
     void Fail(std::string Reason);
     void Print(std::string_view Line);
+    bool Has_Form(std::string_view Form) const;
     void Print_End(std::string_view Form, Form_End End);
     void Open_Waiting_Forms();
     void End_Free_Forms();
@@ -105,6 +107,7 @@ private:
     Printer Print_;
     std::size_t Next_ = 0;  // the act to come
     Long Line_ = 0;         // of the act that was begun last
+    bool Reports_ = false;  // a generation asks about tools and shows its report
     bool Over_ = false;     // nothing more is played: what is open closes, unseen
     Play_End End_;
 

@@ -92,6 +92,9 @@ bool Place_Steps(Words W) {
 bool Answer(Words W) {
     return W.size() == 1 && Is_One_Of(W[0], Answers);
 }
+bool On_Or_Off(Words W) {
+    return W.size() == 1 && (W[0] == "on" || W[0] == "off");
+}
 bool Aircraft(Words W) {
     if (W.size() == 1) return W[0] == "none";
     return W.size() == 2 && (W[0] == "error" ? Is_Whole(W[1]) : Is_Place(W));
@@ -122,6 +125,7 @@ constexpr Verb_Row Verbs[] = {
     {"answer", Verb::Answer, Answer, "answer ok|cancel|yes|no"},
     {"file", Verb::File, One, "file PATH or file cancel"},
     {"aircraft", Verb::Aircraft, Aircraft, "aircraft LAT LON, aircraft error N or aircraft none"},
+    {"reports", Verb::Reports, On_Or_Off, "reports on or reports off"},
     {"show", Verb::Show, One_Or_More, "show NAME ..."},
     {"items", Verb::Items, One, "items NAME"},
     {"state", Verb::State, None, "state"},

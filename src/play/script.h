@@ -28,6 +28,7 @@ enum class Verb {
     Answer,
     File,
     Aircraft,
+    Reports,  // of a generation, shown or not
     // Reports.
     Show,
     Items,

@@ -5,12 +5,14 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QToolButton>
 
+#include "qt/busy.h"
 #include "qt/canvas_widget.h"
 #include "qt/form_widget.h"
 #include "qt/icons.h"
@@ -82,6 +84,7 @@ public:
         Button_->setAutoDefault(false);
         Button_->setDefault(C.Role == Button_Role::Ok);
         Button_->setIcon(Themed_Icon(C.Icon));
+        if (C.In_Long_Work) Let_Through_Busy(*Button_);
         QObject::connect(Button_, &QPushButton::clicked, &Owner, [&Owner, Name = C.Name] {
             Owner.Do([&](Form& F) { Form_Click(F, Name); });
         });
@@ -144,6 +147,21 @@ public:
 
 private:
     QCheckBox* Box_;
+};
+
+class Bar_Widget final : public Control_Widget {
+public:
+    Bar_Widget(Form_Widget& Owner, const Control& C) : Bar_(new QProgressBar(&Owner)) {
+        Widget = Bar_;
+        Bar_->setRange(0, C.Max);
+    }
+    void Follow(const Control& C) override {
+        Follow_Common(*this, C);
+        Bar_->setValue(C.Value);
+    }
+
+private:
+    QProgressBar* Bar_;
 };
 
 class Frame_Widget final : public Control_Widget {
@@ -297,6 +315,8 @@ std::unique_ptr<Control_Widget> Make_Kind(Form_Widget& Owner, const Control& C, 
             return std::make_unique<Canvas_Control>(Owner, C);
         case Control_Kind::Lamp:
             return Make_Lamp(Owner, C);
+        case Control_Kind::Bar:
+            return std::make_unique<Bar_Widget>(Owner, C);
         case Control_Kind::Label:
             break;
     }

@@ -3,9 +3,11 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QEventLoop>
 #include <QScreen>
 #include <QTimer>
+#include <QUrl>
 #include <atomic>
 #include <cstdio>
 #include <string>
@@ -18,11 +20,13 @@
 #include "qt/form_window.h"
 #include "qt/text.h"
 #include "ui/frm/frm.h"
+#include "ui/frm/generate.h"
 
 namespace {
 
 // Often enough to look alive, seldom enough to cost nothing.
 constexpr int Refresh_Ms = 30;
+constexpr int Clock_Ms = 250;
 
 // What is in front: a dialog, or else the main window.
 QWidget* Front(Form_Window* Main) {
@@ -54,7 +58,9 @@ void Window_Host::Set_Window(Form_Window* Main) {
 }
 
 void Window_Host::Bring_Up_To_Date() {
-    if (Main_ != nullptr) Main_->Shown().Flush();
+    if (Main_ == nullptr) return;
+    Generate_Clock();
+    Main_->Shown().Flush();
 }
 
 Int Window_Host::Show_Box(const Box& B) {
@@ -62,6 +68,7 @@ Int Window_Host::Show_Box(const Box& B) {
         std::fprintf(stderr, "terrafold: %s\n", To_Utf8(As_One_Line(B.Text)).c_str());
     Bring_Up_To_Date();
     const Plain_Pointer Pointer;
+    const Busy_Pause Answered;
     return Show_Message_Box(B, Front(Main_));
 }
 
@@ -143,20 +150,34 @@ Display_Info Window_Host::Display() {
     return {.Bits_Per_Pixel = Bits, .Has_Raster = true};
 }
 
-void Window_Host::Copy_Text(std::string_view Text) {
-    QGuiApplication::clipboard()->setText(Qt_Text(Text));
-}
-
 bool Window_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
     Bring_Up_To_Date();
     const Busy Now;
     QEventLoop Loop;
+    QTimer Clock;
+    Clock.callOnTimeout([this] { Bring_Up_To_Date(); });
+    Clock.start(Clock_Ms);
     bool Started = false;
+    Tool_Runs_ = true;
     std::thread Worker([&, Line = std::string(Cmd_Line)] {
         Started = Silent_Host::Run_Tool(Line, Show_Mode);
+        Tool_Runs_ = false;
         QMetaObject::invokeMethod(&Loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
     Loop.exec();
     Worker.join();
     return Started;
+}
+
+bool Window_Host::End_Tool() {
+    return Tool_Runs_ && Silent_Host::End_Tool();
+}
+
+void Window_Host::Show_Folder(std::string_view Dir) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(System_Path(Dir)));
+}
+
+void Window_Host::Copy_Text(std::string_view Text) {
+    QApplication::clipboard()->setText(
+        Qt_Text(Text).replace(QLatin1String("\r\n"), QLatin1String("\n")));
 }

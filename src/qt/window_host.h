@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QPointer>
+#include <atomic>
 
 #include "core/host.h"
 #include "ui/form/form_list.h"
@@ -18,6 +19,8 @@ public:
     void Tell_Error_Stream(bool On) { Tells_Error_Stream_ = On; }
 
     Int Show_Box(const Box& B) override;
+    /// Nothing: what a generation notes is in its report.
+    void Note_Message(const Box&) override {}
     std::optional<std::string> Ask_File(const File_Question& Q) override;
     Form_End Run_Form(std::string_view Form) override;
     void Open_Form(std::string_view Form, Int Delay_Ms) override;
@@ -32,9 +35,11 @@ public:
     void Refresh() override;
     void Turn() override;
     Display_Info Display() override;
-    void Copy_Text(std::string_view Text) override;
     /// The window goes on painting while the tool runs.
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
+    bool End_Tool() override;
+    void Show_Folder(std::string_view Dir) override;
+    void Copy_Text(std::string_view Text) override;
 
 private:
     void Bring_Up_To_Date();
@@ -42,4 +47,5 @@ private:
     QPointer<Form_Window> Main_;
     bool Tells_Error_Stream_ = false;
     QElapsedTimer Since_Refresh_;
+    std::atomic<bool> Tool_Runs_ = false;
 };

@@ -2,8 +2,10 @@
 #include "gen/driver.h"
 
 #include "core/view_calls.h"
+#include "core/work.h"
 #include "gen/emit_classes.h"
 #include "gen/emit_night_lines.h"
+#include "gen/generation_host.h"
 #include "gen/outputs.h"
 #include "gen/restore_outputs.h"
 #include "gen_test.h"
@@ -115,6 +117,51 @@ TEST_F(Driver_Test, WhatWasThereComesBack) {
     EXPECT_EQ(Dir.Read("Excl.bgl"), Made) << "kept for as long as there is no other";
     Restore_Outputs();
     EXPECT_EQ(Host_Of_Test.Boxes.size(), 1U) << "nothing is kept any more";
+}
+
+TEST_F(Driver_Test, WhatNeedsAMissingToolStays) {
+    Make_Map(64);
+    Exclude_Something();
+    Put_Tool("scasm.exe", "copy $1 $2\n");
+    Attr Road;
+    Road.SurfShore = Surf_Line;
+    Road.Line_Night = 1;
+    Draw({{100, 100}, {500, 100}}, Road);
+    for (const char* Name : {"Excl.bgl", "Out_3.bgl", "Out_9001.bgl"}) Dir.Write(Name, "older");
+    Generation_Plan Plan;
+    for (const Tool_Choice Choice : {Tool_Choice::Stop, Tool_Choice::Without_Missing}) {
+        Plan.On_Missing = [&](const std::vector<std::string>& Missing) {
+            EXPECT_EQ(Missing, std::vector{App_Path + "\\bglc.exe"});
+            return Choice;
+        };
+        EXPECT_EQ(Generation_Run(Plan), Choice != Tool_Choice::Stop);
+        EXPECT_EQ(Dir.Read("Out_9001.bgl") == "older", Choice == Tool_Choice::Stop);
+        EXPECT_TRUE(Dir.Read("Excl.bgl") == "older" && Dir.Read("Out_3.bgl") == "older");
+    }
+    ASSERT_EQ(The_Report.Outputs.size(), 1U);
+    EXPECT_EQ(The_Report.Outputs[0].Found.value().Size, Dir.Read("Out_9001.bgl").size());
+}
+
+TEST_F(Driver_Test, TheUserEndsAToolAndWhatWouldFollow) {
+    Exclude_Something();
+    Tab_Area.Append({});
+    Host_Of_Test.Tool = [&](std::string_view) {
+        Dir.Write("Excl.bgl", "half of it");
+        Work_Cancel();
+        Tool_End();
+        return true;
+    };
+    Cmd_API();
+    EXPECT_TRUE(The_Report.Was_Cancelled);
+    EXPECT_EQ(The_Report.Outputs.at(0).State, Output_State::Ended);
+    EXPECT_FALSE(Dir.Has("Excl.bgl") || Has_Source("Terrafold$_Poly_LWM.asm"));
+    EXPECT_FALSE(Host_Of_Test.Visible["Fram_Compile"]);
+    Host_Of_Test.Tool = nullptr;
+    Dir.Write("Out_3.bgl", "former");
+    Outputs_Begin();
+    EXPECT_TRUE(Bgl_Set_Aside(Dir.Path("Out_3.bgl")) && !Dir.Has("Out_3.bgl"));
+    Outputs_End();
+    EXPECT_EQ(Dir.Read("Out_3.bgl"), "former") << "no tool has come to it";
 }
 
 // A polygon from (10, 10) to (20, 20) linked to textures of one number: numbers are unique in what

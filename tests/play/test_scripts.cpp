@@ -16,6 +16,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <regex>
 #include <vector>
 
 #include "platform/files.h"
@@ -115,6 +116,8 @@ protected:
                    ": " + End.Reason + "\n";
         for (const std::string& Here : {Dir.Path(), Dir.Native().generic_string()})
             Out = Replaced(Replaced(std::move(Out), Here, "@WDIR@"), Upper_1252(Here), "@WDIR@");
+        Out = std::regex_replace(Out, std::regex(R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d)"), "@TIME@");
+        Out = std::regex_replace(Out, std::regex(R"(\d+\.\d s\b)"), "@SECONDS@");
         return To_Utf8(In_One_Form(std::move(Out)));
     }
     void Play_And_Compare(const std::string& Name) {

@@ -68,5 +68,5 @@ bool Test_Host::Run_Tool(std::string_view Cmd_Line, Int Show_Mode) {
 }
 
 void Test_Host::Note_File(File_Event Event, std::string_view Path) {
-    Events.push_back(Event_Word(Event) + std::string(Path));
+    Events.push_back(std::string(Event_Word(Event)) + " " + std::string(Path));
 }

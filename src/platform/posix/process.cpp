@@ -101,6 +101,12 @@ bool Process_Run(std::string_view Cmd_Line, bool) {
     return true;
 }
 
+bool Process_Can_Start(std::string_view Program) {
+    const std::optional<Command> C = Parse_Command("\"" + std::string(Program) + "\"");
+    const std::optional<Start> S = C ? Start_Of(*C) : std::nullopt;
+    return S && access(S->File.c_str(), X_OK) == 0;
+}
+
 void Process_End_Running() {
     if (const pid_t Child = Running; Child > 0) kill(-Child, SIGKILL);
 }

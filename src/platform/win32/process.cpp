@@ -7,6 +7,7 @@
 #include <mutex>
 #include <string>
 
+#include "platform/files.h"
 #include "platform/system.h"
 #include "platform/text1252.h"
 
@@ -86,6 +87,10 @@ bool Process_Run(std::string_view Cmd_Line, bool Hidden) {
     WaitForSingleObject(Process.get(), INFINITE);
     Set_Running(nullptr);
     return true;
+}
+
+bool Process_Can_Start(std::string_view Program) {
+    return File_Exists(Program);
 }
 
 void Process_End_Running() {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/messages.h"
+#include "core/work.h"
 #include "shapes/coast/coast_frame.h"
 #include "shapes/coast/coast_loc.h"
 #include "shapes/poly/work_lists.h"
@@ -71,6 +72,7 @@ void Coast_Close() {
     std::vector<CoastLoc> Line;
     bool Failed = false;
     for (const WPoly& W : Tab_WPoly.Rows()) {
+        Work_Look();
         Snap(All.subspan(static_cast<std::size_t>(W.First - 1), static_cast<std::size_t>(W.Nb)),
              Line);
         const std::span<const CoastLoc> Rest = Without_Repeated_Ends(Line);

@@ -103,5 +103,5 @@ void Self_Cross_Show() {
     Text += std::string_view(Num_Text(Err_PixX));
     Text += " Y:";
     Text += std::string_view(Num_Text(Err_PixY));
-    Msg_Show_Text(121, Text);
+    Msg_Show_Text(121, Text, Map_Place{.X = Err_PixX, .Y = Err_PixY});
 }

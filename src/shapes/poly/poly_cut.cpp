@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/host.h"
+#include "core/work.h"
 #include "grid/grid_lines.h"
 #include "shapes/poly/convex_cut.h"
 #include "shapes/poly/cut_view.h"
@@ -136,7 +137,11 @@ void Grid_Cutter::Cut_Along(const Axis& A, std::size_t First_Pass, std::span<con
 std::size_t Cut_All(const Grid_Lines& Lines, std::size_t End_Pass, Piece_Sink& To) {
     To.Begin();
     Grid_Cutter Cutter(Lines, End_Pass, To);
-    for (const WPoly& W : Tab_WPoly.Rows()) Cutter.Cut(W);
+    Long Nb_Done = 0;
+    for (const WPoly& W : Tab_WPoly.Rows()) {
+        Work_At(0.5 + 0.5 * Nb_Done++ / Nb_WPoly);
+        Cutter.Cut(W);
+    }
     return Cutter.Failed_Pass();
 }
 

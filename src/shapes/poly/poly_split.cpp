@@ -9,6 +9,7 @@
 
 #include "core/host.h"
 #include "core/number_text.h"
+#include "core/work.h"
 #include "geometry/ear_clip.h"
 #include "geometry/segments.h"
 #include "shapes/poly/cut_view.h"
@@ -205,7 +206,9 @@ void Poly_Split_Max(Long Limit) {
     Splitter Both_Passes(Limit);
     Piece_List Pieces, Second;
     std::vector<Pix> Points;
+    Long Nb_Done = 0;
     for (const WPoly& W : Tab_WPoly.Rows()) {
+        Work_At(0.5 * Nb_Done++ / Nb_WPoly);
         Points.clear();
         for (Long I = W.First; I <= W.Last; ++I) Points.push_back({Tab_WPt[I].X, Tab_WPt[I].Y});
         Both_Passes.Split(Points, Pieces);

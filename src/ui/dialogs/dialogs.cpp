@@ -28,6 +28,8 @@ void Forms_Install() {
     Form_Register("Frm_V24", Make_Frm_V24);
     Form_Register("Frm_Route", Make_Frm_Route);
     Form_Register("Frm_Ref", Make_Frm_Ref);
+    Form_Register("Frm_Tools", Make_Frm_Tools);
+    Form_Register("Frm_Report", Make_Frm_Report);
 }
 
 void Add_Ok_Cancel(Form& F, std::function<void()> Ok, std::function<void()> Cancel) {

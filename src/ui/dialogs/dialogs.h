@@ -28,6 +28,8 @@ std::unique_ptr<Form> Make_Frm_PPro();
 std::unique_ptr<Form> Make_Frm_V24();
 std::unique_ptr<Form> Make_Frm_Route();
 std::unique_ptr<Form> Make_Frm_Ref();
+std::unique_ptr<Form> Make_Frm_Tools();
+std::unique_ptr<Form> Make_Frm_Report();
 
 /// Registers every dialog of this folder. Called once at the start of the program.
 void Forms_Install();

@@ -34,6 +34,7 @@ enum class Control_Kind {
     Combo,       // the same, folded up
     Image,       // a picture
     Lamp,        // a spot of its Colour
+    Bar,         // how far a work is: Value 0 to Max
     Frame,       // a box round others; disabling or hiding it does so to all of them
     Tabs,        // Value is the page in front
     Tab,         // a page of Tabs
@@ -78,6 +79,7 @@ struct Control {
     Field_Rule Rule = {};        // of a field; without Accept any text is taken
     Int Columns = 0;             // width of a field or list in characters, 0 for the usual one
     bool Read_Only = false;      // a field that is filled by a click or chooser, not by typing
+    bool In_Long_Work = false;   // a button that the user can press while the program works
     bool No_Quotes = false;      // a field whose text has ' where " was typed
     bool Upright = false;        // Options that stand one below the other, however few they are
     Long Width = 0, Height = 0;  // pixels of an Image or Canvas, which keeps them; 0: as it comes
@@ -88,7 +90,7 @@ struct Control {
     std::string Tip = {};
     std::string Text = {};  // of a field
     Long Value = 0;
-    Long Max = 0;  // of a scroll bar
+    Long Max = 0;  // of a scroll bar or Bar
     Long Small_Step = 0, Large_Step = 0;
     std::vector<std::string> Items = {};   // of Options, List and Combo
     std::vector<Wording> Item_Words = {};  // Items in both languages, where they are words

@@ -289,6 +289,7 @@ bool Form_Takes_Focus(const Control& C) {
         case Control_Kind::Menu:
         case Control_Kind::Menu_Item:
         case Control_Kind::Label:
+        case Control_Kind::Bar:
         case Control_Kind::Scroll_Bar:
         case Control_Kind::Tabs:
             return false;

@@ -90,6 +90,7 @@ constexpr Command Button_Commands[] = {
     {"Cmd_ColourGrid", Cmd_ColourGrid},
     {"Cmd_FSUIPC", Cmd_FSUIPC},
     {"Cmd_API", Generate_In_View},
+    {"Cmd_Stop_API", Generate_Stop},
     {"Cmd_Help", Cmd_Help},
     {"Cmd_Sup_Route_Ou_Pt", Cmd_Sup_Route_Ou_Pt},
     {"Cmd_Tabul", Cmd_Tabul},
@@ -189,7 +190,7 @@ void Keep_Commands_Away(bool Away) {
             Frm().Set_Enabled(Name, true);
     if (!Away || !M.Kept_Away.empty()) return;
     for (const Control& C : Frm().Controls())
-        if (Is_Command(C) && C.Enabled) M.Kept_Away.push_back(C.Name);
+        if (Is_Command(C) && !C.In_Long_Work && C.Enabled) M.Kept_Away.push_back(C.Name);
     for (const std::string& Name : M.Kept_Away) Frm().Set_Enabled(Name, false);
 }
 

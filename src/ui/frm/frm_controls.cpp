@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/work.h"
 #include "platform/text1252.h"
 #include "ui/canvas/view.h"
 
@@ -113,8 +114,8 @@ constexpr Label_Row Read_Outs[] = {{"L_MouseBmp", 18}, {"LLat", 14},    {"LLon",
                                    {"L_CustomBmp", 22}};
 
 // What is being made, and how far it is.
-constexpr Label_Row Progress_Labels[] = {
-    {"LCompileNom", 60}, {"LCompile", 60}, {"LTex2500", 40}, {"LNbTex", 8}, {"LPourCent", 6}};
+constexpr Label_Row Progress_Labels[] = {{"LCompileNom", 60}, {"LCompile", 60}, {"L_Elapsed", 24},
+                                         {"LTex2500", 40},    {"LNbTex", 8},    {"LPourCent", 6}};
 
 std::string Icon_Name(const char* Button) {
     std::string Name = std::string(Button).substr(sizeof "Cmd_" - 1);
@@ -171,6 +172,14 @@ void Add_Labels(Form& F) {
            .Name = "Fram_Compile",
            .Words = {"BGL generation", "Generation BGL"},
            .Visible = false});
+    F.Add({.Kind = Control_Kind::Bar,
+           .Name = "Bar_Compile",
+           .Tip_Words = {"Progress", "Progression"},
+           .Max = Work_Whole});
+    F.Add({.Kind = Control_Kind::Button,
+           .Name = "Cmd_Stop_API",
+           .Words = {"Cancel", "Annuler"},
+           .In_Long_Work = true});
     F.Add({.Kind = Control_Kind::Frame,
            .Name = "Fram_Creat_2500",
            .Words = {"Map", "Carte"},
@@ -245,7 +254,8 @@ void Frm_Add_Controls(Form& F) {
     Add_Labels(F);
     F.Set_Layout(
         Column({Menu_Layout(), Tool_Bar_Layout(), Canvas("Pic", {"VScroll", "HScroll"}),
-                Over_Canvas({Frame("Fram_Compile", {"LCompileNom", "LCompile"}),
+                Over_Canvas({Frame("Fram_Compile", {"LCompileNom", "LCompile", "Bar_Compile",
+                                                    Row({"L_Elapsed", Space(), "Cmd_Stop_API"})}),
                              Frame("Fram_Creat_2500", {"LTex2500", Row({"LNbTex", "LPourCent"})})}),
                 Read_Out({"L_MouseBmp", "LLat", "LLon", "LLatDec", "LLonDec", "L_NumCell_Area",
                           "L_CustomBmp"}),
