@@ -25,14 +25,14 @@ _terrafold_cli() {
         return
     fi
     case $before in
-        --app-path) _terrafold_files ''; return ;;
+        --app-path | --output-dir) _terrafold_files ''; return ;;
         --language) COMPREPLY=($(compgen -W 'FR US' -- "$cur")); return ;;
         --canvas) return ;;
         --palette) _terrafold_files '*.@(pal|PAL)'; return ;;
         --journal) _terrafold_files '*.jnl'; return ;;
     esac
     case $command in
-        generate) options='--app-path --language --create --dry-run' ;;
+        generate) options='--app-path --language --create --output-dir --dry-run --sources-only --json' ;;
         restore-outputs) options='--app-path --language --create' ;;
         play) options='--app-path --language --create --canvas --journal' ;;
         texture) options='--palette' ;;
