@@ -280,7 +280,7 @@ TEST_F(Texture_File, ALackingPaletteIsToldOnce) {
     EXPECT_EQ(Write(R8_Indices(1)), 0);
     EXPECT_EQ(Write(R8_Indices(1)), 0);
     ASSERT_EQ(Host_Of_Test.Boxes.size(), 1U);
-    EXPECT_NE(Host_Of_Test.Boxes[0].Text.find("\\Fs5.pal"), std::string::npos);
+    EXPECT_NE(Host_Of_Test.Boxes[0].Text.find("Fs5.pal"), std::string::npos);
 }
 
 }  // namespace

@@ -294,7 +294,7 @@ keep report
 key Escape
 await "the end of the report" has_windows 1
 source=Terrafold\$_Poly_LWM.asm
-"$cli" generate "$scratch/First.LWM" --app-path "$scratch/other" --dry-run >"$scratch/play.log" ||
+"$cli" generate "$scratch/First.LWM" --app-path "$scratch/other" --create --dry-run >"$scratch/play.log" ||
     fail "the command line does not generate"
 undated() { tail -n +3 "$1/$source"; }
 cmp <(undated "$scratch/home") <(undated "$scratch/other") || fail "the window generates something else"

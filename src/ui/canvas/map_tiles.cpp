@@ -129,7 +129,7 @@ std::string Too_Much_Text(std::uint64_t Needed, std::uint64_t Own, std::string_v
                        "coup\xE9"
                        "e, ses morceaux prendraient ") +
            In_MB(Needed) + In_Language(", and it has itself ", ", et elle-m\xEAme n'a que ") +
-           In_MB(Own) + ":\r\n" + std::string(Path);
+           In_MB(Own) + ":\r\n" + Shown_Path(Path);
 }
 
 // The size of the map that was cut last, for the project that is being opened.

@@ -28,14 +28,14 @@ bool Take(Form& F, Degree_Field& D, const std::string& Text) {
     return true;
 }
 
+}  // namespace
+
 std::string Degrees_Allowed(bool Is_Lat) {
     return Is_Lat ? In_Language("a latitude such as N48:30:00 or 48.5, from -90 to 90",
                                 "une latitude comme N48:30:00 ou 48.5, de -90 \xE0 90")
                   : In_Language("a longitude such as E2:30:00 or 2.5, from -180 to 180",
                                 "une longitude comme E2:30:00 ou 2.5, de -180 \xE0 180");
 }
-
-}  // namespace
 
 void Add_Degree_Fields(Form& F, std::vector<Degree_Field>& Fields) {
     for (Degree_Field& D : Fields) {

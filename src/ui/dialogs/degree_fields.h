@@ -19,6 +19,9 @@ struct Degree_Field {
     std::string Held = {};  // as it stands in the field
 };
 
+/// What such a field takes, in the program's language.
+std::string Degrees_Allowed(bool Is_Lat);
+
 /// Adds the controls of Fields, which must outlive the form and not move.
 void Add_Degree_Fields(Form& F, std::vector<Degree_Field>& Fields);
 

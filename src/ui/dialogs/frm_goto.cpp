@@ -4,6 +4,7 @@
 #include "geo/calibration.h"
 #include "geo/latlon_text.h"
 #include "ui/canvas/view.h"
+#include "ui/dialogs/degree_fields.h"
 #include "ui/dialogs/dialogs.h"
 
 namespace {
@@ -18,14 +19,16 @@ public:
                            "Degr\xE9s, ou une forme avec N ou S ; une position copi\xE9"
                            "e remplit les deux champs"},
              .Rule = {.Accept = [this](const std::string& Text) { return Take_Lat(Text); },
-                      .Held = [this] { return Lat_Text_; }},
+                      .Held = [this] { return Lat_Text_; },
+                      .Allowed = [] { return Degrees_Allowed(true); }},
              .Columns = 24});
         Add({.Kind = Control_Kind::Text,
              .Name = "GotoLon",
              .Words = {"Longitude:", "Longitude :"},
              .Tip_Words = {"Degrees, or a form with E or W", "Degr\xE9s, ou une forme avec E ou W"},
              .Rule = {.Accept = [this](const std::string& Text) { return Take_Lon(Text); },
-                      .Held = [this] { return Lon_Text_; }},
+                      .Held = [this] { return Lon_Text_; },
+                      .Allowed = [] { return Degrees_Allowed(false); }},
              .Columns = 24});
         Add_Ok_Cancel(
             *this, [this] { Ok(); }, [this] { Close(Form_End::Closed); });

@@ -80,6 +80,11 @@ bool Take_Zoom(const std::string& Text) {
     return true;
 }
 
+std::string Zooms_Allowed() {
+    return In_Language("a number from ", "un nombre de ") + Shown_Number(Least_Percent) +
+           In_Language(" to ", " \xE0 ") + Shown_Number(Most_Percent);
+}
+
 // --- places ------------------------------------------------------------------------------------
 
 void Go_To() {
@@ -151,7 +156,7 @@ void View_Controls_Install(Form& F) {
             Redraw();
         };
     Control& Figure = F.Handlers("Txt_Zoom");
-    Figure.Rule = {.Accept = Take_Zoom, .Held = Zoom_Text};
+    Figure.Rule = {.Accept = Take_Zoom, .Held = Zoom_Text, .Allowed = Zooms_Allowed};
 }
 
 void View_Controls_Show() {
