@@ -4,24 +4,13 @@
 // one that can be read has sound chains and saves to a file that is read again and saved as the
 // same bytes.
 #include "core/model_ops.h"
+#include "core/model_sound.h"
 #include "core/program.h"
 #include "core/project_file.h"
 #include "fuzz/scratch.h"
 #include "platform/files.h"
 
 namespace {
-
-void Check_Chains() {
-    Long Points = 0;
-    for (const Obj& O : Tab_Obj.Rows()) {
-        Need(O.Nb_Pts >= 0);
-        Long Before = 0;
-        for (Long P = O.First_Pt, N = 0; N < O.Nb_Pts; Before = P, P = Tab_Pt[P].Next, ++N)
-            Need(P == ++Points && Tab_Pt[P].Prev == Before);
-        Need(Before == O.Last_Pt);
-    }
-    Need(Points == Nb_Pt && Nb_Obj >= 1);
-}
 
 // The bytes behind the first two lines.
 std::string Saved() {
@@ -36,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
     static const std::string Path = Program_Path(Scratch_Path(".LWM")).value();
     Program_Reset();
     Read_Project_Text({reinterpret_cast<const char*>(Data), Size});
-    Check_Chains();
+    Need(Model_Is_Sound());
     if (Load_Failed != 0) {
         Need(Nb_Obj == 1 && Nb_Pt == 0 && The_Head == Project_Head());
         return 0;
@@ -46,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
     const std::string First = Saved();
     Read_Project_Text("0000 V5.0\n0002\n" + First);
     Need(Load_Failed == 0);
-    Check_Chains();
+    Need(Model_Is_Sound());
     const std::string Second = Saved();
     Read_Project_Text("0000 V5.0\n0002\n" + Second);
     Need(Load_Failed == 0 && Saved() == Second);

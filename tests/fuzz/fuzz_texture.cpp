@@ -2,31 +2,11 @@
 //
 // Besides staying alive: what was read has a size within limits and one line that tells it;
 // nothing is left of what was refused; and as a bitmap file it is the same picture again.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <random>
-#include <string>
-
-#include "platform/paths.h"
+#include "fuzz/scratch.h"
 #include "tex/bitmap.h"
 #include "tex/texture.h"
 
 namespace {
-
-// In memory where the system offers that, for speed.
-std::filesystem::path Scratch_File() {
-    const std::filesystem::path Memory = "/dev/shm";
-    const auto Dir =
-        std::filesystem::is_directory(Memory) ? Memory : std::filesystem::temp_directory_path();
-    return Dir / ("terrafold_fuzz_" + std::to_string(std::random_device{}()) + ".bmp");
-}
-
-void Need(bool Holds) {
-    if (!Holds) std::abort();
-}
 
 // Files of 24 bits are copied as they are, with headers that bitmaps need not have.
 void Need_Same_As_File(const std::string& Path, const Picture& P, const std::string& Text) {
@@ -44,12 +24,7 @@ void Need_Same_As_File(const std::string& Path, const Picture& P, const std::str
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
-    static const std::filesystem::path File = Scratch_File();
-    static const std::string Path = Program_Path(File).value();
-    {
-        std::ofstream Out(File, std::ios::binary);
-        Out.write(reinterpret_cast<const char*>(Data), static_cast<std::streamsize>(Size));
-    }
+    const std::string Path = Scratch_File(Data, Size);
     Picture P;
     std::string Text;
     const Texture_Fault Fault = Texture_Read(Path, Pal_Fs5, P, Text);
