@@ -219,14 +219,4 @@ void Cut_Lines(Polys& List, const Line_Cut_Rule& Rule) {
     List = Cut_Lines_Along(Cut_Lines_Along(List, Rule, true, Whole), Rule, false, {});
 }
 
-void Coast_Crossings(Polys& List, const Grid_Lines& Grid) {
-    for (const Line& L : Lines_Of(Grid))
-        for (Poly& W : List)
-            for (std::size_t I = 0; I + 1 < W.P.size(); ++I) {
-                const Seg_Meet M = L.Cut(W.P[I], W.P[I + 1]);
-                if (M.Code != Meet::Cross) continue;
-                W.P.insert(W.P.begin() + static_cast<std::ptrdiff_t>(++I), As_WPt(M.At));
-            }
-}
-
 }  // namespace reference

@@ -27,50 +27,6 @@ std::optional<Pix> Edges_Cross(const Poly& W, std::size_t I, std::size_t J) {
     return std::nullopt;
 }
 
-struct Edge {
-    Int FromX, FromY, ToX, ToY;
-    bool Used = false;
-};
-
-std::vector<Edge> Edges_Of(std::span<const CPoly> Polys, const Table<CPt>& Points) {
-    std::vector<Edge> List;
-    for (std::size_t K = 0; K < Polys.size(); ++K)
-        for (Long I = Polys[K].First; I <= Polys[K].Last; ++I) {
-            const CPt &From = Points[I], &To = Points[I == Polys[K].Last ? Polys[K].First : I + 1];
-            const auto Reverse = std::ranges::find_if(List, [&](const Edge& L) {
-                return L.ToX == From.LocX && L.ToY == From.LocY && L.FromX == To.LocX &&
-                       L.FromY == To.LocY;
-            });
-            if (K > 0 && Reverse != List.end())
-                Reverse->Used = true;
-            else
-                List.push_back({From.LocX, From.LocY, To.LocX, To.LocY});
-        }
-    return List;
-}
-
-// The starts of the edges of the chain. Empty when the pieces stay whatever it is.
-std::vector<Pix> Chain_Of(std::vector<Edge> List) {
-    std::size_t First = 0;
-    while (First < List.size() && List[First].Used) ++First;
-    if (First + 2 >= List.size()) return {};
-    List[First].Used = true;
-    std::vector<Edge> Chain{List[First]};
-    std::size_t Sweeps = 0;
-    for (bool Added = true; Added;) {
-        Added = false;
-        if (++Sweeps > List.size() + 2) return {};
-        for (Edge& E : List) {
-            if (E.Used || E.FromX != Chain.back().ToX || E.FromY != Chain.back().ToY) continue;
-            E.Used = Added = true;
-            Chain.push_back(E);
-        }
-    }
-    std::vector<Pix> Starts;
-    for (const Edge& E : Chain) Starts.push_back({1.0 * E.FromX, 1.0 * E.FromY});
-    return Starts;
-}
-
 }  // namespace
 
 std::optional<Pix> Self_Cross(const Polys& List, bool Closed) {
@@ -84,18 +40,6 @@ std::optional<Pix> Self_Cross(const Polys& List, bool Closed) {
             if (const auto At = Edges_Cross(W, Nb - 1, J)) return At;
     }
     return std::nullopt;
-}
-
-bool Fill_Cell(std::span<const CPoly> Polys, const Table<CPt>& Points) {
-    const std::vector<Pix> Chain = Chain_Of(Edges_Of(Polys, Points));
-    const std::size_t n = Chain.size();
-    std::vector<Pix> Left;
-    for (std::size_t I = 0; I < n; ++I)
-        if (Sens_3Pts(Chain[(I + n - 1) % n], Chain[I], Chain[(I + 1) % n]) != 0)
-            Left.push_back(Chain[I]);
-    if (n < 4 || Left.size() != 4) return false;
-    std::rotate(Left.begin(), std::ranges::find(Left, Pix{0, 0}), Left.end());
-    return Left == std::vector<Pix>{{0, 0}, {255, 0}, {255, 255}, {0, 255}};
 }
 
 }  // namespace reference

@@ -39,12 +39,6 @@ Polys Split(Polys List, Long Limit, Long& Rounds);
 /// The pieces along every line of a grid; the text of a box when a polygon is cut too often.
 std::string Cut(Polys& List, const Grid_Lines& Grid);
 void Cut_Lines(Polys& List, const Line_Cut_Rule& Rule);
-/// A point at every crossing of a grid.
-void Coast_Crossings(Polys& List, const Grid_Lines& Grid);
-
-/// Whether the edges that the pieces of one Cell do not share run round the Cell. The list of
-/// edges is gone through again and again.
-bool Fill_Cell(std::span<const CPoly> Polys, const Table<CPt>& Points);
 
 /// For I from the first, for J behind it: exchanged when J comes before I.
 template <typename List, typename Before>
