@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 /// A bitmap texture. A file whose pixels begin 20 bytes late has the simulator's own block.
@@ -20,10 +19,3 @@ std::string Texture_Bytes(const Texture_Spec& T);
 
 /// Codes of 9 bits, the highest first, with zeros up to a whole byte.
 std::string Packed_Codes(const std::vector<std::uint32_t>& Codes);
-
-/// A compressed R8 of 65536 indices: runs, literals and skipped bytes by chance of Seed where
-/// the indices allow, then strings of the dictionary wherever one fits.
-std::string Compressed_R8(std::string_view Indices, unsigned Seed);
-
-/// 65536 indices with runs of all lengths, repeated strings and noise.
-std::string R8_Indices(unsigned Seed);
