@@ -5,8 +5,8 @@
 #include <stdexcept>
 
 #include "simlink/hex_text.h"
-#include "simlink/scripted.h"
 #include "support/program_test.h"
+#include "support/rows.h"
 
 namespace {
 
@@ -57,35 +57,14 @@ std::string Hex_Of(Double X) {
 }
 
 TEST_F(Fs_Connect, DecodesByTheLetter) {
-    const struct {
-        const char* Answer;
-        char Letter;
-        const char* Read;  // "1" for a refusal, else value, text and first number
-    } Rows[] = {{"00000000000000000000F83F", 'n', "1.500000 000000000000F83F 0"},
-                {"04030201000000000000F83F", 'B', "1.500000 000000000000F83F 16909060"},
-                {"000000000000000000000040", 'b', "2.000000 0000000000000040 0"},
-                {"0000000078563412", 'e', "305419896 78563412 0"},
-                {"00000000ffFFffFFzz", 'f', "1"},
-                {"00000000ffFFffFFz", 'F', "-1 ffFFffFFz 0"},
-                {"FFFFFFFF0100000002", 'd', "1 0100000002 -1"},
-                {"0000000001000000", 'o', "1 01000000 0"},
-                {"0000000001000000", 'p', "1 01000000 0"},
-                {"0000000001000000", 'x', "1"},
-                {"0000000001000000", 'n', "1"},
-                {"00000000010000", 'e', "1"},
-                {"0000000-01000000", 'e', "1"},
-                {"0x00000001000000", 'e', "1"},
-                {"", 'n', "1"}};
-    for (const auto& [Answer, Letter, Read] : Rows) {
-        Server.Name = Answer;
-        const Long Status = Fsc_Get(9, Letter, Value, Text, First);
-        if (Status != 0) {
-            EXPECT_EQ(std::to_string(Status), Read) << Answer << Letter;
-            continue;
-        }
-        const std::string Number = std::visit([](auto X) { return std::to_string(X); }, Value);
-        EXPECT_EQ(Number + " " + Text + " " + std::to_string(First), Read) << Answer << Letter;
-    }
+    Expect_Rows("simulator", {{"Fsc_Get", [this](const Row_Cells& C) {
+                                   Server.Name = C[0];
+                                   if (Fsc_Get(9, C[1][0], Value, Text, First) != 0)
+                                       return std::string("refused");
+                                   const auto Written = [](auto X) { return std::to_string(X); };
+                                   return std::visit(Written, Value) + " " + Text + " " +
+                                          std::to_string(First);
+                               }}});
     EXPECT_EQ(Hex_Bytes(std::string(600, 'A'))->size(), 255U);
     EXPECT_EQ(Hex_Bytes("0aF"), std::vector<Byte>{10}) << "an odd character does not count";
 }
@@ -153,28 +132,6 @@ TEST_F(Fs_Connect, ShowsAnErrorOfItsOwn) {
     EXPECT_EQ(Host_Of_Test.Boxes[0].Text, "Error in routine fscGetLatitude!\r\nno more memory");
     EXPECT_EQ(Host_Of_Test.Boxes[1].Text, "Error in routine fscGetLongitude!\r\nno more memory");
     EXPECT_EQ(Host_Of_Test.Boxes[0].Style, Box_Stop);
-}
-
-TEST_F(Fs_Connect, AScriptFliesTheAircraft) {
-    Scripted_Simulator Script;
-    const Carrier_Scope Scope(Script);
-    std::string Name;
-    const auto Identify = [&] { return Fsc_Identify(Name, Text, First, First); };
-    EXPECT_EQ(Identify(), 1);
-    EXPECT_EQ(Fsc_Get_Latitude(Degrees), 1);
-    Script.Fly_To(-39.70154542, 86.18899302);
-    EXPECT_EQ(Identify(), 0);
-    EXPECT_EQ(Fsc_Get_Latitude(Degrees), 0);
-    EXPECT_EQ(Degrees, -39.70154542);
-    EXPECT_EQ(Fsc_Get_Longitude(Degrees), 0);
-    EXPECT_EQ(Degrees, 86.18899302);
-    Script.Fly_To(90.1, 0.0);
-    EXPECT_EQ(Fsc_Get_Latitude(Degrees), 1);
-    Script.Fail(6);
-    EXPECT_EQ(Identify(), 6);
-    EXPECT_EQ(Fsc_Get_Latitude(Degrees), 6);
-    Script.Vanish();
-    EXPECT_EQ(Identify(), 1);
 }
 
 }  // namespace
