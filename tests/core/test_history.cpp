@@ -2,6 +2,7 @@
 // restored from its journal; the states are compared bit by bit.
 #include "core/history.h"
 
+#include <functional>
 #include <random>
 
 #include "core/journal_read.h"
@@ -26,35 +27,6 @@ protected:
         return A;
     }
 
-    void Act_On_Objects() {
-        if (Nb_Obj < First_Obj || Any(4) == 1) {
-            Obj_Add(Any_Attr(), Place(), Place());
-            return;
-        }
-        const Long I = First_Obj - 1 + Any(Nb_Obj - 1);
-        const Obj O = Tab_Obj[I];
-        switch (Any(9)) {
-            case 1:
-                return Obj_Delete(I);
-            case 2:
-                return Obj_Set_Attr(I, Any_Attr());
-            case 3:
-                return Obj_Move(I, 1.0, -0.0);
-            case 4:
-                Pt_Delete(I, O.First_Pt);
-                return;
-            case 5:
-                Pt_Prepend(I, Place(), Place());
-                return;
-            case 6:
-                return Pt_Move(O.Last_Pt, Place(), Place());
-            case 7:
-                Pt_Insert(I, O.First_Pt, Place(), Place());
-                return;
-            default:
-                Pt_Append(I, Place(), Place());
-        }
-    }
     template <typename R>
     void Act_On_Squares(Project_Table<R>& Tab) {
         std::vector<R> Records(static_cast<std::size_t>(Any(5)));
@@ -67,54 +39,37 @@ protected:
         else
             Squares_Delete(Tab, std::span<const R>(Records));
     }
-    void Act_On_Textures() {
-        if (Nb_Ima == 0 || Any(3) == 1) {
-            Ima M;
-            M.DirFic = "a.bmp";
-            Ima_Add(M);
-            return;
-        }
-        const Long I = Any(Nb_Ima);
-        if (Nb_Obj >= First_Obj) Obj_Link(Nb_Obj, Tab_Ima[I].Num);
-        if (Any(2) == 1)
-            Ima_Delete(I);
-        else
-            Ima_Place(I, Place(), Place(), Place(), Place());
-    }
-    void Act_On_Samples() {
-        if (Nb_PtGrid == 0 || Any(3) == 1)
-            PtGrid_Add(Place(), Place(), 1.5F);
-        else if (Any(2) == 1)
-            PtGrid_Delete(Any(Nb_PtGrid));
-        else
-            PtGrid_Change(Any(Nb_PtGrid), Place(), Place(), 2.5F);
-    }
     void Act_On_Anything() {
-        switch (Any(14)) {
-            case 1:
-                return Act_On_Squares(Tab_Area);
-            case 2:
-                return Act_On_Squares(Tab_Lod8);
-            case 3:
-                return Act_On_Squares(Tab_Excl);
-            case 4:
-                return Act_On_Squares(Tab_LC);
-            case 5:
-                return Act_On_Squares(Tab_WC);
-            case 6:
-                return Act_On_Textures();
-            case 7:
-                return Act_On_Samples();
-            case 8:
-                NameBgl = std::to_string(Any(9));
-                LatGridNW = Place();
-                return;
-            case 9:
-                if (Any(40) == 1) Init_Tables();
-                return;
-            default:
-                return Act_On_Objects();
-        }
+        if (Nb_Obj < First_Obj) Obj_Add(Any_Attr(), Place(), Place());
+        const Long I = First_Obj - 1 + Any(Nb_Obj - 1), First = Tab_Obj[I].First_Pt;
+        if (Nb_Ima == 0) Ima_Add({});
+        if (Nb_PtGrid == 0) PtGrid_Add(Place(), Place(), 1.5F);
+        const Long Texture = Any(Nb_Ima), Sample = Any(Nb_PtGrid);
+        const std::function<void()> Acts[] = {
+            [&] { Obj_Add(Any_Attr(), Place(), Place()); },
+            [&] { Obj_Delete(I); },
+            [&] { Obj_Set_Attr(I, Any_Attr()); },
+            [&] { Obj_Move(I, 1.0, -0.0); },
+            [&] { Obj_Link(I, Tab_Ima[Texture].Num); },
+            [&] { Pt_Delete(I, First); },
+            [&] { Pt_Prepend(I, Place(), Place()); },
+            [&] { Pt_Move(Tab_Obj[I].Last_Pt, Place(), Place()); },
+            [&] { Pt_Insert(I, First, Place(), Place()); },
+            [&] { Pt_Append(I, Place(), Place()); },
+            [&] { Act_On_Squares(Tab_Area); },
+            [&] { Act_On_Squares(Tab_Lod8); },
+            [&] { Act_On_Squares(Tab_Excl); },
+            [&] { Act_On_Squares(Tab_LC); },
+            [&] { Act_On_Squares(Tab_WC); },
+            [&] { Ima_Add({}); },
+            [&] { Ima_Delete(Texture); },
+            [&] { Ima_Place(Texture, Place(), Place(), Place(), Place()); },
+            [&] { PtGrid_Add(Place(), Place(), 1.5F); },
+            [&] { PtGrid_Delete(Sample); },
+            [&] { PtGrid_Change(Sample, Place(), Place(), 2.5F); },
+            [&] { NameBgl = std::to_string(Any(9)), LatGridNW = Place(); },
+            [&] { Any(40) == 1 ? Init_Tables() : Obj_Set_Attr(I, Any_Attr()); }};
+        Acts[Any(std::ssize(Acts)) - 1]();
     }
     void Do_Acts(Long Nb) {
         for (Long N = Any(3); N > 0; --N) Act_On_Anything();
