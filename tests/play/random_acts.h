@@ -14,7 +14,9 @@
 
 class Random_Acts {
 public:
-    Random_Acts(unsigned Seed, long Nb) : Source_(Seed), Left_(Nb) {}
+    /// With Routes_Only the main form's other modes are left alone.
+    Random_Acts(unsigned Seed, long Nb, bool Routes_Only = false)
+        : Source_(Seed), Left_(Nb), Routes_Only_(Routes_Only) {}
 
     /// The next one to the form in front; nothing after the last.
     std::optional<Act> operator()(const Form& F) {
@@ -27,7 +29,8 @@ public:
             return Make(Verb::Key, {One_Of({"Esc", "Enter", "Delete", "Shift+Left"})});
         std::vector<const Control*> All;
         for (const Control& C : F.Controls())
-            if (Form_In_Reach(F, C.Name) && Serves(C)) All.push_back(&C);
+            if (Form_In_Reach(F, C.Name) && Serves(C) && (F.Modal || Is_Wanted(C.Name)))
+                All.push_back(&C);
         if (All.empty()) return Make(Verb::Close, {});
         return On_Control(F, *All[Below(static_cast<unsigned>(All.size()))]);
     }
@@ -57,6 +60,12 @@ private:
                                Control_Kind::Menu, Control_Kind::Lamp, Control_Kind::Tab})
             if (C.Kind == Not) return false;
         return true;
+    }
+    bool Is_Wanted(const std::string& Name) const {
+        bool Wanted = !Routes_Only_;
+        for (const char* Word : {"_Route", "Cmd_Tabul", "Cmd_Undo", "Cmd_Redo"})
+            Wanted = Wanted || Name.find(Word) != std::string::npos;
+        return Wanted;
     }
     Act On_Canvas() {
         const std::vector<std::string> At{std::to_string(Below(400)), std::to_string(Below(400))};
@@ -94,4 +103,5 @@ private:
 
     std::mt19937 Source_;
     long Left_;
+    bool Routes_Only_;
 };

@@ -27,6 +27,10 @@
 #include "support/bitmap_file.h"
 #include "support/golden.h"
 #include "support/program_test.h"
+#include "ui/canvas/edit_state.h"
+#include "ui/canvas/surface.h"
+#include "ui/edit/modes.h"
+#include "ui/edit/route_tools.h"
 #include "ui_support/small_project.h"
 
 namespace {
@@ -146,27 +150,66 @@ TEST_P(Scripts, PrintWhatStandsBesideThem) {
     Compare_Projects(GetParam());
 }
 
+// What is selected, which tool is at work on it, and the lines that show it agree.
+void Expect_Whole_Selection() {
+    EXPECT_LE(Pending_New + Pending_Select + Tool_Insert + Tool_Extend + Tool_Sel_Point, 1);
+    const bool Point_Tool = Tool_Insert + Tool_Extend + Tool_Sel_Point != 0;
+    const bool Used = Point_Tool && Tool_Armed == 0;
+    EXPECT_TRUE(Last_Obj_Set == 0 || (First_Obj <= Last_Obj && Last_Obj <= Nb_Obj));
+    if (Obj_Selected == 0) {
+        EXPECT_TRUE(Sel_Obj == 0 && Pt_Selected == 0 && Sel_Pt == 0 && !Point_Tool);
+    } else {
+        ASSERT_TRUE(First_Obj <= Sel_Obj && Sel_Obj <= Nb_Obj);
+        const auto Is_In = [](Long Wanted) {
+            Long P = Tab_Obj[Sel_Obj].First_Pt;
+            while (P != 0 && P != Wanted) P = Tab_Pt[P].Next;
+            return P != 0;
+        };
+        EXPECT_EQ(Pt_Selected != 0, Is_In(Sel_Pt));
+        EXPECT_TRUE(!Used || Pt_Selected != 0);
+        if (Used && Tool_Insert != 0) {
+            EXPECT_TRUE(Tab_Pt[Sel_Pt].Next == Sel_Pt2 || Insert_Closing != 0);
+            EXPECT_TRUE(Is_In(Sel_Pt2));
+        }
+    }
+    const bool Grabbed = Used && Tool_Sel_Point != 0 && Pt_Fresh == 0;
+    const Overlay_Items& Over = The_Overlay;
+    EXPECT_EQ(Over.Cercle.Visible, Used && Tool_Insert == 0 && !Grabbed);
+    EXPECT_TRUE(!Over.Ln1.Visible || (Used && (Tool_Sel_Point == 0 || Grabbed)));
+    EXPECT_TRUE(!Over.Ln2.Visible || (Over.Ln1.Visible && Tool_Extend == 0));
+}
+
 class Random_Play : public Scripts {};
 
-// Whatever a user does in all modes and dialogs: each state comes back.
+// Whatever a user does in all modes and dialogs: the selection stays whole, and each state comes
+// back.
 TEST_P(Random_Play, EveryStateComesBack) {
     const char* Asked = std::getenv("TERRAFOLD_ROUNDS");
     const long Acts = Asked != nullptr ? std::atol(Asked) : 5000;
     Lay_Out();
-    Random_Acts Next(static_cast<unsigned>(std::stoi(GetParam())), Acts);
+    const bool Routes_Only = GetParam().ends_with("routes");
+    Random_Acts Next(static_cast<unsigned>(std::stoi(GetParam())), Acts, Routes_Only);
     Undo_Watch Watch(Dir.Path("App\\state.LWM"));
+    long Nb = 0;
     const std::string Text = "file \"" + Dir.Path("small.LWM") + "\"\nclick Mnu_File_Open\n" +
+                             (Routes_Only ? "click Cmd_Saisie_Routes\n" : "") +
                              Next.Answers(Acts, {"cancel", Dir.Path("tex/a.bmp")});
     const Play_End End = Play(Script_Read(Text),
                               {.App_Dir = App_Dir_,
                                .At_Start = [&] { Watch.Begin(); },
-                               .Next_Act = [&](const Form& F) { return Next(F); },
+                               .Next_Act =
+                                   [&](const Form& F) {
+                                       if (++Nb % 100 == 0) Points_Tidy(0), Watch.Note();
+                                       if (Mode_Route != 0) Expect_Whole_Selection();
+                                       return Next(F);
+                                   },
                                .At_End = [&] { Watch.Go_There_And_Back(); }},
                               [](std::string_view) {});
     EXPECT_GT(Watch.Nb_States(), 20U) << End.Reason;
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, Random_Play, testing::Values("1", "2", "3"));
+INSTANTIATE_TEST_SUITE_P(Seeds, Random_Play,
+                         testing::Values("1", "2", "3", "1 routes", "2 routes"));
 
 INSTANTIATE_TEST_SUITE_P(All, Scripts, testing::ValuesIn(Script_Names()),
                          [](const auto& Info) { return Info.param; });

@@ -32,6 +32,7 @@ public:
     }
     void Note() {
         if (!History_Is_On()) return States_.clear();
+        EXPECT_TRUE(Model_Is_Sound());
         // What an act has changed is a step more; what Undo and Redo lead to was there before.
         const std::size_t At = History_Undo_Count();
         const std::uint64_t Now = Bytes_Sum(Step_Of_Whole_Model());
@@ -51,7 +52,6 @@ public:
         EXPECT_EQ(As_File(), First_File_);
         while (History_Undo_Count() < Steps) Go(Cmd_Redo, History_Redo);
         EXPECT_EQ(As_File(), Last_File);
-        EXPECT_TRUE(Model_Is_Sound());
     }
     std::size_t Nb_States() const { return States_.size(); }
 
