@@ -1,7 +1,6 @@
 // tests/ui/test_form_events.cpp - the rules that all fields and buttons share.
 #include "ui/form/form_events.h"
 
-#include "platform/text1252.h"
 #include "ui/form/field_rules.h"
 #include "ui_support/ui_test.h"
 
@@ -73,61 +72,6 @@ protected:
 };
 
 }  // namespace
-
-TEST_F(Form_Events, EnterReadsAFieldAndEscapePutsItBack) {
-    EXPECT_TRUE(D.Type("Number", " 7 "));
-    EXPECT_EQ(Window.Seen.find("focus:Number! "), 0U) << "the whole text is selected on entry";
-    EXPECT_EQ(F.Held, 5) << "typing alone takes nothing";
-    EXPECT_TRUE(D.Enter());
-    EXPECT_EQ(F.Held, 7);
-    EXPECT_EQ(D.Text("Number"), "7") << "the value held, not what was typed";
-    D.Type("Number", "x");
-    D.Escape();
-    EXPECT_EQ(D.Text("Number"), "7");
-    EXPECT_FALSE(D.Is_Closed());
-    EXPECT_EQ(D.Last_Message(), -1);
-    D.Escape();
-    EXPECT_TRUE(D.Is_Closed()) << "with nothing to put back Escape is Cancel";
-    EXPECT_EQ(F.End(), Form_End::Closed);
-    EXPECT_EQ(F.Log, "entry take:7 ");
-}
-
-TEST_F(Form_Events, ABadEntryKeepsTheFocus) {
-    const std::function<bool()> Leavings[] = {
-        [&] { return D.Enter() && F.Held != 5; }, [&] { return D.Leave(); },
-        [&] { return D.Focus("Other"); },         [&] { return D.Type("Other", "text"); },
-        [&] { return D.Click("Check"); },         [&] { return D.Choose("List", 1); },
-        [&] { return D.Click("Cmd_Ok"); }};
-    for (const auto& Leave : Leavings) {
-        D.Type("Number", "12");
-        Host_Of_Test.Boxes.clear();
-        EXPECT_FALSE(Leave());
-        ASSERT_EQ(Host_Of_Test.Boxes.size(), 1U) << "one message";
-        EXPECT_EQ(D.Last_Message(), 1);
-        EXPECT_EQ(D.Has_Focus(), "Number");
-        EXPECT_EQ(D.Text("Number"), "12") << "what was typed is there to be mended";
-        EXPECT_EQ(F.Held, 5);
-    }
-    EXPECT_EQ(D.Value("Check"), 0);
-    EXPECT_EQ(D.Value("List"), -1);
-    EXPECT_FALSE(D.Is_Closed());
-    Host_Of_Test.Boxes.clear();
-    EXPECT_TRUE(D.Click("Cmd_Cancel"));
-    EXPECT_TRUE(D.Is_Closed());
-    EXPECT_TRUE(Host_Of_Test.Boxes.empty()) << "Cancel looks at no field";
-}
-
-TEST_F(Form_Events, AGoodEntryIsReadWhenTheFieldIsLeft) {
-    D.Type("Number", "3");
-    EXPECT_TRUE(D.Click("Check"));
-    EXPECT_EQ(F.Held, 3);
-    EXPECT_EQ(F.Log, "entry take:3 leave check ");
-    D.Type("Number", "4");
-    EXPECT_TRUE(D.Enter());
-    EXPECT_TRUE(D.Enter()) << "with nothing typed Enter is Ok";
-    EXPECT_EQ(F.End(), Form_End::Ok);
-    EXPECT_EQ(F.Held, 4);
-}
 
 TEST_F(Form_Events, WhatIsOutOfReachTakesNothing) {
     F.Set_Enabled("Frame", false);
@@ -302,22 +246,6 @@ TEST_F(Form_Events, APageIsBroughtToTheFrontUnlessAFieldHoldsOn) {
     EXPECT_FALSE(Form_Bring_To_Front(Paged, "Chk_1")) << "its page is disabled";
     EXPECT_FALSE(Form_Choose(Paged, "SSTb", 3));
     EXPECT_EQ(Paged["SSTb"].Value, 2);
-}
-
-TEST_F(Form_Events, NumbersAreTakenAsTheirTargetsHoldThem) {
-    Int Whole = 5;
-    Single Altitude = 0.5F;
-    const Field_Rule Of_Whole = Number_Rule(Whole, {.Min = 0, .Max = 63});
-    const Field_Rule Of_Altitude = Number_Rule(Altitude, {.Min = -9999, .Below = 10000});
-    EXPECT_EQ(Of_Altitude.Held(), "0.5");
-    EXPECT_TRUE(Of_Altitude.Accept("100,1"));
-    EXPECT_EQ(Of_Altitude.Held(), "100.1") << "with the digits of a Single";
-    EXPECT_FALSE(Of_Altitude.Accept("10000"));
-    EXPECT_TRUE(Of_Whole.Accept("2.5"));
-    EXPECT_EQ(Whole, 2) << "half to even";
-    EXPECT_FALSE(Of_Whole.Accept("63.5"));
-    EXPECT_FALSE(Number_Rule(Whole).Accept("32768")) << "more than it holds";
-    EXPECT_EQ(Whole, 2);
 }
 
 TEST_F(Form_Events, FormsThatAreNotModalAreOpenUntilTheyClose) {

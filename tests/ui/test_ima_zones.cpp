@@ -13,6 +13,9 @@ namespace {
 
 constexpr const char* Zone_Names[] = {"none", "II", "HG", "BG", "GG", "HD", "BD", "DD", "HH", "BB"};
 
+constexpr const char* Pointer_Names[] = {"normal",   "hourglass",  "cross", "move",
+                                         "vertical", "horizontal", "ne_sw", "nw_se"};
+
 std::string Name_Of(Ima_Zones Zone) {
     return Zone_Names[static_cast<int>(Zone)];
 }
@@ -24,22 +27,7 @@ Ima_Zones Zone_Of(const std::string& Name) {
 }
 
 std::string Name_Of(Pointer_Shape Pointer) {
-    switch (Pointer) {
-        case Pointer_Shape::Cross:
-            return "cross";
-        case Pointer_Shape::Move:
-            return "move";
-        case Pointer_Shape::Vertical:
-            return "vertical";
-        case Pointer_Shape::Horizontal:
-            return "horizontal";
-        case Pointer_Shape::NE_SW:
-            return "ne_sw";
-        case Pointer_Shape::NW_SE:
-            return "nw_se";
-        default:
-            return "another";
-    }
+    return Pointer_Names[static_cast<int>(Pointer)];
 }
 
 Rect_Pix Rect_Of(const std::string& Cell) {

@@ -23,16 +23,6 @@ protected:
     }
 };
 
-TEST_F(View, BothTransformationsAreInverse) {
-    Pan_X = -37.25, Pan_Y = 1234.5;
-    for (Zoom = 0.01; Zoom < 25.0; Zoom *= 1.15)
-        for (const Pic_Px P : {Pic_Px{0.0, 0.0}, {300.0, 250.0}, {-17.5, 1e5}}) {
-            const Pic_Px Back = Map_To_Pic(Pic_To_Map(P));
-            EXPECT_NEAR(Back.X, P.X, 1e-6);
-            EXPECT_NEAR(Back.Y, P.Y, 1e-6);
-        }
-}
-
 TEST_F(View, PansCountFromTheCanvasMiddle) {
     Zoom = 7.5;
     Pan_X = 10.0, Pan_Y = -4.0;
@@ -97,18 +87,6 @@ TEST_F(View, ZoomStepsAndLimits) {
     EXPECT_EQ(Zoom, 1.011 * 1.15);
 }
 
-TEST_F(View, AnyNumberOfStepsOutIsHarmless) {
-    Mode_Area = 1;
-    Tab_Area.Append(Record_At<Area>(3, 3));
-    for (int I = 0; I < 6000; ++I) Cmd_ZMoins();
-    EXPECT_GT(Zoom, 0.0);
-    Mouse_Read_Out({150.0, 125.0});
-    View_Drag(5.0, 5.0);
-    const Double Before = Zoom;
-    Cmd_ZPlus();
-    EXPECT_GT(Zoom, Before);
-}
-
 TEST_F(View, TheWheelKeepsThePointUnderIt) {
     const Pic_Px At{37.0, 201.0};
     const Pix Point = Pic_To_Map(At);
@@ -125,16 +103,6 @@ TEST_F(View, TheWheelKeepsThePointUnderIt) {
     EXPECT_EQ(Zoom, Before.Zoom);
     EXPECT_EQ(Pan_X, Before.Pan_X);
     EXPECT_TRUE(Canvas.Ops.empty());
-}
-
-TEST_F(View, AWheelStepIsAButtonStep) {
-    Zoom = 1.0049;
-    View_Wheel(2, {10.0, 10.0});
-    const Double By_Wheel = Zoom;
-    Zoom = 1.0049;
-    Cmd_ZPlus();
-    Cmd_ZPlus();
-    EXPECT_EQ(By_Wheel, Zoom);
 }
 
 TEST_F(View, DraggingMovesTheMapWithTheMouse) {
@@ -164,33 +132,6 @@ TEST_F(View, AResizedCanvasIsOddAndKeepsItsMiddle) {
     Edit_On = 0;
     View_Resize(100, 100);
     EXPECT_TRUE(Canvas.Ops.empty()) << "no project to show";
-}
-
-TEST_F(View, ButtonsToggleAndRepaint) {
-    Cmd_AffBmp();
-    Cmd_AffTexture();
-    Cmd_Grid();
-    EXPECT_FALSE(Show_Bitmap);
-    EXPECT_TRUE(Show_Texture);
-    EXPECT_FALSE(Show_Grid);
-    EXPECT_EQ(Canvas.Of_Kind(Kind::Clear).size(), 3U);
-    EXPECT_EQ(Frm().Focus(), "Pic");
-    View_Reset();
-    EXPECT_TRUE(Show_Bitmap);
-    EXPECT_TRUE(Show_Grid);
-    EXPECT_TRUE(Show_Texture) << "not the view's affair";
-}
-
-TEST_F(View, TheGridsNewColourIsPainted) {
-    Mode_Area = 1;
-    Host_Of_Test.Forms["Frm_ColourGrid"] = [] {
-        Grid_Colour = 0x123456;
-        return Form_End::Ok;
-    };
-    Cmd_ColourGrid();
-    const Pen Grid{.Colour = 0x123456, .Style = Line_Style::Dotted};
-    EXPECT_FALSE(Canvas.Lines_With(Grid).empty());
-    EXPECT_EQ(Frm().Focus(), "Pic");
 }
 
 TEST_F(View, ARedrawWaitsClearsAndShows) {

@@ -1,6 +1,5 @@
 // tests/ui/test_view_grid.cpp - lines of the grid and marks on its squares.
 #include <algorithm>
-#include <random>
 
 #include "core/program.h"
 #include "grid/terrain_grid.h"
@@ -49,22 +48,6 @@ TEST_F(View_Grid, LinesStandWhereTheyMust) {
     EXPECT_EQ(The_Grid_In_View.Last_Row, 11);
 }
 
-TEST_F(View_Grid, LinesBeyondTheCanvasAreLeftOut) {
-    Zoom = 2.0;
-    View_Center_On_Point({.X = 100.0, .Y = 80.0});
-    // The canvas begins at map pixel (24.75, 17.25): Cell columns 3 to 10, rows 2 to 9.
-    const auto Lines = Draw();
-    EXPECT_EQ(The_Grid_In_View.First_Col, 3);
-    EXPECT_EQ(The_Grid_In_View.Last_Col, 11);
-    EXPECT_EQ(The_Grid_In_View.First_Row, 2);
-    EXPECT_EQ(The_Grid_In_View.Last_Row, 10);
-    ASSERT_EQ(Lines.size(), 18U);
-    EXPECT_EQ(Lines.front(), Line_Op({-10, -34, 310, -34}, Plain));
-    EXPECT_EQ(Lines[1], Line_Op({-10, 6, 310, 6}, Plain));
-    EXPECT_EQ(Lines[2], Line_Op({-10, 46, 310, 46}, Red)) << "45.5 goes to the even neighbour";
-    EXPECT_EQ(Lines.back(), Line_Op({310, -34, 310, 286}, Plain));
-}
-
 TEST_F(View_Grid, AreaBordersAreRedOnBothSidesOfEquatorAndGreenwich) {
     for (const int North : {128, 1, 0, -1, -255})
         for (const int East : {3, 0, -1, -383}) {
@@ -74,24 +57,6 @@ TEST_F(View_Grid, AreaBordersAreRedOnBothSidesOfEquatorAndGreenwich) {
                       (std::vector<Line_Px>{{0, 40, 220, 40}, {20, 0, 20, 180}}))
                 << North << " " << East;
         }
-}
-
-TEST_F(View_Grid, AGridBesideTheCanvasHasNoLinesOnIt) {
-    const auto Touches = [](const Surface_Op& Op) {
-        const Line_Px& L = Op.At;
-        return L.X1 <= 300 && L.X2 >= 0 && L.Y1 <= 250 && L.Y2 >= 0;
-    };
-    Mode_Area = 1;
-    Tab_Area.Append(Record_At<Area>(0, 3));
-    for (const Pt& P : {Pt{.X = -200.0, .Y = 80.0},
-                        {.X = 400.0, .Y = 80.0},
-                        {.X = 100.0, .Y = -300.0},
-                        {.X = 100.0, .Y = 320.0}}) {
-        View_Center_On_Point(P);
-        EXPECT_EQ(std::ranges::count_if(Draw(), Touches), 0) << P.X << " " << P.Y;
-        EXPECT_EQ(The_Grid_In_View.First_Col == 0, P.X != 100.0);
-        EXPECT_EQ(The_Grid_In_View.First_Row == 0, P.Y != 80.0);
-    }
 }
 
 TEST_F(View_Grid, AGridThatIsHiddenIsStillWorkedOut) {
@@ -167,36 +132,6 @@ TEST_F(View_Grid, LinesThatFallOnOneAnotherArePaintedOnce) {
     for (Long X = 51; X <= 250; ++X) EXPECT_TRUE(On_Pixel(X)) << X;
 }
 
-TEST_F(View_Grid, ColoursTellTheRecords) {
-    const auto Colour = [this] {
-        const auto M = Marks();
-        return M.empty() ? -1 : M[0].With.Colour;
-    };
-    Mode_Area = 1;
-    Area A = Record_At<Area>(3, 3);
-    Tab_Area.Append(A);
-    Area& Stored = Tab_Area.Edit(1);
-    EXPECT_EQ(Colour(), 0x0000FF);
-    Stored.Attrib = 1;
-    EXPECT_EQ(Colour(), 0xFF00FF);
-    Stored.Attrib = 2;
-    EXPECT_EQ(Colour(), 0x000000);
-    Stored.Fill1x1 = 0;
-    EXPECT_EQ(Colour(), 0xFFFF00);
-    Mode_Clear();
-    Mode_Cell = 1;
-    EXPECT_EQ(Colour(), -1) << "no record of this kind";
-    Tab_Lod8.Append({.AreaLon = A.AreaLon, .AreaLat = A.AreaLat, .Attrib = 1});
-    EXPECT_EQ(Colour(), 0xFF00FF);
-    Mode_Clear();
-    Mode_Excl = 1;
-    Tab_Excl.Append(Record_At<Excl>(2, 2));
-    EXPECT_EQ(Colour(), 0xA0A0A0);
-    Mode_Clear();
-    Mode_Route = 1;
-    EXPECT_EQ(Colour(), -1);
-}
-
 TEST_F(View_Grid, HatchLinesByWidth) {
     Mode_Area = 1;
     Tab_Area.Append(Record_At<Area>(5, 4));
@@ -213,67 +148,6 @@ TEST_F(View_Grid, HatchLinesByWidth) {
     const Pen Blue{.Colour = 0x0000FF, .Style = Line_Style::Dotted};
     EXPECT_EQ(Marks(), (std::vector<Surface_Op>{Line_Op({87, 60, 87, 80}, Blue),
                                                 Line_Op({93, 60, 93, 80}, Blue)}));
-}
-
-// The marks as the rule tells them: square after square, each looked up from the table's start.
-template <typename R>
-std::vector<Surface_Op> Plain_Marks(const Project_Table<R>& Tab, Int Lines, Long Colour) {
-    const Grid_In_View& G = The_Grid_In_View;
-    const auto At = [](Long I, Double Step, Double From) { return Round_Lng(I * Step + From); };
-    std::vector<Surface_Op> Made;
-    for (Long I = 0; I < G.Last_Row - G.First_Row; ++I)
-        for (Long J = 0; J < G.Last_Col - G.First_Col; ++J) {
-            const Long L = At(J, G.Cell_W, G.Grid_X0), R1 = At(J + 1, G.Cell_W, G.Grid_X0);
-            const Long T = At(I, G.Cell_H, G.Grid_Y0), B = At(I + 1, G.Cell_H, G.Grid_Y0);
-            const Cell_Pos C =
-                LatLon_To_Cell(Pixel_To_LatLon(Pic_To_Map({(L + R1) / 2.0, (T + B) / 2.0})));
-            const auto Same = [&C](const R& Row) {
-                if constexpr (std::is_same_v<R, Lod8>)
-                    return Row.AreaLon == C.AreaLon && Row.AreaLat == C.AreaLat;
-                else
-                    return static_cast<const Cell_Pos&>(Row) == C;
-            };
-            const auto Found = std::ranges::find_if(Tab.Rows(), Same);
-            if (Found == Tab.Rows().end()) continue;
-            Long Use = Colour;
-            if constexpr (std::is_same_v<R, Area>) Use = Found->Fill1x1 != 1 ? 0xFFFF00 : 0x0000FF;
-            for (Int K = 1; K <= Lines; ++K) {
-                const Long X = Round_Lng(L + K * G.Cell_W / (Lines + 1));
-                Made.push_back(Line_Op({X, T, X, B}, {.Colour = Use, .Style = Line_Style::Dotted}));
-            }
-        }
-    return Made;
-}
-
-TEST_F(View_Grid, TheFirstRecordOfASquareMarksIt) {
-    std::mt19937 Random(3);
-    std::uniform_int_distribution<int> Col(-2, 13), Row(-2, 11);
-    for (int I = 0; I < 150; ++I) {
-        Area A = Record_At<Area>(Col(Random), Row(Random));
-        A.Fill1x1 = static_cast<Int>(I % 2);
-        Tab_Area.Append(A);
-        if (I < 25) Tab_Excl.Append(Record_At<Excl>(Col(Random), Row(Random)));
-    }
-    const Cell_Pos C = Cell_At(0, 0);
-    Tab_Lod8.Append({.AreaLon = C.AreaLon, .AreaLat = static_cast<Int>(C.AreaLat + 1)});
-    for (const auto& [Step, Lines] : {std::pair<Double, Int>{0.37, 1}, {1.0, 2}, {3.7, 3}}) {
-        Zoom = Step;
-        View_Center_On_Point({.X = 93.3, .Y = 77.7});
-        SCOPED_TRACE(Zoom);
-        std::vector<Surface_Op> Marked;
-        Mode_Clear();
-        Mode_Area = 1;
-        Marked = Marks();
-        EXPECT_EQ(Marked, Plain_Marks(Tab_Area, Lines, 0));
-        Mode_Clear();
-        Mode_Cell = 1;
-        Marked = Marks();
-        EXPECT_EQ(Marked, Plain_Marks(Tab_Lod8, Lines, 0x0000FF));
-        Mode_Clear();
-        Mode_Excl = 1;
-        Marked = Marks();
-        EXPECT_EQ(Marked, Plain_Marks(Tab_Excl, Lines, 0xA0A0A0));
-    }
 }
 
 }  // namespace

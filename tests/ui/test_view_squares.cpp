@@ -1,10 +1,6 @@
-// tests/ui/test_view_squares.cpp - squares of classes and the mesh of altitudes on the canvas.
-#include <set>
-
-#include "core/model_ops.h"
+// tests/ui/test_view_squares.cpp - squares of classes on the canvas.
 #include "core/program.h"
 #include "platform/files.h"
-#include "ui/canvas/mesh_draw.h"
 #include "ui/canvas/view.h"
 #include "ui/edit/class_grid.h"
 #include "ui_support/small_project.h"
@@ -74,38 +70,6 @@ TEST_F(View_Squares, AClassWithoutATextureIsHatched) {
     Zoom = 0.24;
     Copies(Class_Sort::Water);
     EXPECT_TRUE(Canvas.Lines_With(Hatch).empty()) << "squares of less than 5 pixels";
-}
-
-TEST_F(View_Squares, TheMeshPartsEachCell) {
-    constexpr Pen Edge{.Colour = 0}, Inner{.Colour = 0, .Style = Line_Style::Dotted};
-    const auto Columns = [this](const Pen& With) {
-        std::set<Long> Found;
-        for (const Line_Px& L : Canvas.Lines_With(With))
-            if (L.X1 == L.X2) Found.insert(L.X1);
-        return Found;
-    };
-    LodMesh = 4;
-    Mesh_Draw();
-    EXPECT_EQ(Columns(Edge), (std::set<Long>{0, 20, 40, 60, 80, 100, 120, 140, 160, 180, 200}));
-    std::set<Long> In_Second;
-    for (const Long X : Columns(Inner))
-        if (20 < X && X < 40) In_Second.insert(X);
-    EXPECT_EQ(In_Second, (std::set<Long>{23, 25, 28, 30, 33, 35, 38}));
-    LodMesh = 0;
-    Zoom = 20.0;  // a Cell is wider than the canvas
-    Canvas.Ops.clear();
-    Mesh_Draw();
-    EXPECT_EQ(Columns(Edge).size() + Columns(Inner).size(), 96U) << "301 pixels, 400 / 127.5 apart";
-}
-
-TEST_F(View_Squares, CrossesOfAltitudes) {
-    PtGrid_Add(10.4, 19.6, 1.0F);
-    PtGrid_Add(50.0, 50.0, 1.0F);
-    PtGrid_Add(1e300, 50.0, 1.0F);
-    PtGrid_Delete(2);
-    PtGrid_Marks_Draw();
-    EXPECT_EQ(Canvas.Lines_With({.Colour = 0xFF0000}),
-              (std::vector<Line_Px>{{7, 20, 13, 20}, {10, 17, 10, 23}}));
 }
 
 }  // namespace
