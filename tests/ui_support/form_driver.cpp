@@ -64,10 +64,6 @@ bool Form_Driver::Enter() {
     return Form_Key(Form_, {Key_Enter, 0});
 }
 
-bool Form_Driver::Escape() {
-    return Form_Key(Form_, {Key_Escape, 0});
-}
-
 bool Form_Driver::Leave() {
     return Form_Leave(Form_);
 }
@@ -85,14 +81,6 @@ const Control& Form_Driver::Of(std::string_view Name) const {
     if (Form_.Has(Name)) return Form_[Name];
     ADD_FAILURE() << Form_.Name() << ": there is no " << Name;
     return None;
-}
-
-bool Form_Driver::Enabled(std::string_view Name) const {
-    return !Of(Name).Name.empty() && Form_.Is_Enabled(Name);
-}
-
-bool Form_Driver::Visible(std::string_view Name) const {
-    return !Of(Name).Name.empty() && Form_.Is_Visible(Name);
 }
 
 Int Form_Driver::Last_Message() const {

@@ -30,21 +30,16 @@ public:
     bool Type(std::string_view Name, std::string_view Text);
     bool Focus(std::string_view Name);
     bool Enter();
-    bool Escape();
     bool Leave();
     bool Key(Key_Event K);
     bool Close();
 
     const std::string& Title() const { return Form_.Title(); }
     const std::string& Text(std::string_view Name) const { return Of(Name).Text; }
-    const std::string& Caption(std::string_view Name) const { return Of(Name).Caption; }
     const std::vector<std::string>& Items(std::string_view Name) const { return Of(Name).Items; }
     Long Value(std::string_view Name) const { return Of(Name).Value; }
-    bool Enabled(std::string_view Name) const;
-    bool Visible(std::string_view Name) const;
     const std::string& Has_Focus() const { return Form_.Focus(); }
     bool Is_Closed() const { return Form_.Is_Closed(); }
-    Form& The_Form() { return Form_; }
 
     /// The number of the message shown last, -1 when none was.
     Int Last_Message() const;
