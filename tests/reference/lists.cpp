@@ -1,4 +1,4 @@
-// reference/lists.cpp - the work lists copied, self-crossings, and Cells that are full.
+// reference/lists.cpp - the work lists copied, and self-crossings.
 #include <algorithm>
 
 #include "geometry/segments.h"
