@@ -37,8 +37,9 @@ struct Box_Button {
 
 constexpr Box_Button Ok{Button_Ok, "OK", "OK", QMessageBox::AcceptRole};
 constexpr Box_Button Cancel{Button_Cancel, "Cancel", "Annuler", QMessageBox::RejectRole};
-constexpr Box_Button Yes{Button_Yes, "Yes", "Oui", QMessageBox::YesRole};
-constexpr Box_Button No{Button_No, "No", "Non", QMessageBox::NoRole};
+// The marked letters press them, by themselves or with Alt.
+constexpr Box_Button Yes{Button_Yes, "&Yes", "&Oui", QMessageBox::YesRole};
+constexpr Box_Button No{Button_No, "&No", "&Non", QMessageBox::NoRole};
 
 // The first is the default one; the last is what closing the box means.
 std::vector<Box_Button> Buttons_Of(Int Style) {

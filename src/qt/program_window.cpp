@@ -21,6 +21,7 @@
 #include "qt/canvas_widget.h"
 #include "qt/form_widget.h"
 #include "qt/form_window.h"
+#include "qt/qt_words.h"
 #include "qt/window_host.h"
 #include "ui/dialogs/dialogs.h"
 #include "ui/frm/frm.h"
@@ -28,6 +29,7 @@
 struct Program_Window::Parts {
     explicit Parts(Form& F) : Window(F) {}
 
+    Qt_Words Words;
     Main_Window Window;
     Surface_Scope On_Canvas{*Window.Shown().Canvas()};
 };
@@ -52,6 +54,7 @@ Program_Window::Program_Window(Window_Host& Host) : Host_(Host) {
     Parts_ = std::make_unique<Parts>(Frm());
     Window_ = &Parts_->Window;
     Host.Set_Window(Window_);
+    QCoreApplication::installTranslator(&Parts_->Words);
     Window_->Shown().On_Closed = [] { QCoreApplication::quit(); };
 }
 

@@ -8,7 +8,8 @@
 
 void Press_Button(QDialog& Box, const std::string& Text) {
     for (QAbstractButton* Button : Box.findChildren<QAbstractButton*>())
-        if (Button->isVisible() && Button->text() == Qt_Text(Text)) return Button->click();
+        if (Button->isVisible() && Button->text().remove(QLatin1Char('&')) == Qt_Text(Text))
+            return Button->click();
     ADD_FAILURE() << "no button " << Text << " in " << Box.windowTitle().toStdString();
     Box.reject();
 }

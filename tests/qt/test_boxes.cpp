@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "core/program.h"
+#include "qt/qt_words.h"
 #include "qt_test.h"
 #include "support/program_test.h"
 
@@ -22,8 +23,8 @@ protected:
         Dialog_Script Script({Answer(Button)});
         return Show_Message_Box({.Text = "Text", .Style = Style}, nullptr);
     }
-    Int Dismiss(Int Style) {
-        Dialog_Script Script({[](QDialog& Box) { QTest::keyClick(&Box, Qt::Key_Escape); }});
+    Int Press_Key(Int Style, Qt::Key Key) {
+        Dialog_Script Script({[Key](QDialog& Box) { QTest::keyClick(&Box, Key); }});
         return Show_Message_Box({.Text = "Text", .Style = Style}, nullptr);
     }
     File_Question Question(File_Question::Kind Mode) {
@@ -53,6 +54,8 @@ TEST_F(Boxes_Test, EachButtonGivesItsNumber) {
     EXPECT_EQ(Press_In(Box_Yes_No + Box_Stop, "Yes"), Button_Yes);
     Language = "FR";
     EXPECT_EQ(Press_In(Box_Yes_No_Cancel, "Oui"), Button_Yes);
+    EXPECT_EQ(Press_Key(Box_Yes_No, Qt::Key_N), Button_No);
+    EXPECT_EQ(Press_Key(Box_Yes_No_Cancel, Qt::Key_O), Button_Yes);
     EXPECT_EQ(Press_In(Box_Yes_No_Cancel, "Annuler"), Button_Cancel);
 }
 
@@ -66,7 +69,11 @@ TEST_F(Boxes_Test, ANameWithoutAnExtensionGetsThatOfTheFilter) {
     EXPECT_EQ(Ask_For_File(Question(File_Question::Kind::Open), nullptr), Dir.Path("old.LWM"));
 }
 
+// The question is Qt's own, in French all the same.
 TEST_F(Boxes_Test, AFileIsReplacedOnlyAfterAQuestion) {
+    Language = "FR";
+    Qt_Words Words;
+    QCoreApplication::installTranslator(&Words);
     Dir.Write("old.LWM", "");
     {
         const Dialog_Script Unasked({Typed("old")});
@@ -77,7 +84,7 @@ TEST_F(Boxes_Test, AFileIsReplacedOnlyAfterAQuestion) {
                               auto* Asked = static_cast<QDialog*>(Question.parentWidget());
                               QMetaObject::invokeMethod(Asked, &QDialog::reject,
                                                         Qt::QueuedConnection);
-                              Press_Button(Question, "&No");
+                              Press_Button(Question, "Non");
                           }});
     EXPECT_EQ(Ask_For_File(Question(File_Question::Kind::Save), nullptr), std::nullopt);
 }
