@@ -11,6 +11,7 @@
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QToolButton>
+#include <algorithm>
 
 #include "qt/busy.h"
 #include "qt/canvas_widget.h"
@@ -42,28 +43,66 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
+// Goes on in further lines where it is narrow. Its height tells of its width alone: what lies above
+// it must not move when its text changes.
+class Wrapped_Label final : public QLabel {
+public:
+    Wrapped_Label(QWidget* Parent, int Columns) : QLabel(Parent), Columns_(Columns) {
+        setWordWrap(true);
+        setMinimumWidth(Width_Of(*this, Least_Columns));
+    }
+    QSize sizeHint() const override { return {Width_Of(*this, Columns_), Height_Of(1)}; }
+    QSize minimumSizeHint() const override { return {minimumWidth(), Height_Of(1)}; }
+    int heightForWidth(int Width) const override {
+        return Height_Of((Width_Of(*this, Columns_) + Width - 1) / std::max(Width, 1));
+    }
+
+private:
+    static constexpr int Least_Columns = 30;
+    int Height_Of(int Lines) const { return Lines * fontMetrics().lineSpacing(); }
+
+    int Columns_;
+};
+
+QLabel* Make_Label(Form_Widget& Owner, const Control& C) {
+    if (C.Wraps) return new Wrapped_Label(&Owner, C.Columns);
+    if (C.Columns == 0) return new QLabel(&Owner);
+    auto* Made = new Column_Label(&Owner);
+    Made->setMinimumWidth(Width_Of(*Made, C.Columns));
+    Made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    return Made;
+}
+
 class Label_Widget final : public Control_Widget {
 public:
-    Label_Widget(Form_Widget& Owner, const Control& C)
-        : Text_(C.Columns == 0 ? new QLabel(&Owner) : new Column_Label(&Owner)) {
+    Label_Widget(Form_Widget& Owner, const Control& C, Place Where)
+        : Text_(Make_Label(Owner, C)), Where_(Where) {
         Widget = Text_;
         Text_->setTextFormat(Qt::PlainText);
-        if (C.Columns == 0) return;
-        Text_->setMinimumWidth(Width_Of(*Text_, C.Columns));
-        Text_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     }
     void Follow(const Control& C) override {
         Follow_Common(*this, C);
         const QString Caption = Qt_Text(C.Caption);
-        Text_->setText(C.Columns == 0 ? Caption
-                                      : Text_->fontMetrics().elidedText(
-                                            Caption, Qt::ElideMiddle,
-                                            std::max(Text_->width(), Text_->minimumWidth())));
+        if (C.Columns == 0 || C.Wraps)
+            Text_->setText(Caption);
+        else if (Where_ == Place::Read_Out)
+            Show_Whole(Caption);
+        else
+            Text_->setText(Text_->fontMetrics().elidedText(
+                Caption, Qt::ElideMiddle, std::max(Text_->width(), Text_->minimumWidth())));
         Paint_In(*Text_, C);
     }
 
 private:
+    // The room once taken is kept, so that its neighbours stay where they are.
+    void Show_Whole(const QString& Caption) {
+        const int Wanted = Text_->fontMetrics().horizontalAdvance(Caption);
+        if (Wanted > Text_->minimumWidth()) Text_->setMinimumWidth(Wanted);
+        Text_->setText(Caption);
+    }
+
     QLabel* Text_;
+    Place Where_;
 };
 
 // Stays pressed as long as its Value is set; a click alone does not change that.
@@ -99,9 +138,18 @@ private:
     QPushButton* Button_;
 };
 
+// One that can be pressed is told as such; a click alone does not change whether it is.
+class Held_Tool final : public QToolButton {
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void nextCheckState() override {}
+};
+
 class Tool_Widget final : public Control_Widget {
 public:
-    Tool_Widget(Form_Widget& Owner, const Control& C) : Button_(new QToolButton(&Owner)) {
+    Tool_Widget(Form_Widget& Owner, const Control& C) : Button_(new Held_Tool(&Owner)) {
         Widget = Button_;
         Button_->setAutoRaise(true);
         Button_->setIconSize(QSize(Icon_Size, Icon_Size));
@@ -118,7 +166,7 @@ public:
                                                       : Qt::ToolButtonTextBesideIcon);
         // Ends pressed before it can no longer be: Qt would not paint it anew otherwise.
         if (C.Value == 0) Button_->setChecked(false);
-        Button_->setCheckable(C.Value != 0);
+        Button_->setCheckable(C.Checkable || C.Value != 0);
         Button_->setChecked(C.Value != 0);
     }
 
@@ -320,7 +368,7 @@ std::unique_ptr<Control_Widget> Make_Kind(Form_Widget& Owner, const Control& C, 
         case Control_Kind::Label:
             break;
     }
-    return std::make_unique<Label_Widget>(Owner, C);
+    return std::make_unique<Label_Widget>(Owner, C, Where);
 }
 
 bool Has_Label_Beside(Control_Kind Kind) {
@@ -331,6 +379,7 @@ bool Has_Label_Beside(Control_Kind Kind) {
 }  // namespace
 
 QString Readable_Name(const Control& C) {
+    if (!C.Said.empty()) return Qt_Text(C.Caption.empty() ? C.Said : C.Said + ": " + C.Caption);
     const std::string& Said = !C.Caption.empty() ? C.Caption : !C.Tip.empty() ? C.Tip : C.Name;
     return Qt_Text(Said);
 }

@@ -33,7 +33,8 @@ enum class Place { Dialog, Tool_Bar, Read_Out };
 std::unique_ptr<Control_Widget> Make_Control_Widget(Form_Widget& Owner, const Control& C,
                                                     Place Where = Place::Dialog);
 
-/// What a person would call C: its caption, else its tip, else its name.
+/// What a person would call C: what is said for it, with what a label shows; else its caption, its
+/// tip, or its name.
 QString Readable_Name(const Control& C);
 
 /// What all kinds share: enabled, visible, tip and accessible name.

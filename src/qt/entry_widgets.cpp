@@ -215,10 +215,12 @@ private:
     int Nb() const { return static_cast<int>(Group_->buttons().size()); }
 
     void Add(int I) {  // before the room that is left
-        static_cast<QBoxLayout*>(Widget->layout())->insertWidget(I, Make(I, Widget));
+        QRadioButton* Made = Make(I, Widget);
+        static_cast<QBoxLayout*>(Widget->layout())->insertWidget(I, Made);
+        if (I > 0) QWidget::setTabOrder(Group_->button(I - 1), Made);
     }
 
-    QWidget* Make(int I, QWidget* Parent) {
+    QRadioButton* Make(int I, QWidget* Parent) {
         auto* Option = new QRadioButton(Parent);
         Option->setProperty(Control_Property, Qt_Text(Name_));
         Option->setObjectName(Qt_Text(Name_ + "(" + std::to_string(I) + ")"));
@@ -233,7 +235,8 @@ private:
         if (I >= C.Colours.size()) return;
         Option.setIconSize(Swatch);
         Option.setIcon(Swatch_Of(C.Colours[I]));
-        Option.setAccessibleName(QColor::fromRgb(static_cast<QRgb>(C.Colours[I])).name());
+        if (Option.text().isEmpty())
+            Option.setAccessibleName(QColor::fromRgb(static_cast<QRgb>(C.Colours[I])).name());
     }
 
     Form_Widget& Owner_;

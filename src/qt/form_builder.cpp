@@ -13,11 +13,12 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QTabWidget>
-#include <QToolBar>
 #include <algorithm>
 
 #include "qt/canvas_widget.h"
+#include "qt/read_out_row.h"
 #include "qt/text.h"
+#include "qt/tool_strip.h"
 #include "ui/form/mnemonics.h"
 
 namespace {
@@ -286,13 +287,13 @@ void Form_Builder::Add_Menu(QMenu& Menu, const Layouts& Parts) {
 }
 
 void Form_Builder::Add_Tool_Bar(QBoxLayout& To, const Layouts& Parts) {
-    auto* Bar = new QToolBar(&Into_);
-    To.addWidget(Bar);
+    auto* Strip = new Tool_Strip(&Into_);
+    To.addWidget(Strip);
     for (const Layout& Part : Parts) {
         if (Part.What == Layout::Kind::Gap)
-            Bar->addSeparator();
+            Strip->Begin_Group();
         else
-            Bar->addWidget(Make(Part.Name, Place::Tool_Bar).Widget);
+            Strip->Add(Make(Part.Name, Place::Tool_Bar).Widget);
     }
 }
 
@@ -311,15 +312,12 @@ void Form_Builder::Add_Canvas(QBoxLayout& To, const Layout& L) {
 }
 
 void Form_Builder::Add_Read_Out(QBoxLayout& To, const Layouts& Parts) {
-    auto* Line = new QHBoxLayout;
-    const int Margin = Into_.style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
-    Line->setContentsMargins(Margin, Margin / 3, Margin, Margin / 3);
-    Line->setSpacing(Margin);
-    To.addLayout(Line);
+    auto* Line = new Read_Out_Row(&Into_);
+    To.addWidget(Line);
     for (const Layout& Part : Parts) {
         const Control& C = Into_.The_Form()[Part.Name];
-        QWidget* Label = Make(Part.Name, Place::Read_Out).Widget;
-        Line->addWidget(Label, std::max<int>(C.Columns, 1));
+        Line->Add(Make(Part.Name, Place::Read_Out).Widget, std::max<int>(C.Columns, 1),
+                  C.Gives_Way);
     }
 }
 

@@ -16,6 +16,7 @@
 #include "qt/control_widgets.h"
 #include "qt/form_builder.h"
 #include "qt/input.h"
+#include "qt/tab_order.h"
 #include "qt/text.h"
 #include "ui/form/form_events.h"
 
@@ -45,6 +46,7 @@ Form_Widget::Form_Widget(Form& F, QWidget* Parent) : QWidget(Parent), Form_(F) {
     setObjectName(Qt_Text(F.Name()));
     Form_Builder(*this).Build();
     for (const auto& [Name, Shown] : Shown_) Shown->Follow(F[Name]);
+    Set_Tab_Order(*this);
     if (Parent != nullptr) Parent->window()->installEventFilter(this);
     Form_.View = this;
     if (F.Tick_Ms <= 0) return;

@@ -92,6 +92,18 @@ TEST_F(Form_Widget_Test, ChangesOfTheFormAreFollowed) {
     EXPECT_EQ(S.Log, "") << "no handler has run";
 }
 
+TEST_F(Form_Widget_Test, TabFollowsTheLayout) {
+    std::string Order;
+    for (QWidget* At = W->nextInFocusChain(); At != W.get(); At = At->nextInFocusChain())
+        if ((At->focusPolicy() & Qt::TabFocus) != 0 && At->focusProxy() == nullptr &&
+            At->isVisible())
+            Order += Program_Text(At->objectName()) + " ";
+    EXPECT_EQ(Order,
+              "Number Field Path Chk Opt(0) Opt(1) Opt(2) Opt_Colour(0) Opt_Colour(1) "
+              "Opt_Part(0) Cbo Opt_Part(1) qt_tabwidget_tabbar List Cmd_Ok Cmd_Plain Cmd_Cancel "
+              "Cmd_Help ");
+}
+
 TEST_F(Form_Widget_Test, AListThatIsEnteredChoosesNothing) {
     S.F.Set_Value("List", -1);
     Turn();

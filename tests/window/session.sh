@@ -137,8 +137,8 @@ keep drawn
 
 # --- a texture: placed, sized by a corner, and the example's polygon linked to it -----------------
 convert -size 64x48 gradient:white-black -type TrueColor "BMP3:$scratch/home/Ash.bmp"
-does "the button of textures" at_click 900 37
-at_click 934 37
+does "the button of textures" at_click 836 37
+at_click 866 37
 at_click 600 500
 dialog "Texture modification/creation"
 key F4
@@ -152,7 +152,7 @@ xdotool windowfocus --sync "$main"
 press 620 520
 at 651 543
 does "sizing" xdotool mousedown 1 mousemove --window "$main" 700 570 mouseup 1
-at_click 999 37
+at_click 929 37
 at 640 560
 xdotool click --repeat 2 --delay 50 1 click 3
 await "the question of the link" has_windows 2

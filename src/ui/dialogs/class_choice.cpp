@@ -20,6 +20,7 @@ Class_Choice::Class_Choice(Form& F, Class_Sort Sort, std::string Temp_Name,
            .On_Click = std::move(On_Choice)});
     F.Add({.Kind = Control_Kind::Image,
            .Name = "Pic",
+           .Said_Words = {"Picture of the class", "Image de la classe"},
            .Width = Preview_Side,
            .Height = Preview_Side,
            .Stretched = true});

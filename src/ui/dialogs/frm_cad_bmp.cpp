@@ -76,6 +76,7 @@ private:
     void Add_Map() {
         Add({.Kind = Control_Kind::Canvas,
              .Name = "Pic",
+             .Said_Words = {"Map", "Carte"},
              .Width = First_Width,
              .Height = First_Height,
              .On_Key = [this](Key_Event K) { return Move_Armed(K); },
@@ -84,6 +85,7 @@ private:
         for (const char* Bar : {"HScroll", "VScroll"})
             Add({.Kind = Control_Kind::Scroll_Bar,
                  .Name = Bar,
+                 .Said_Words = {"Map, across or up and down", "Carte, en largeur ou en hauteur"},
                  .Max = Scroll_Max,
                  .Small_Step = Scroll_Small,
                  .Large_Step = Scroll_Large,

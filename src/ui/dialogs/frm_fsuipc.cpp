@@ -66,7 +66,10 @@ void Show_Cross(Pix At) {
 class Flight_Form final : public Form {
 public:
     Flight_Form() : Form("Frm_FSUIPC", {"FS connexion", "FS connexion"}) {
-        Add({.Kind = Control_Kind::Lamp, .Name = "FeuVert", .Colour = Red});
+        Add({.Kind = Control_Kind::Lamp,
+             .Name = "FeuVert",
+             .Said_Words = {"Connection", "Connexion"},
+             .Colour = Red});
         Add({.Kind = Control_Kind::Check,
              .Name = "Chk_Show_Position",
              .Words = {"Show location", "Show location"},

@@ -47,6 +47,7 @@ public:
              }});
         Add({.Kind = Control_Kind::Image,
              .Name = "Pic",
+             .Said_Words = {"Picture of the texture", "Image de la texture"},
              .Width = Preview_Side,
              .Height = Preview_Side});
         Add({.Name = "LRes"});

@@ -124,6 +124,7 @@ void Add_Images(Form& F) {
     for (const char* Name : {"PicLine", "Pic_1", "Pic"})
         F.Add({.Kind = Kind::Image,
                .Name = Name,
+               .Said_Words = {"Preview", "Aper\xE7u"},
                .Width = Preview_Side,
                .Height = Preview_Side,
                .Stretched = true});

@@ -167,6 +167,7 @@ void Form::Set_Focus(std::string_view Control_Name) {
 void Form::Word(Control& C) const {
     if (C.Words.Is_Set()) C.Caption = C.Words.In(Language_);
     if (C.Tip_Words.Is_Set()) C.Tip = C.Tip_Words.In(Language_);
+    if (C.Said_Words.Is_Set()) C.Said = C.Said_Words.In(Language_);
     if (C.Item_Words.empty()) return;
     C.Items.clear();
     for (const Wording& W : C.Item_Words) C.Items.emplace_back(W.In(Language_));

@@ -70,14 +70,17 @@ inline constexpr Long Usual_Colour = -1;  // what the desktop has there
 struct Control {
     Control_Kind Kind = Control_Kind::Label;
     std::string Name = {};
-    Wording Words = {};      // its caption, or the label of a field, in both languages
-    Wording Tip_Words = {};  // what the pointer resting on it tells
+    Wording Words = {};       // its caption, or the label of a field, in both languages
+    Wording Tip_Words = {};   // what the pointer resting on it tells
+    Wording Said_Words = {};  // its name for whoever cannot see it, where it has no caption
     Button_Role Role = Button_Role::Plain;
     std::string Icon = {};       // name of the picture of a tool button
     std::string Shortcut = {};   // of a menu item, as "Ctrl+S"
-    bool Checkable = false;      // a menu item that shows whether its Value is set
+    bool Checkable = false;      // a menu item or tool button that shows whether its Value is set
     Field_Rule Rule = {};        // of a field; without Accept any text is taken
     Int Columns = 0;             // width of a field or list in characters, 0 for the usual one
+    Int Gives_Way = 0;           // of a read-out, where room is short: the highest first, 0 never
+    bool Wraps = false;          // a Label that goes on in a second line where it is narrow
     bool Read_Only = false;      // a field that is filled by a click or chooser, not by typing
     bool In_Long_Work = false;   // a button that the user can press while the program works
     bool No_Quotes = false;      // a field whose text has ' where " was typed
@@ -88,6 +91,7 @@ struct Control {
     // What it shows. Written through the form once it is added.
     std::string Caption = {};
     std::string Tip = {};
+    std::string Said = {};
     std::string Text = {};  // of a field
     Long Value = 0;
     Long Max = 0;  // of a scroll bar or Bar

@@ -112,12 +112,15 @@ void Set_Handlers(Form& F) {
             Hint_Show();
             The_Host().Set_Focus("Pic");
         };
-    for (const Mode_Row* Row : Mode_Rows)
-        F.Handlers(Row->Button).On_Click = [Row] {
+    for (const Mode_Row* Row : Mode_Rows) {
+        Control& Button = F.Handlers(Row->Button);
+        Button.Checkable = true;
+        Button.On_Click = [Row] {
             Mode_Enter(*Row);
             The_Host().Set_Focus("Pic");
         };
     F.Handlers("Mnu_File_Quit").On_Click = [&F] {
+    }
         if (Mnu_File_Quit()) F.Close(Form_End::Closed);
     };
     F.Handlers("HScroll").On_Change = [&F] { HScroll_Change(F["HScroll"].Value); };

@@ -2,6 +2,7 @@
 #include "ui/frm/frm_controls.h"
 
 #include <string>
+#include <utility>
 
 #include "core/work.h"
 #include "platform/text1252.h"
@@ -105,17 +106,26 @@ constexpr Button_Row Buttons_Of_Bar[] = {
 
 struct Label_Row {
     const char* Name;
+    Wording Said;
     Int Columns;
+    Int Gives_Way = 0;
 };
 
-// What is known of the place under the mouse.
-constexpr Label_Row Read_Outs[] = {{"L_MouseBmp", 18}, {"LLat", 14},    {"LLon", 14},
-                                   {"LLatDec", 12},    {"LLonDec", 12}, {"L_NumCell_Area", 34},
-                                   {"L_CustomBmp", 22}};
+// What is known of the place under the mouse. On a narrow window the numbers go first, which the
+// letters tell as well, then the map pixel, the texture and the square.
+constexpr Label_Row Read_Outs[] = {
+    {"L_MouseBmp", {"Map pixel", "Pixel de la carte"}, 18, 3},
+    {"LLat", {"Latitude", "Latitude"}, 14},
+    {"LLon", {"Longitude", "Longitude"}, 14},
+    {"LLatDec", {"Latitude in degrees", "Latitude en degr\xE9s"}, 12, 4},
+    {"LLonDec", {"Longitude in degrees", "Longitude en degr\xE9s"}, 12, 4},
+    {"L_NumCell_Area", {"Square", "Carr\xE9"}, 34, 1},
+    {"L_CustomBmp", {"Texture", "Texture"}, 22, 2}};
 
 // What is being made, and how far it is.
-constexpr Label_Row Progress_Labels[] = {{"LCompileNom", 60}, {"LCompile", 60}, {"L_Elapsed", 24},
-                                         {"LTex2500", 40},    {"LNbTex", 8},    {"LPourCent", 6}};
+constexpr Label_Row Progress_Labels[] = {{"LCompileNom", {}, 60}, {"LCompile", {}, 60},
+                                         {"L_Elapsed", {}, 24},   {"LTex2500", {}, 40},
+                                         {"LNbTex", {}, 8},       {"LPourCent", {}, 6}};
 
 std::string Icon_Name(const char* Button) {
     std::string Name = std::string(Button).substr(sizeof "Cmd_" - 1);
@@ -147,11 +157,15 @@ void Add_Tool_Bar(Form& F) {
                .Icon = Icon_Name(B.Name)});
 }
 
+constexpr Wording Map_Across{"Map, across", "Carte, en largeur"};
+constexpr Wording Map_Up_Down{"Map, up and down", "Carte, en hauteur"};
+
 void Add_Canvas(Form& F) {
-    F.Add({.Kind = Control_Kind::Canvas, .Name = "Pic"});
-    for (const char* Bar : {"HScroll", "VScroll"})
+    F.Add({.Kind = Control_Kind::Canvas, .Name = "Pic", .Said_Words = {"Map", "Carte"}});
+    for (const auto& [Bar, Said] : {std::pair{"HScroll", Map_Across}, {"VScroll", Map_Up_Down}})
         F.Add({.Kind = Control_Kind::Scroll_Bar,
                .Name = Bar,
+               .Said_Words = Said,
                .Max = Scroll_Max,
                .Small_Step = Scroll_Small,
                .Large_Step = Scroll_Large});
@@ -161,8 +175,13 @@ void Add_Labels(Form& F) {
     for (const Label_Row& L : Read_Outs)
         F.Add({.Name = L.Name,
                .Tip_Words = {"A click copies the position", "Un clic copie la position"},
-               .Columns = L.Columns});
-    F.Add({.Name = "L_Hint", .Columns = 80});
+               .Said_Words = L.Said,
+               .Columns = L.Columns,
+               .Gives_Way = L.Gives_Way});
+    F.Add({.Name = "L_Hint",
+           .Said_Words = {"Next step", "\xC9tape suivante"},
+           .Columns = 80,
+           .Wraps = true});
     F.Add({.Kind = Control_Kind::Text,
            .Name = "Txt_Zoom",
            .Tip_Words = {"Zoom in per cent", "Zoom en pour cent"},
