@@ -37,6 +37,7 @@ void Begin_Editing(bool As_On_Disk) {
     Enable_Project_Cmds();
     New_Projet = 0;
     Edit_On = 1;
+    Call(The_View.View_Take);
     Call(The_View.Mode_Area_On);
     Call(The_View.View_Redraw);
     The_Host().Set_Pointer(Pointer_Shape::Normal);
@@ -140,6 +141,7 @@ bool Open_Restored(const std::function<bool()>& Load, bool As_On_Disk) {
 }
 
 void Close_View() {
+    Call(The_View.View_Keep);
     History_End();
     Call(The_View.History_Show);
     Journal_End();

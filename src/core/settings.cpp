@@ -53,6 +53,10 @@ std::string Simulator_Found() {
     return Dir_Exists(Found + "Scenery") ? Found : std::string();
 }
 
+std::string Setting_Get(std::string_view Key) {
+    return Read(Key, "");
+}
+
 bool Setting_Put(std::string_view Key, std::string_view Value) {
     return Setting_Write(Ini_File, Section, Key, Value);
 }

@@ -20,6 +20,9 @@ void Read_View_Settings();
 /// none, or none that holds a directory Scenery.
 std::string Simulator_Found();
 
+/// One setting; "" when it is absent.
+std::string Setting_Get(std::string_view Key);
+
 /// Writes one setting. False when the file cannot be written.
 bool Setting_Put(std::string_view Key, std::string_view Value);
 

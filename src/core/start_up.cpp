@@ -174,6 +174,7 @@ void Program_End_Unasked() {
 }
 
 void Program_End() {
+    Call(The_View.View_Keep);
     History_End();
     Journal_End();
     Project_Unseen();

@@ -11,6 +11,8 @@ struct View_Calls {
     std::function<void()> View_Redraw;     // repaints the canvas
     std::function<void()> View_Clear;      // clears the canvas and the pictures behind it
     std::function<void()> View_Reset;      // zoom 1.0 at offset 0
+    std::function<void()> View_Keep;       // the open project's view is kept for its next opening
+    std::function<void()> View_Take;       // the view is as it was kept
     std::function<void()> Bars_Follow;     // the scroll bars stand where the view is
     std::function<void()> Route_Reset;     // editing state: no tool, nothing selected
     std::function<void()> Route_Leave;     // ends a drawing in progress

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "core/settings.h"
 #include "qt/busy.h"
 #include "qt/canvas_widget.h"
 #include "qt/form_widget.h"
@@ -26,6 +27,7 @@
 namespace {
 
 constexpr QSize Usual_Size(1280, 860);
+constexpr QSize Frame_Size(16, 48);  // room for what the desktop puts round a window
 
 std::optional<std::string> Dropped_File(const QMimeData& Data) {
     const QList<QUrl> Urls = Data.urls();
@@ -148,7 +150,20 @@ Main_Window::Main_Window(Form& F)
                   Qt::Window | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint) {
     setObjectName(QStringLiteral("main_window"));
     setWindowIcon(Program_Icon());
-    resize(Usual_Size.boundedTo(screen()->availableSize()));
+    resize(Usual_Size.boundedTo(screen()->availableSize() - Frame_Size));
+}
+
+constexpr char Place_Key[] = "Window";
+
+// Qt sees to it that the window lies on a screen that is there.
+void Main_Window::Take_Place() {
+    const std::string Kept = Setting_Get(Place_Key);
+    if (!Kept.empty()) restoreGeometry(QByteArray::fromHex(QByteArray::fromStdString(Kept)));
+}
+
+void Main_Window::Keep_Place() const {
+    const std::string Now = saveGeometry().toHex().toStdString();
+    if (Now != Setting_Get(Place_Key)) Setting_Put(Place_Key, Now);
 }
 
 // A window without a frame is not modal to Qt, which would keep clicks elsewhere to itself.

@@ -33,6 +33,10 @@ private:
 class Main_Window final : public Form_Window {
 public:
     explicit Main_Window(Form& F);
+
+    /// Its size and place, kept in the settings.
+    void Take_Place();
+    void Keep_Place() const;
 };
 
 /// Shows F as a dialog above Parent and returns when it is closed. Main is the window whose

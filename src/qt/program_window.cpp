@@ -38,8 +38,9 @@ namespace {
 
 // The window comes up when its tool bar is laid out: a second instance has ended by then, and
 // the first dialog or project is still to come.
-void Show_When_Laid_Out(Form_Window& Window) {
+void Show_When_Laid_Out(Main_Window& Window) {
     The_View.Window_Show = [&Window] {
+        Window.Take_Place();
         Window.show();
         Window.Shown().Take_Focus();
         Process_Events_Busy();
@@ -53,15 +54,22 @@ Program_Window::Program_Window(Window_Host& Host) : Host_(Host) {
     Frm_Install();
     Parts_ = std::make_unique<Parts>(Frm());
     Window_ = &Parts_->Window;
-    Host.Set_Window(Window_);
     QCoreApplication::installTranslator(&Parts_->Words);
-    Window_->Shown().On_Closed = [] { QCoreApplication::quit(); };
+    Host.Set_Window(Window_);
+    Window_->Shown().On_Closed = [this] {
+        Keep_Place();
+        QCoreApplication::quit();
+    };
 }
 
 Program_Window::~Program_Window() = default;
 
+void Program_Window::Keep_Place() const {
+    Parts_->Window.Keep_Place();
+}
+
 Start_Outcome Program_Window::Start(std::string_view Command_Line, std::string_view App_Dir) {
-    Show_When_Laid_Out(*Window_);
+    Show_When_Laid_Out(Parts_->Window);
     Host_.Tell_Error_Stream(!Command_Line.empty());
     const Start_Outcome Outcome = Program_Start(Command_Line, App_Dir);
     Host_.Tell_Error_Stream(false);
@@ -72,11 +80,12 @@ namespace {
 
 // What is under way does not come to its end: dialogs are open, or the program works. So what it
 // holds is tidied and nothing returns to it.
-std::unique_ptr<QSocketNotifier> End_On_Signal() {
+std::unique_ptr<QSocketNotifier> End_On_Signal(const Program_Window& Program) {
     const std::intptr_t Descriptor = End_Signals_Catch();
     if (Descriptor < 0) return nullptr;
     auto Coming = std::make_unique<QSocketNotifier>(Descriptor, QSocketNotifier::Read);
-    QObject::connect(Coming.get(), &QSocketNotifier::activated, [] {
+    QObject::connect(Coming.get(), &QSocketNotifier::activated, [&Program] {
+        Program.Keep_Place();
         Program_End_Unasked();
         std::_Exit(End_Signal_Status());
     });
@@ -150,7 +159,7 @@ int Program_Run(std::span<const std::string> Project) {
         return 1;
     }
     Program_Window Program(Host);
-    const auto Ending = End_On_Signal();
+    const auto Ending = End_On_Signal(Program);
     const Start_Outcome Outcome = Program.Start(Command_Line(Project), *App_Dir);
     if (Outcome != Start_Outcome::Started) return Outcome == Start_Outcome::Handed_Over ? 0 : 1;
     const Second_Starts Following(Program.Window());

@@ -22,6 +22,8 @@ public:
 
     /// Starts the program, which must end at once unless it has started.
     Start_Outcome Start(std::string_view Command_Line, std::string_view App_Dir);
+    /// Keeps where the window is for the next start.
+    void Keep_Place() const;
     Form_Window& Window() { return *Window_; }
 
 private:

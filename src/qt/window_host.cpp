@@ -13,6 +13,9 @@
 #include <string>
 #include <thread>
 
+#include "core/program.h"
+#include "core/settings.h"
+#include "platform/paths.h"
 #include "platform/text1252.h"
 #include "qt/boxes.h"
 #include "qt/busy.h"
@@ -27,6 +30,8 @@ namespace {
 // Often enough to look alive, seldom enough to cost nothing.
 constexpr int Refresh_Ms = 30;
 constexpr int Clock_Ms = 250;
+
+constexpr char Last_Dir_Key[] = "LastDir";
 
 // What is in front: a dialog, or else the main window.
 QWidget* Front(Form_Window* Main) {
@@ -75,7 +80,14 @@ Int Window_Host::Show_Box(const Box& B) {
 std::optional<std::string> Window_Host::Ask_File(const File_Question& Q) {
     Bring_Up_To_Date();
     const Plain_Pointer Pointer;
-    return Ask_For_File(Q, Front(Main_));
+    const bool Anywhere = Q.Start_Dir.empty() || Q.Start_Dir == App_Path;
+    const bool In_Home = !Anywhere && Q.Start_Dir.starts_with(App_Path + "\\");
+    const std::string Last = Setting_Get(Last_Dir_Key);
+    File_Question Asked = Q;
+    if (Anywhere && !Last.empty()) Asked.Start_Dir = Last;
+    auto Path = Ask_For_File(Asked, Front(Main_));
+    if (Path && !In_Home && Path_Dir(*Path) != Last) Setting_Put(Last_Dir_Key, Path_Dir(*Path));
+    return Path;
 }
 
 Form_End Window_Host::Run_Form(std::string_view Form) {

@@ -1,5 +1,7 @@
 // tests/qt/test_program_window.cpp - the whole program, worked as a user does.
+#include <QAccessible>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QPointer>
 #include <QToolButton>
@@ -11,6 +13,7 @@
 #include "qt/program_window_test.h"
 #include "ui/canvas/view.h"
 #include "ui/form/form_list.h"
+#include "ui/frm/frm.h"
 
 TEST_F(Program_Window_Test, ASecondInstanceTellsAndShowsNoWindow) {
     Instance_Lock Other;
@@ -42,8 +45,7 @@ TEST_F(Program_Window_Test, AProjectDroppedOnTheWindowOpens) {
 TEST_F(Program_Window_Test, EveryToolHasItsPicture) {
     ASSERT_TRUE(Start());
     for (const auto* Tool : W->findChildren<QToolButton*>())
-        EXPECT_TRUE(!Tool->icon().isNull() || !Tool->text().isEmpty() ||
-                    Tool->objectName() == QLatin1String("qt_toolbar_ext_button"))
+        EXPECT_TRUE(!Tool->icon().isNull() || !Tool->text().isEmpty())
             << Tool->objectName().toStdString();
 }
 
@@ -98,4 +100,55 @@ TEST_F(Program_Window_Test, AFormWithoutAFrameStandsInTheCanvasUntilAClickElsewh
         EXPECT_EQ(F.End(), Form_End::Closed);
         EXPECT_EQ(Zoom, Before) << "the click did nothing else";
     }
+}
+
+TEST_F(Program_Window_Test, ANarrowWindowHasFewerReadOutsAndNoneIsShortened) {
+    Open_Example();
+    EXPECT_LT(W->minimumSizeHint().width(), 700);
+    Frm_Set_Caption("L_NumCell_Area", std::string(60, 'W'));
+    for (const auto& [Width, Seen] : {std::pair{2000, 7}, {1250, 5}, {1060, 4}, {640, 2}}) {
+        W->resize(Width, 600);
+        Turn();
+        Turn();
+        int Nb = 0;
+        for (const char* Name : {"LLat", "LLon", "L_NumCell_Area", "L_CustomBmp", "L_MouseBmp",
+                                 "LLatDec", "LLonDec"}) {
+            const auto& Label = Find<QLabel>(*W, Name);
+            if (!Label.isVisible()) continue;
+            EXPECT_EQ(W->width(), Width);
+            EXPECT_GE(Label.width(), Label.fontMetrics().horizontalAdvance(Label.text()));
+            ++Nb;
+        }
+        EXPECT_EQ(Nb, Seen) << Width;
+    }
+}
+
+TEST_F(Program_Window_Test, WindowAndViewAreAsTheyWereLeft) {
+    Open_Example();
+    W->resize(900, 611);
+    View_Zoom_To(2.5);
+    View_Drag(-300, 200);
+    Cmd_Grid();
+    const View_State Left = The_View_State;
+    {
+        Dialog_Script Script({Answer("No")});
+        W->close();
+    }
+    P.reset();
+    View_State_Reset();
+    Open_Example();
+    EXPECT_EQ(W->size(), QSize(900, 611));
+    EXPECT_EQ(std::tuple(Zoom, Pan_X, Pan_Y, Show_Grid),
+              std::tuple(Left.Zoom, Left.Pan_X, Left.Pan_Y, false));
+}
+
+TEST_F(Program_Window_Test, TheCanvasHasANameAndTheModeIsToldAsPressed) {
+    Open_Example();
+    const auto Told = [&](const char* Name) {
+        return QAccessible::queryAccessibleInterface(&Find<QWidget>(*W, Name));
+    };
+    EXPECT_EQ(Told("Pic")->text(QAccessible::Name), QLatin1String("Map"));
+    EXPECT_TRUE(Told("Cmd_TrtArea")->state().checked);
+    EXPECT_TRUE(Told("Cmd_TrtCell")->state().checkable);
+    EXPECT_FALSE(Told("Cmd_TrtCell")->state().checked);
 }

@@ -140,6 +140,15 @@ void View_Center_On_Point(const Pt& P) {
     Scroll_Bars_Follow();
 }
 
+void View_Put(Double New_Zoom, Double New_Pan_X, Double New_Pan_Y) {
+    if (!std::isfinite(New_Zoom) || !std::isfinite(New_Pan_X) || !std::isfinite(New_Pan_Y)) return;
+    Find_Map_Halves();
+    Zoom = std::clamp(New_Zoom, Zoom_Least_Set, Zoom_Most);
+    Pan_X = std::clamp(New_Pan_X, -Map_Half_W, Map_Half_W);
+    Pan_Y = std::clamp(New_Pan_Y, -Map_Half_H, Map_Half_H);
+    Scroll_Bars_Follow();
+}
+
 // The pan counts from the canvas's middle, which therefore keeps its point of the map.
 void View_Resize(Long Width, Long Height) {
     Pic_Width = Odd_Size(Width);

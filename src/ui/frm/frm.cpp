@@ -31,6 +31,7 @@
 #include "ui/frm/frm_controls.h"
 #include "ui/frm/frm_keys.h"
 #include "ui/frm/generate.h"
+#include "ui/frm/kept_view.h"
 #include "ui/frm/undo_controls.h"
 #include "ui/frm/view_controls.h"
 
@@ -119,8 +120,8 @@ void Set_Handlers(Form& F) {
             Mode_Enter(*Row);
             The_Host().Set_Focus("Pic");
         };
-    F.Handlers("Mnu_File_Quit").On_Click = [&F] {
     }
+    F.Handlers("Mnu_File_Quit").On_Click = [&F] {
         if (Mnu_File_Quit()) F.Close(Form_End::Closed);
     };
     F.Handlers("HScroll").On_Change = [&F] { HScroll_Change(F["HScroll"].Value); };
@@ -162,6 +163,8 @@ void Install_View_Calls() {
         View_Controls_Show();
     };
     The_View.View_Reset = View_Reset;
+    The_View.View_Keep = Kept_View_Keep;
+    The_View.View_Take = Kept_View_Take;
     The_View.Bars_Follow = Scroll_Bars_Follow;
     The_View.View_Clear = View_Clear;
     The_View.Route_Reset = Route_Reset;
