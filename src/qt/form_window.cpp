@@ -10,6 +10,8 @@
 #include <QLayout>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -111,6 +113,21 @@ Form_Window::Form_Window(Form& F, QWidget* Parent, Qt::WindowFlags Flags)
     Shown_->On_Title();
 }
 
+void Form_Window::Fit_Screen() {
+    const QWidget* Beside = parentWidget() != nullptr ? parentWidget() : this;
+    const QSize Room = Beside->screen()->availableSize() - Frame_Size;
+    const QSize Wanted = sizeHint();
+    if (Wanted.boundedTo(Room) == Wanted) return;
+    auto* Scrolled = new QScrollArea;
+    Scrolled->setFrameShape(QFrame::NoFrame);
+    Scrolled->setWidgetResizable(true);
+    layout()->removeWidget(Shown_);
+    Scrolled->setWidget(Shown_);
+    layout()->addWidget(Scrolled);
+    const int Bar = 2 * style()->pixelMetric(QStyle::PM_ScrollBarExtent);  // and what is round it
+    resize((Wanted + QSize(Bar, Bar)).boundedTo(Room));
+}
+
 void Form_Window::closeEvent(QCloseEvent* E) {
     Form& F = Shown_->The_Form();
     if (!F.Is_Closed()) Shown_->Do([](Form& G) { Form_User_Close(G); });
@@ -178,6 +195,7 @@ void Run_Dialog(Form& F, QWidget* Parent, Form_Window* Main) {
         Window.setWindowModality(Qt::ApplicationModal);
     QEventLoop Loop;
     Window.Shown().On_Closed = [&Loop] { Loop.quit(); };
+    if (!Frameless) Window.Fit_Screen();
     Window.Shown().Take_Focus();
     if (F.Place.What != Form_Place::Kind::Centred) Put(Window, F.Place, Main);
     Window.show();
@@ -196,6 +214,7 @@ void Open_Dialog(std::shared_ptr<Form> F, Form_Window& Main) {
     Shown.On_Above_Main = [Window, &Main](bool On) {
         Window->windowHandle()->setTransientParent(On ? Main.windowHandle() : nullptr);
     };
+    Window->Fit_Screen();
     Shown.Take_Focus();
     if (F->Place.What != Form_Place::Kind::Centred) Put(*Window, F->Place, &Main);
     Window->show();

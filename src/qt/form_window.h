@@ -15,6 +15,8 @@ public:
     Form_Window(Form& F, QWidget* Parent, Qt::WindowFlags Flags);
 
     Form_Widget& Shown() { return *Shown_; }
+    /// One that is larger than the screen can be scrolled.
+    void Fit_Screen();
     /// What follows when the file Path is given to the window from outside.
     void Take_File(const std::string& Path);
 

@@ -2,6 +2,7 @@
 #include "qt/tab_order.h"
 
 #include <QLayout>
+#include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <vector>
@@ -14,7 +15,8 @@ public:
         if (auto* Pages = qobject_cast<QTabWidget*>(&W)) {
             Read(*Pages->tabBar());
             for (int I = 0; I < Pages->count(); ++I) Read(*Pages->widget(I));
-        } else if ((W.focusPolicy() & Qt::TabFocus) != 0) {
+        } else if ((W.focusPolicy() & Qt::TabFocus) != 0 || qobject_cast<QRadioButton*>(&W)) {
+            // of several options Tab stops at the chosen one, which may become another
             Found.push_back(&W);
         } else if (const QLayout* L = W.layout()) {
             Read(*L);

@@ -258,7 +258,7 @@ key shift+Tab space
 choose_file "BGL name" "$scratch/First.bgl"
 key Tab
 choose_file "BGL name" "$scratch/First_Excl.bgl"
-key Tab # over the added altitude
+key Tab Tab Tab # over the added altitude, its unit and the simulator
 for where in Bgl Raw; do
     key Tab F4
     dialog "LC and WC $where directory"
