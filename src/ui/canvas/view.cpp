@@ -144,8 +144,9 @@ void View_Put(Double New_Zoom, Double New_Pan_X, Double New_Pan_Y) {
     if (!std::isfinite(New_Zoom) || !std::isfinite(New_Pan_X) || !std::isfinite(New_Pan_Y)) return;
     Find_Map_Halves();
     Zoom = std::clamp(New_Zoom, Zoom_Least_Set, Zoom_Most);
-    Pan_X = std::clamp(New_Pan_X, -Map_Half_W, Map_Half_W);
-    Pan_Y = std::clamp(New_Pan_Y, -Map_Half_H, Map_Half_H);
+    const Double Most_X = Map_Half_W + View_Half_W / Zoom, Most_Y = Map_Half_H + View_Half_H / Zoom;
+    Pan_X = std::clamp(New_Pan_X, -Most_X, Most_X);
+    Pan_Y = std::clamp(New_Pan_Y, -Most_Y, Most_Y);
     Scroll_Bars_Follow();
 }
 

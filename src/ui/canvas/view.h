@@ -90,7 +90,8 @@ void Scroll_Bars_Follow();
 void View_Center_Map();
 /// The map point P at the canvas's centre; scroll bars follow.
 void View_Center_On_Point(const Pt& P);
-/// Takes a view as it once was, held to what can be asked for and to the map; scroll bars follow.
+/// Takes a view as it once was, held to what can be asked for and to where the
+/// canvas still reaches the map; scroll bars follow.
 void View_Put(Double New_Zoom, Double New_Pan_X, Double New_Pan_Y);
 /// The canvas has a new size in pixels; an even one becomes 1 smaller, less than 1 becomes 1.
 /// The map point at its middle stays there. Repaints when a project is open.
