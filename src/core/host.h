@@ -130,6 +130,8 @@ public:
 
     /// Shows a directory as the desktop does.
     virtual void Show_Folder(std::string_view Dir) = 0;
+    /// A button asks for the help page: for who reads it, while all else stays as it is.
+    virtual void Show_Help() = 0;
 };
 
 /// The host in use. There always is one: at first a Silent_Host.
@@ -174,6 +176,7 @@ public:
     bool Starts_Tools() const override { return !Is_Dry_Run(); }
     void Note_File(File_Event Event, std::string_view Path) override;
     void Show_Folder(std::string_view Dir) override;
+    void Show_Help() override {}
 };
 
 /// A plain message box with an Ok button and the program's name as title.

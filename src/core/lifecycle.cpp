@@ -293,5 +293,6 @@ void Mnu_Tool_CvLL() {
 }
 
 void Cmd_Help() {
+    The_Host().Show_Help();
     The_Host().Set_Focus("Pic");
 }

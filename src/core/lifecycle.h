@@ -98,7 +98,7 @@ void Mnu_ModCad();
 void Mnu_par_Remesh();
 void Mnu_Tool_CvLL();
 
-/// There are no help pages: only gives the focus back to the canvas.
+/// Shows the help page; the canvas has the focus then.
 void Cmd_Help();
 
 /// Commands that need an open project.

@@ -10,6 +10,9 @@
 
 inline constexpr char Program_Title[] = "Terrafold V5.0 04/10/2003";
 
+/// What the running program was built from and by; "" where nobody has told.
+inline std::string Program_Build;
+
 /// A colour of the palette file, in the order of a bitmap's palette.
 struct Palette_Entry {
     Byte Blue = 0, Green = 0, Red = 0, Zero = 0;

@@ -49,6 +49,7 @@ public:
     bool End_Tool() override { return Behind_.End_Tool(); }
     bool Has_Tool(std::string_view Path) override { return Behind_.Has_Tool(Path); }
     void Show_Folder(std::string_view Dir) override { Behind_.Show_Folder(Dir); }
+    void Show_Help() override { Behind_.Show_Help(); }
     void Copy_Text(std::string_view Text) override { Behind_.Copy_Text(Text); }
 
 private:

@@ -204,10 +204,11 @@ struct Named_Key {
 };
 
 constexpr Named_Key Named_Keys[] = {
-    {"Enter", Key_Enter},    {"Esc", Key_Escape},     {"Tab", Key_Tab}, {"Delete", Key_Delete},
-    {"Left", Key_Left},      {"Right", Key_Right},    {"Up", Key_Up},   {"Down", Key_Down},
-    {"Pad+", Key_Pad_Plus},  {"Pad-", Key_Pad_Minus}, {"F4", Key_F4},   {"PgUp", Key_Page_Up},
-    {"PgDn", Key_Page_Down}, {"Home", Key_Home},      {"+", Key_Plus},  {"-", Key_Minus}};
+    {"Enter", Key_Enter},  {"Esc", Key_Escape},     {"Tab", Key_Tab},        {"Delete", Key_Delete},
+    {"Left", Key_Left},    {"Right", Key_Right},    {"Up", Key_Up},          {"Down", Key_Down},
+    {"F1", Key_F1},        {"Pad+", Key_Pad_Plus},  {"Pad-", Key_Pad_Minus}, {"F4", Key_F4},
+    {"PgUp", Key_Page_Up}, {"PgDn", Key_Page_Down}, {"Home", Key_Home},      {"+", Key_Plus},
+    {"-", Key_Minus}};
 
 constexpr std::pair<std::string_view, Int> Key_Modifiers[] = {
     {"Shift+", Shift_Key}, {"Ctrl+", Ctrl_Key}, {"Alt+", Alt_Key}};

@@ -13,12 +13,14 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "core/program.h"
 #include "qt/busy.h"
 #include "qt/canvas_widget.h"
 #include "qt/form_widget.h"
 #include "qt/icons.h"
 #include "qt/text.h"
 #include "ui/form/form_events.h"
+#include "ui/form/keys_told.h"
 
 namespace {
 
@@ -293,6 +295,13 @@ private:
     QScrollBar* Bar_;
 };
 
+// The keys stand in a column of their own, whoever binds them.
+QString Caption_With_Keys(const Control& C) {
+    const std::string Keys = Keys_Text(C, Language);
+    const QString Caption = Literal_Caption(C.Caption);
+    return Keys.empty() ? Caption : Caption + QLatin1Char('\t') + Qt_Text(Keys);
+}
+
 // An item without words is none: a free place of a list that changes.
 class Menu_Item_Widget final : public Control_Widget {
 public:
@@ -307,7 +316,7 @@ public:
         });
     }
     void Follow(const Control& C) override {
-        Action->setText(Literal_Caption(C.Caption));
+        Action->setText(Caption_With_Keys(C));
         Action->setEnabled(C.Enabled);
         Action->setChecked(C.Value != 0);
         Action->setVisible(C.Visible && !C.Caption.empty());
@@ -391,7 +400,7 @@ int Width_Of(const QWidget& Widget, int Columns) {
 void Follow_Common(Control_Widget& Shown, const Control& C) {
     Shown.Widget->setEnabled(C.Enabled);
     Shown.Widget->setVisible(C.Visible);
-    Shown.Widget->setToolTip(Qt_Text(C.Tip));
+    Shown.Widget->setToolTip(Qt_Text(Tip_With_Keys(C, Language)));
     Shown.Widget->setAccessibleName(Readable_Name(C));
     if (Shown.Label == nullptr) return;
     Shown.Label->setText(Literal_Caption(C.Caption));

@@ -43,6 +43,8 @@ Key_Code Code_Of(int Key, bool On_Pad) {
             return Key_Down;
         case Qt::Key_Delete:
             return Key_Delete;
+        case Qt::Key_F1:
+            return Key_F1;
         case Qt::Key_F4:
             return Key_F4;
         case Qt::Key_PageUp:

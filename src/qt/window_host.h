@@ -39,6 +39,7 @@ public:
     bool Run_Tool(std::string_view Cmd_Line, Int Show_Mode) override;
     bool End_Tool() override;
     void Show_Folder(std::string_view Dir) override;
+    void Show_Help() override { Run_Form("Frm_Help"); }
     void Copy_Text(std::string_view Text) override;
 
 private:

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "core/host.h"
 #include "ui/form/form_list.h"
 
 void Forms_Install() {
@@ -49,5 +50,6 @@ void Add_Help(Form& F) {
     F.Add({.Kind = Control_Kind::Button,
            .Name = "Cmd_Help",
            .Words = {"Help", "Aide"},
-           .Role = Button_Role::Help});
+           .Role = Button_Role::Help,
+           .On_Click = [] { The_Host().Show_Help(); }});
 }

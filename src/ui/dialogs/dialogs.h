@@ -37,5 +37,5 @@ void Forms_Install();
 /// Adds the buttons Cmd_Ok and Cmd_Cancel.
 void Add_Ok_Cancel(Form& F, std::function<void()> Ok, std::function<void()> Cancel);
 
-/// Adds Cmd_Help, which does nothing: there are no help pages.
+/// Adds Cmd_Help, which shows the help page; F1 presses it.
 void Add_Help(Form& F);

@@ -293,19 +293,25 @@ void Search() {
 
 }  // namespace
 
-const Mode_Row Row_Of_Ima{.Name = "Mode_Ima",
-                          .Flag = &Mode_Flags::Mode_Ima,
-                          .Button = "Cmd_TrtIma",
-                          .Tools = Tools,
-                          .Leave_Former = Route_Leave,
-                          .Checks_Textures = false,
-                          .On_Enter = Ima_Leave,
-                          .Paint = Paint,
-                          .Press = Press,
-                          .Move = Move,
-                          .Release = Release,
-                          .Away = Release,
-                          .Double_Click = Double_Click,
-                          .Key = Key,
-                          .Delete = Delete,
-                          .Search = Search};
+const Mode_Row Row_Of_Ima{
+    .Name = "Mode_Ima",
+    .Flag = &Mode_Flags::Mode_Ima,
+    .Button = "Cmd_TrtIma",
+    .Tools = Tools,
+    .Leave_Former = Route_Leave,
+    .Checks_Textures = false,
+    .On_Enter = Ima_Leave,
+    .Paint = Paint,
+    .Press = Press,
+    .Move = Move,
+    .Release = Release,
+    .Away = Release,
+    .Double_Click = Double_Click,
+    .Key = Key,
+    .Delete = Delete,
+    .Search = Search,
+    .Help = {"Lays textures on the map as rectangles and links polygons to them.\n"
+             "The mouse moves a texture and sizes it at its edges; the right button opens it.",
+             "Pose des textures sur la carte comme rectangles et leur lie des polygones.\n"
+             "La souris d\xE9place une texture et la dimensionne par ses bords ; le clic droit "
+             "l'ouvre."}};

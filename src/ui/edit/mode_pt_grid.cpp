@@ -91,14 +91,19 @@ Wording Hint() {
 
 }  // namespace
 
-const Mode_Row Row_Of_PtGrid{.Name = "Mode_PtGrid",
-                             .Flag = &Mode_Flags::Mode_PtGrid,
-                             .Button = "Cmd_TrtMesh",
-                             .May_Enter = Mesh_Is_Chosen,
-                             .Leave_Former = Mode_Leave,
-                             .On_Enter = [] { The_Host().Set_Visible("LPtGrid", true); },
-                             .Paint = Paint,
-                             .Press = Press,
-                             .Move = Move,
-                             .Key = Key,
-                             .Hint = Hint};
+const Mode_Row Row_Of_PtGrid{
+    .Name = "Mode_PtGrid",
+    .Flag = &Mode_Flags::Mode_PtGrid,
+    .Button = "Cmd_TrtMesh",
+    .May_Enter = Mesh_Is_Chosen,
+    .Leave_Former = Mode_Leave,
+    .On_Enter = [] { The_Host().Set_Visible("LPtGrid", true); },
+    .Paint = Paint,
+    .Press = Press,
+    .Move = Move,
+    .Key = Key,
+    .Hint = Hint,
+    .Help = {"Sets altitudes on the finer mesh of the terrain.\n"
+             "A click sets or changes one, Delete removes the one under the mouse.",
+             "Donne des altitudes sur le maillage plus fin du terrain.\n"
+             "Un clic en pose ou en change une, Suppr efface celle sous la souris."}};

@@ -221,17 +221,27 @@ bool Key(Key_Event K) {
 
 }  // namespace
 
-const Mode_Row Row_Of_Route{.Name = "Mode_Route",
-                            .Flag = &Mode_Flags::Mode_Route,
-                            .Button = "Cmd_Saisie_Routes",
-                            .Tools = Tools,
-                            .Leave_Former = Tex_Link_Check,
-                            .Paint = Paint,
-                            .Press = Press,
-                            .Move = Move,
-                            .Double_Click = Double_Click,
-                            .Key = Key,
-                            .Form_Key = Object_Arrow_Key,
-                            .Delete = Delete,
-                            .Search = Search_Next,
-                            .Hint = Route_Hint};
+const Mode_Row Row_Of_Route{
+    .Name = "Mode_Route",
+    .Flag = &Mode_Flags::Mode_Route,
+    .Button = "Cmd_Saisie_Routes",
+    .Tools = Tools,
+    .Leave_Former = Tex_Link_Check,
+    .Paint = Paint,
+    .Press = Press,
+    .Move = Move,
+    .Double_Click = Double_Click,
+    .Key = Key,
+    .Form_Key = Object_Arrow_Key,
+    .Delete = Delete,
+    .Search = Search_Next,
+    .Hint = Route_Hint,
+    .Help = {
+        "Draws polygons, roads, rivers, shores and coastlines, point by point.\n"
+        "New object and a click start one; each click lays a point until Esc. The other tools\n"
+        "select, insert and go on; the right button opens what the selected object is.",
+        "Dessine polygones, routes, rivi\xE8res, rivages et c\xF4tes, point par point.\n"
+        "Nouvel objet et un clic en commencent un ; chaque clic pose un point jusqu'\xE0 Echap. "
+        "Les\n"
+        "autres outils s\xE9lectionnent, ins\xE8rent, continuent ; le clic droit ouvre les "
+        "attributs."}};

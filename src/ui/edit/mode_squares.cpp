@@ -92,15 +92,23 @@ const Mode_Row Row_Of_Area{
     .Away = [](const Mouse_Event&) { Square_Drag_Cancel(); },
     .Double_Click = [] { Dialog_On_Grid("Frm_LOD", Area_Cancelled); },
     .Key = Square_Drag_Key,
-    .Hint = Many_Hint};
+    .Hint = Many_Hint,
+    .Help = {"Fills small squares with water, land or a texture.\n"
+             "A double click opens one square, dragging with Shift all under the rectangle.",
+             "Remplit les petits carr\xE9s d'eau, de terre ou d'une texture.\n"
+             "Un double-clic ouvre un carr\xE9, glisser avec Maj tous ceux sous le rectangle."}};
 
-const Mode_Row Row_Of_Cell{.Name = "Mode_Cell",
-                           .Flag = &Mode_Flags::Mode_Cell,
-                           .Button = "Cmd_TrtCell",
-                           .Leave_Former = Mode_Leave,
-                           .Paint = [] { Paint_Marked(Grid_Marks::Lod8s); },
-                           .Double_Click = [] { Dialog_On_Grid("Frm_LOD8", Area_Cancelled); },
-                           .Hint = One_Hint};
+const Mode_Row Row_Of_Cell{
+    .Name = "Mode_Cell",
+    .Flag = &Mode_Flags::Mode_Cell,
+    .Button = "Cmd_TrtCell",
+    .Leave_Former = Mode_Leave,
+    .Paint = [] { Paint_Marked(Grid_Marks::Lod8s); },
+    .Double_Click = [] { Dialog_On_Grid("Frm_LOD8", Area_Cancelled); },
+    .Hint = One_Hint,
+    .Help =
+        {"Fills large squares, 32 by 32 small ones each. A double click opens one.",
+         "Remplit les grands carr\xE9s, de 32 par 32 petits chacun. Un double-clic en ouvre un."}};
 
 // A whole area may be excluded from beyond the grid as well.
 const Mode_Row Row_Of_Excl{
@@ -116,7 +124,13 @@ const Mode_Row Row_Of_Excl{
     .Away = [](const Mouse_Event&) { Square_Drag_Cancel(); },
     .Double_Click = [] { Dialog_At_Mouse("Frm_Excl", Excl_Cancelled); },
     .Key = Square_Drag_Key,
-    .Hint = Many_Hint};
+    .Hint = Many_Hint,
+    .Help = {"Leaves default scenery of the simulator out of small squares.\n"
+             "A double click opens one square, dragging with Shift all under the rectangle.",
+             "Exclut des petits carr\xE9s des \xE9l\xE9ments du d\xE9"
+             "cor par d\xE9"
+             "faut du simulateur.\n"
+             "Un double-clic ouvre un carr\xE9, glisser avec Maj tous ceux sous le rectangle."}};
 
 const Mode_Row Row_Of_LC{
     .Name = "Mode_LC",
@@ -133,7 +147,11 @@ const Mode_Row Row_Of_LC{
     .Away = [](const Mouse_Event&) { Square_Drag_Cancel(); },
     .Double_Click = [] { Dialog_On_Grid("Frm_LC", LC_Cancelled, Pixel_To_Cell_Shift); },
     .Key = Square_Drag_Key,
-    .Hint = Many_Hint};
+    .Hint = Many_Hint,
+    .Help = {"Gives small squares the class of their land, which brings its textures.\n"
+             "A double click opens one square, dragging with Shift all under the rectangle.",
+             "Donne aux petits carr\xE9s la classe de leur terrain, qui apporte ses textures.\n"
+             "Un double-clic ouvre un carr\xE9, glisser avec Maj tous ceux sous le rectangle."}};
 
 const Mode_Row Row_Of_WC{
     .Name = "Mode_WC",
@@ -150,4 +168,8 @@ const Mode_Row Row_Of_WC{
     .Away = [](const Mouse_Event&) { Square_Drag_Cancel(); },
     .Double_Click = [] { Dialog_On_Grid("Frm_WC", WC_Cancelled, Pixel_To_Cell_Shift); },
     .Key = Square_Drag_Key,
-    .Hint = Many_Hint};
+    .Hint = Many_Hint,
+    .Help = {"Gives small squares the class of their water.\n"
+             "A double click opens one square, dragging with Shift all under the rectangle.",
+             "Donne aux petits carr\xE9s la classe de leur eau.\n"
+             "Un double-clic ouvre un carr\xE9, glisser avec Maj tous ceux sous le rectangle."}};

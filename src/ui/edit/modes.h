@@ -32,6 +32,7 @@ struct Mode_Row {
     void (*Delete)() = nullptr;             // Cmd_Sup_Route_Ou_Pt
     void (*Search)() = nullptr;             // Cmd_Tabul
     Wording (*Hint)() = nullptr;            // what the next click does
+    Wording Help = {};                      // what it is for, some short lines of the help page
 };
 
 // Each is filled by the file of its mode.

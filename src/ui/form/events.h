@@ -24,6 +24,7 @@ inline constexpr Key_Code Key_Down = 40;
 inline constexpr Key_Code Key_Delete = 46;
 inline constexpr Key_Code Key_Pad_Plus = 107;  // of the numeric pad
 inline constexpr Key_Code Key_Pad_Minus = 109;
+inline constexpr Key_Code Key_F1 = 112;
 inline constexpr Key_Code Key_F4 = 115;
 inline constexpr Key_Code Key_Plus = 187;  // beside the letters
 inline constexpr Key_Code Key_Minus = 189;

@@ -74,8 +74,11 @@ struct Control {
     Wording Tip_Words = {};   // what the pointer resting on it tells
     Wording Said_Words = {};  // its name for whoever cannot see it, where it has no caption
     Button_Role Role = Button_Role::Plain;
-    std::string Icon = {};       // name of the picture of a tool button
-    std::string Shortcut = {};   // of a menu item, as "Ctrl+S"
+    std::string Icon = {};      // name of the picture of a tool button
+    std::string Shortcut = {};  // of a menu item, as "Ctrl+S"
+    /// More keys that do what it does, in the same form: told beside it, bound by the form's
+    /// On_Key.
+    std::vector<std::string> Other_Keys = {};
     bool Checkable = false;      // a menu item or tool button that shows whether its Value is set
     Field_Rule Rule = {};        // of a field; without Accept any text is taken
     Int Columns = 0;             // width of a field or list in characters, 0 for the usual one

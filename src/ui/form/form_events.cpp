@@ -323,6 +323,10 @@ bool Form_Key(Form& F, Key_Event K) {
     if (K.Shift != 0) return false;
     if (K.Code == Key_Enter) return Enter_Key(F, Focused);
     if (K.Code == Key_Escape) return Escape_Key(F, Focused);
+    if (K.Code == Key_F1) {
+        const Control* Help = With_Role(F, Button_Role::Help);
+        return Help != nullptr && Form_Click(F, Help->Name);
+    }
     if (K.Code == Key_F4) return Focused != nullptr && Form_Open_Chooser(F, Focused->Name);
     return false;
 }

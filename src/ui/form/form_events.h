@@ -61,8 +61,8 @@ bool Form_Leave(Form& F);
 /// Enter after them: accepts what was typed into a field; else presses the button, clicks the
 /// read-only field or double-clicks the chosen item of the list that has the focus; else presses
 /// Ok. Escape puts back the value held if something was typed; else presses Cancel; else closes
-/// a modal form as its own close button does. F4 opens the chooser of the field. True when the
-/// key was used.
+/// a modal form as its own close button does. F4 opens the chooser of the field, F1 presses Help.
+/// True when the key was used.
 bool Form_Key(Form& F, Key_Event K);
 
 bool Form_Mouse(Form& F, std::string_view Name, const Mouse_Event& E);

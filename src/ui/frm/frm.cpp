@@ -28,7 +28,9 @@
 #include "ui/edit/undo.h"
 #include "ui/form/form_events.h"
 #include "ui/form/form_list.h"
+#include "ui/frm/button_items.h"
 #include "ui/frm/frm_controls.h"
+#include "ui/frm/frm_help.h"
 #include "ui/frm/frm_keys.h"
 #include "ui/frm/generate.h"
 #include "ui/frm/kept_view.h"
@@ -76,6 +78,8 @@ constexpr Command Menu_Commands[] = {
     {"Mnu_Param_Gene", Mnu_Param_Gene},
     {"Mnu_Reinit", Mnu_Reinit},
     {"Mnu_Tool_CvLL", Mnu_Tool_CvLL},
+    {"Mnu_Help_Page", Mnu_Help_Page},
+    {"Mnu_Help_About", Mnu_Help_About},
 };
 
 constexpr Command Button_Commands[] = {
@@ -127,6 +131,7 @@ void Set_Handlers(Form& F) {
     F.Handlers("HScroll").On_Change = [&F] { HScroll_Change(F["HScroll"].Value); };
     F.Handlers("VScroll").On_Change = [&F] { VScroll_Change(F["VScroll"].Value); };
     View_Controls_Install(F);
+    Button_Items_Install(F);
     Control& Pic = F.Handlers("Pic");
     Pic.On_Mouse = Pic_Mouse;
     Pic.On_Key = Pic_Key;
@@ -134,13 +139,14 @@ void Set_Handlers(Form& F) {
     F.On_Key = Frm_Key;
     F.On_Close = Mnu_File_Quit;
     F.On_Drop = [](std::string_view Path) { Frm_Drop(Path); };
-    F.Reserved_Keys = Alt_Letters;
+    F.Reserved_Keys = Alt_Letters();
 }
 
 // What is told of history and view.
 void Controls_Follow() {
     Undo_Controls_Show();
     View_Controls_Show();
+    if (Frm_Is_There()) Button_Items_Show(Frm());
 }
 
 // What an act has changed is a step, however it came about.
@@ -161,6 +167,7 @@ void Install_View_Calls() {
     The_View.View_Redraw = [] {
         View_Redraw();
         View_Controls_Show();
+        Button_Items_Show(Frm());
     };
     The_View.View_Reset = View_Reset;
     The_View.View_Keep = Kept_View_Keep;
@@ -218,6 +225,7 @@ void Frm_Install() {
     Frm_Add_Controls(*M.The_Form);
     Set_Handlers(*M.The_Form);
     Install_View_Calls();
+    Form_Register("Frm_Help", Make_Frm_Help);
     Modes_Install();
     Gen_Install();
     On_Act_Ended = Act_Ended;
@@ -248,6 +256,7 @@ void Frm_Set_Caption(std::string_view Control, std::string_view Text) {
 
 void Frm_Set_Enabled(std::string_view Control, bool On) {
     Frm().Set_Enabled(Control, On);
+    Button_Items_Show(Frm());
 }
 
 void Frm_Set_Visible(std::string_view Control, bool On) {

@@ -1,12 +1,16 @@
 // ui/frm/frm_controls.cpp - one row for each control of the main form: its texts in both languages.
 #include "ui/frm/frm_controls.h"
 
+#include <initializer_list>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/work.h"
 #include "platform/text1252.h"
 #include "ui/canvas/view.h"
+#include "ui/frm/button_items.h"
+#include "ui/frm/frm_keys.h"
 
 namespace {
 
@@ -15,6 +19,8 @@ struct Menu_Row {
     Wording Caption;
     const char* Shortcut = "";
     bool Checkable = false;
+    const char* Button = "";     // of the tool bar, which does the same
+    const char* Other_Key = "";  // that the form takes itself
 };
 
 constexpr Menu_Row Menus[] = {
@@ -22,26 +28,30 @@ constexpr Menu_Row Menus[] = {
     {"Mnu_Edit", {"Edit", "Edition"}},
     {"Mnu_View", {"View", "Affichage"}},
     {"Mnu_View_Opacity", {"Opacity of the map", "Opacit\xE9 de la carte"}},
+    {"Mnu_Square", {"Squares", "Carr\xE9s"}},
+    {"Mnu_Object", {"Objects", "Objets"}},
+    {"Mnu_Texture", {"Textures", "Textures"}},
     {"Mnu_Param", {"Parameters", "Param\xE8tres"}},
     {"Mnu_Tools", {"Tools", "Outils"}},
+    {"Mnu_Help", {"Help", "Aide"}},
 };
 
 constexpr Menu_Row Menu_Items[] = {
-    {"Mnu_File_New", {"New", "Nouveau"}, "Ctrl+N"},
+    {"Mnu_File_New", {"New", "Nouveau"}, "Ctrl+N", false, "Cmd_New"},
     {"Mnu_File_Open", {"Open", "Ouvrir"}, "Ctrl+O"},
-    {"Mnu_File_Enreg", {"Save", "Enregistrer"}, "Ctrl+S"},
+    {"Mnu_File_Enreg", {"Save", "Enregistrer"}, "Ctrl+S", false, "Cmd_Save"},
     {"Mnu_File_Enreg_Sous", {"Save as ...", "Enregistrer sous"}, "Ctrl+Shift+S"},
     {"Mnu_File_Close", {"Close", "Fermer"}, "Ctrl+W"},
     {"Mnu_File_Quit", {"Quit", "Quitter"}, "Ctrl+Q"},
-    {"Mnu_Edit_Undo", {"Undo", "Annuler"}, "Ctrl+Z"},
-    {"Mnu_Edit_Redo", {"Redo", "R\xE9tablir"}, "Ctrl+Shift+Z"},
-    {"Mnu_View_ZPlus", {"Zoom +", "Zoom +"}, "Ctrl++"},
-    {"Mnu_View_ZMoins", {"Zoom -", "Zoom -"}, "Ctrl+-"},
+    {"Mnu_Edit_Undo", {"Undo", "Annuler"}, "Ctrl+Z", false, "Cmd_Undo"},
+    {"Mnu_Edit_Redo", {"Redo", "R\xE9tablir"}, "Ctrl+Shift+Z", false, "Cmd_Redo", "Ctrl+Y"},
+    {"Mnu_View_ZPlus", {"Zoom +", "Zoom +"}, "Ctrl++", false, "Cmd_ZPlus"},
+    {"Mnu_View_ZMoins", {"Zoom -", "Zoom -"}, "Ctrl+-", false, "Cmd_ZMoins"},
     {"Mnu_View_One", {"Zoom 1:1", "Zoom 1:1"}, "Ctrl+0"},
     {"Mnu_View_Fit", {"Fit map to window", "Ajuster la carte \xE0 la fen\xEAtre"}, "Ctrl+9"},
-    {"Mnu_View_Map", {"Map", "Carte"}, "Ctrl+1", true},
-    {"Mnu_View_Grid", {"Grid", "Grille"}, "Ctrl+2", true},
-    {"Mnu_View_Texture", {"Textures", "Textures"}, "Ctrl+3", true},
+    {"Mnu_View_Map", {"Map", "Carte"}, "Ctrl+1", true, "Cmd_AffBmp"},
+    {"Mnu_View_Grid", {"Grid", "Grille"}, "Ctrl+2", true, "Cmd_Grid"},
+    {"Mnu_View_Texture", {"Textures", "Textures"}, "Ctrl+3", true, "Cmd_AffTexture"},
     {"Mnu_View_Objects", {"Objects", "Objets"}, "Ctrl+4", true},
     {"Mnu_View_Opacity_100", {"100 %", "100 %"}, "", true},
     {"Mnu_View_Opacity_75", {"75 %", "75 %"}, "", true},
@@ -59,6 +69,8 @@ constexpr Menu_Row Menu_Items[] = {
     {"Mnu_Param_Gene", {"General parameters", "Param\xE8tres g\xE9n\xE9raux"}},
     {"Mnu_Reinit", {"Initialize project", "Initialiser le project"}},
     {"Mnu_Tool_CvLL", {"Lat/Lon conversion", "Conversion Lat/Lon"}},
+    {"Mnu_Help_Page", {"Keys and modes", "Touches et modes"}, "F1", false, "Cmd_Help"},
+    {"Mnu_Help_About", {"About Terrafold", "A propos de Terrafold"}},
 };
 
 struct Button_Row {
@@ -134,6 +146,14 @@ std::string Icon_Name(const char* Button) {
     return Name;
 }
 
+// Those that there are.
+std::vector<std::string> All_Of(std::initializer_list<std::string> Keys) {
+    std::vector<std::string> Found;
+    for (const std::string& Key : Keys)
+        if (!Key.empty()) Found.push_back(Key);
+    return Found;
+}
+
 void Add_Menus(Form& F) {
     for (const Menu_Row& M : Menus)
         F.Add({.Kind = Control_Kind::Menu, .Name = M.Name, .Words = M.Caption});
@@ -142,6 +162,7 @@ void Add_Menus(Form& F) {
                .Name = M.Name,
                .Words = M.Caption,
                .Shortcut = M.Shortcut,
+               .Other_Keys = All_Of({M.Other_Key, Alt_Key_Of(M.Button)}),
                .Checkable = M.Checkable});
     for (int I = 0; I < 4; ++I)
         F.Add(
@@ -155,6 +176,21 @@ void Add_Tool_Bar(Form& F) {
                .Words = B.Caption,
                .Tip_Words = B.Tip,
                .Icon = Icon_Name(B.Name)});
+    Button_Items_Add(F);
+}
+
+// The tip of a button tells the keys of the menu item that does the same.
+void Tell_Buttons_Their_Keys(Form& F) {
+    const auto Tell = [&F](std::string_view Button, const Control& Item) {
+        std::vector<std::string>& Keys = F.Handlers(Button).Other_Keys;
+        if (!Item.Shortcut.empty()) Keys.push_back(Item.Shortcut);
+        Keys.insert(Keys.end(), Item.Other_Keys.begin(), Item.Other_Keys.end());
+    };
+    for (const Menu_Row& M : Menu_Items)
+        if (*M.Button != '\0') Tell(M.Button, F[M.Name]);
+    for (const Control& C : F.Controls())
+        if (const std::string_view Button = Button_Of_Item(C.Name); !Button.empty())
+            Tell(Button, C);
 }
 
 constexpr Wording Map_Across{"Map, across", "Carte, en largeur"};
@@ -210,16 +246,24 @@ Layout Menu_Layout() {
         {Menu("Mnu_File", {"Mnu_File_New", "Mnu_File_Open", "Mnu_File_Enreg", "Mnu_File_Enreg_Sous",
                            "Mnu_File_Close", Gap(), "Mnu_File_Prec(0)", "Mnu_File_Prec(1)",
                            "Mnu_File_Prec(2)", "Mnu_File_Prec(3)", Gap(), "Mnu_File_Quit"}),
-         Menu("Mnu_Edit", {"Mnu_Edit_Undo", "Mnu_Edit_Redo"}),
+         Menu("Mnu_Edit",
+              {"Mnu_Edit_Undo", "Mnu_Edit_Redo", Gap(), "Mnu_Edit_Sup", "Mnu_Edit_Tabul"}),
          Menu("Mnu_View",
               {"Mnu_View_ZPlus", "Mnu_View_ZMoins", "Mnu_View_One", "Mnu_View_Fit", Gap(),
                "Mnu_View_Map", "Mnu_View_Grid", "Mnu_View_Texture", "Mnu_View_Objects",
                Menu("Mnu_View_Opacity", {"Mnu_View_Opacity_100", "Mnu_View_Opacity_75",
                                          "Mnu_View_Opacity_50", "Mnu_View_Opacity_25"}),
-               Gap(), "Mnu_View_Goto", "Mnu_View_Copy"}),
+               "Mnu_View_Colour", Gap(), "Mnu_View_Goto", "Mnu_View_Copy"}),
+         Menu("Mnu_Square", {"Mnu_Square_Area", "Mnu_Square_Cell", "Mnu_Square_Excl",
+                             "Mnu_Square_LC", "Mnu_Square_WC", "Mnu_Square_Mesh"}),
+         Menu("Mnu_Object", {"Mnu_Object_Mode", Gap(), "Mnu_Object_New", "Mnu_Object_Sel",
+                             "Mnu_Object_Sel_Pt", "Mnu_Object_Ins_Pt", "Mnu_Object_Extr_Pt"}),
+         Menu("Mnu_Texture", {"Mnu_Texture_Mode", Gap(), "Mnu_Texture_New", "Mnu_Texture_Sel",
+                              "Mnu_Texture_Link"}),
          Menu("Mnu_Param", {"Mnu_Param_File", "Mnu_par_Remesh", "Mnu_ModCad", Gap(),
                             "Mnu_Param_Gene", "Mnu_Kind_Colours", Gap(), "Mnu_Reinit"}),
-         Menu("Mnu_Tools", {"Mnu_Tool_CvLL"})});
+         Menu("Mnu_Tools", {"Mnu_Tool_API", "Mnu_Tool_FSUIPC", Gap(), "Mnu_Tool_CvLL"}),
+         Menu("Mnu_Help", {"Mnu_Help_Page", Gap(), "Mnu_Help_About"})});
 }
 
 // In the order of a designer's work: the project, what is seen, squares of the grid, drawn
@@ -269,6 +313,7 @@ Layout Tool_Bar_Layout() {
 void Frm_Add_Controls(Form& F) {
     Add_Menus(F);
     Add_Tool_Bar(F);
+    Tell_Buttons_Their_Keys(F);
     Add_Canvas(F);
     Add_Labels(F);
     F.Set_Layout(

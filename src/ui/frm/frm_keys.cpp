@@ -19,7 +19,7 @@ enum class Then { Nothing, Double_Click, Right_Press, Select };
 
 struct Alt_Key_Row {
     Key_Code Code;
-    const char* Button;
+    std::string_view Button;
     Then Next = Then::Nothing;
 };
 
@@ -42,6 +42,10 @@ constexpr std::array Alt_Keys{
     Alt_Key_Row{'I', "Cmd_Ins_Pt_Route", Then::Double_Click},
     Alt_Key_Row{'A', "Cmd_Extr_Pt_Route", Then::Double_Click},
 };
+
+bool Is_Letter(Key_Code Code) {
+    return 'A' <= Code && Code <= 'Z';
+}
 
 void Double_Click_At_Mouse() {
     Click_X = Move_X;
@@ -78,7 +82,19 @@ bool Press_Alt(Key_Code Code) {
 
 }  // namespace
 
-const std::string_view Alt_Letters = "CGLWEDUMTRSNOIA";
+std::string Alt_Letters() {
+    std::string Letters;
+    for (const Alt_Key_Row& Row : Alt_Keys)
+        if (Is_Letter(Row.Code)) Letters += static_cast<char>(Row.Code);
+    return Letters;
+}
+
+std::string Alt_Key_Of(std::string_view Button) {
+    const auto Row = std::ranges::find(Alt_Keys, Button, &Alt_Key_Row::Button);
+    if (Row == Alt_Keys.end()) return {};
+    if (Is_Letter(Row->Code)) return std::string("Alt+") + static_cast<char>(Row->Code);
+    return Row->Code == Key_Pad_Plus ? "Alt+Pad+" : "Alt+Pad-";
+}
 
 bool Frm_Key(Key_Event K) {
     if ((K.Shift & Alt_Key) != 0) return Press_Alt(K.Code);
