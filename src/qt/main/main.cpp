@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "build_facts.h"
+#include "core/program.h"
 #include "platform/arguments.h"
 #include "platform/text1252.h"
 #include "qt/command_line.h"
@@ -47,6 +49,14 @@ int Print(const std::string& Text) {
     return Whole ? 0 : Not_Started;
 }
 
+// As the box About tells it.
+std::string Build_Told() {
+    const std::string Commit = Build_Commit;
+    return std::string("Terrafold ") + Build_Version +
+           (Commit.empty() ? Commit : "\r\nCommit " + Commit) + "\r\n" + Build_Kind + ", " +
+           Build_Compiler + ", Qt " + qVersion();
+}
+
 int Run_Window(int argc, char** argv, const Window_Arguments& A) {
     std::optional<Display_Opening> Opening(std::in_place);
     QApplication App(argc, argv);
@@ -54,6 +64,7 @@ int Run_Window(int argc, char** argv, const Window_Arguments& A) {
     QApplication::setApplicationName(QStringLiteral("Terrafold"));
     QApplication::setDesktopFileName(QStringLiteral("terrafold"));
     QApplication::setQuitOnLastWindowClosed(false);
+    Program_Build = Build_Told();
     return Program_Run(A.Project);
 }
 
