@@ -223,6 +223,13 @@ does "the File menu" xdotool mousemove --window "$main" 20 10 click 1
 keep menu
 does "Escape in the menu" key Escape
 key Escape # out of the menu bar
+does "Ctrl+L" key ctrl+l # large squares, by the menu's shortcut
+key F1
+dialog 'Keys and modes'
+keep help
+key Escape
+await "the end of the help page" has_windows 1
+xdotool windowfocus --sync "$main"
 for letter in e l w r d; do
     does "Alt+$letter" key "alt+$letter"
     await "one window in the mode of Alt+$letter" has_windows 1

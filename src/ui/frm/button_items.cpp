@@ -47,30 +47,48 @@ struct Item_Row {
     std::string_view Shortcut = {};
     std::string_view Canvas_Key = {};  // does the same on the canvas
     bool (*Has_Work)() = nullptr;
+    Wording Caption = {};  // where the tip of the button is not to be it
 };
 
 constexpr std::array Items{
-    Item_Row{"Mnu_Edit_Sup", "Cmd_Sup_Route_Ou_Pt", "", "Delete", Is_Any_Selected},
-    Item_Row{"Mnu_Edit_Tabul", "Cmd_Tabul", "", "", Has_Any},
-    Item_Row{"Mnu_View_Colour", "Cmd_ColourGrid"},
-    Item_Row{"Mnu_Square_Area", "Cmd_TrtArea"},
-    Item_Row{"Mnu_Square_Cell", "Cmd_TrtCell", "Ctrl+L"},
-    Item_Row{"Mnu_Square_Excl", "Cmd_Excl_Areas"},
-    Item_Row{"Mnu_Square_LC", "Cmd_LandClass"},
-    Item_Row{"Mnu_Square_WC", "Cmd_WaterClass"},
-    Item_Row{"Mnu_Square_Mesh", "Cmd_TrtMesh"},
-    Item_Row{"Mnu_Object_Mode", "Cmd_Saisie_Routes"},
-    Item_Row{"Mnu_Object_New", "Cmd_New_Route"},
-    Item_Row{"Mnu_Object_Sel", "Cmd_Sel_Route", "", "", Has_Objects},
-    Item_Row{"Mnu_Object_Sel_Pt", "Cmd_Sel_Pt_Route", "", "", Is_Object_Selected},
-    Item_Row{"Mnu_Object_Ins_Pt", "Cmd_Ins_Pt_Route", "", "", Is_Line_Selected},
-    Item_Row{"Mnu_Object_Extr_Pt", "Cmd_Extr_Pt_Route", "", "", Is_Object_Selected},
-    Item_Row{"Mnu_Texture_Mode", "Cmd_TrtIma", "Ctrl+T"},
-    Item_Row{"Mnu_Texture_New", "Cmd_New_Ima"},
-    Item_Row{"Mnu_Texture_Sel", "Cmd_Sel_Ima", "", "", Has_Textures},
-    Item_Row{"Mnu_Texture_Link", "Cmd_Sel_Crb_Ima"},
-    Item_Row{"Mnu_Tool_FSUIPC", "Cmd_FSUIPC"},
-    Item_Row{"Mnu_Tool_API", "Cmd_API"},
+    Item_Row{.Name = "Mnu_Edit_Sup",
+             .Button = "Cmd_Sup_Route_Ou_Pt",
+             .Canvas_Key = "Delete",
+             .Has_Work = Is_Any_Selected,
+             .Caption = {"Delete", "Supprimer"}},
+    Item_Row{.Name = "Mnu_Edit_Tabul", .Button = "Cmd_Tabul", .Has_Work = Has_Any},
+    Item_Row{.Name = "Mnu_View_Colour", .Button = "Cmd_ColourGrid"},
+    Item_Row{.Name = "Mnu_Square_Area",
+             .Button = "Cmd_TrtArea",
+             .Caption = {"Attributes of small squares", "Attributs des petits carr\xE9s"}},
+    Item_Row{.Name = "Mnu_Square_Cell",
+             .Button = "Cmd_TrtCell",
+             .Shortcut = "Ctrl+L",
+             .Caption = {"Attributes of large squares", "Attributs des grands carr\xE9s"}},
+    Item_Row{.Name = "Mnu_Square_Excl",
+             .Button = "Cmd_Excl_Areas",
+             .Caption = {"Exclusions", "Exclusions"}},
+    Item_Row{.Name = "Mnu_Square_LC", .Button = "Cmd_LandClass"},
+    Item_Row{.Name = "Mnu_Square_WC", .Button = "Cmd_WaterClass"},
+    Item_Row{.Name = "Mnu_Square_Mesh", .Button = "Cmd_TrtMesh"},
+    Item_Row{.Name = "Mnu_Object_Mode",
+             .Button = "Cmd_Saisie_Routes",
+             .Caption = {"Draw road/river/lake", "Dessiner route/lac/rivi\xE8re"}},
+    Item_Row{.Name = "Mnu_Object_New", .Button = "Cmd_New_Route"},
+    Item_Row{.Name = "Mnu_Object_Sel", .Button = "Cmd_Sel_Route", .Has_Work = Has_Objects},
+    Item_Row{
+        .Name = "Mnu_Object_Sel_Pt", .Button = "Cmd_Sel_Pt_Route", .Has_Work = Is_Object_Selected},
+    Item_Row{
+        .Name = "Mnu_Object_Ins_Pt", .Button = "Cmd_Ins_Pt_Route", .Has_Work = Is_Line_Selected},
+    Item_Row{.Name = "Mnu_Object_Extr_Pt",
+             .Button = "Cmd_Extr_Pt_Route",
+             .Has_Work = Is_Object_Selected},
+    Item_Row{.Name = "Mnu_Texture_Mode", .Button = "Cmd_TrtIma", .Shortcut = "Ctrl+T"},
+    Item_Row{.Name = "Mnu_Texture_New", .Button = "Cmd_New_Ima"},
+    Item_Row{.Name = "Mnu_Texture_Sel", .Button = "Cmd_Sel_Ima", .Has_Work = Has_Textures},
+    Item_Row{.Name = "Mnu_Texture_Link", .Button = "Cmd_Sel_Crb_Ima"},
+    Item_Row{.Name = "Mnu_Tool_FSUIPC", .Button = "Cmd_FSUIPC"},
+    Item_Row{.Name = "Mnu_Tool_API", .Button = "Cmd_API"},
 };
 
 bool Is_Mode(std::string_view Button) {
@@ -83,7 +101,7 @@ void Button_Items_Add(Form& F) {
     for (const Item_Row& Row : Items) {
         Control C{.Kind = Control_Kind::Menu_Item,
                   .Name = std::string(Row.Name),
-                  .Words = F[Row.Button].Tip_Words,
+                  .Words = Row.Caption.Is_Set() ? Row.Caption : F[Row.Button].Tip_Words,
                   .Shortcut = std::string(Row.Shortcut),
                   .Checkable = Is_Mode(Row.Button)};
         for (const std::string& Key : {std::string(Row.Canvas_Key), Alt_Key_Of(Row.Button)})

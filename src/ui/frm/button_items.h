@@ -6,8 +6,7 @@
 
 #include "ui/form/form.h"
 
-/// Adds the items, named as the tips of their buttons, which F must have; and gives them their
-/// handlers.
+/// Adds the items of the buttons, which F must have; and gives them their handlers.
 void Button_Items_Add(Form& F);
 void Button_Items_Install(Form& F);
 
