@@ -53,7 +53,8 @@ private:
     }
     // Not what ends the project, runs the compilers or leaves the map.
     static bool Serves(const Control& C) {
-        for (const char* Not : {"Mnu_File", "Cmd_API", "Mnu_Tool_API", "Mnu_Param", "Cmd_Z", "HScroll", "VScroll"})
+        for (const char* Not :
+             {"Mnu_File", "Cmd_API", "Mnu_Tool_API", "Mnu_Param", "Cmd_Z", "HScroll", "VScroll"})
             if (C.Name.starts_with(Not)) return false;
         if (C.Name == "Cmd_New") return false;
         for (const auto Not : {Control_Kind::Canvas, Control_Kind::Label, Control_Kind::Frame,
