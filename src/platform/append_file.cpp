@@ -115,11 +115,9 @@ std::optional<File_Mark> File_Mark_Of(std::string_view Path) {
     if (!Native || !File_Exists(Path)) return std::nullopt;
     std::error_code Error;
     const auto Size = fs::file_size(*Native, Error);
-    if (Error) return std::nullopt;
-    const auto Time = fs::last_write_time(*Native, Error);
-    if (Error) return std::nullopt;
-    return File_Mark{.Size = Size,
-                     .Time = static_cast<std::int64_t>(Time.time_since_epoch().count())};
+    const auto Time = File_Changed_At(*Native);
+    if (Error || !Time) return std::nullopt;
+    return File_Mark{.Size = Size, .Time = *Time};
 }
 
 bool File_Rename(std::string_view From, std::string_view To) {

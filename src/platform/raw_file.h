@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string_view>
 
 class Raw_File {
@@ -48,3 +49,6 @@ bool File_Replaceable(const std::filesystem::path& Path);
 
 /// Has the names in Dir put on the disk, where the system can do so.
 void Dir_Sync(const std::filesystem::path& Dir);
+
+/// When a file was changed last, in the system's own count and as finely as it knows.
+std::optional<std::int64_t> File_Changed_At(const std::filesystem::path& Path);

@@ -57,7 +57,8 @@ protected:
         All = Replaced(Replaced(All, Dir.Path() + "\\", "*"), Dir.Native().string() + "/", "*");
         All = Replaced(Replaced(All, "\r", ""), Replaced(Dir.Path() + "\\", "\\", "\\\\"), "*");
         for (const char* Name : {"Terrafold", "Fs5.pal"})  // behind either divider
-            All = Replaced(All, std::string("/") + Name, std::string("\\") + Name);
+            for (const char* Divider : {"/", "\\\\"})
+                All = Replaced(All, std::string(Divider) + Name, std::string("\\") + Name);
         if (!All.empty() && All.back() == '\n') All.pop_back();
         return C.size() > 1 ? All.substr(0, std::stoul(C[1])) : All;
     }

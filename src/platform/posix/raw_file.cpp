@@ -137,3 +137,10 @@ void Dir_Sync(const fs::path& Dir) {
     fsync(Fd);
     close(Fd);
 }
+
+std::optional<std::int64_t> File_Changed_At(const fs::path& Path) {
+    std::error_code Error;
+    const auto Time = fs::last_write_time(Path, Error);
+    if (Error) return std::nullopt;
+    return static_cast<std::int64_t>(Time.time_since_epoch().count());
+}

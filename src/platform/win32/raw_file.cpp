@@ -80,3 +80,11 @@ bool File_Replaceable(const fs::path& Path) {
 
 // MOVEFILE_WRITE_THROUGH has seen to it.
 void Dir_Sync(const fs::path&) {}
+
+// The standard library's answer here is in whole seconds.
+std::optional<std::int64_t> File_Changed_At(const fs::path& Path) {
+    WIN32_FILE_ATTRIBUTE_DATA Facts{};
+    if (GetFileAttributesExW(Path.c_str(), GetFileExInfoStandard, &Facts) == 0) return std::nullopt;
+    return static_cast<std::int64_t>(Facts.ftLastWriteTime.dwHighDateTime) << 32 |
+           Facts.ftLastWriteTime.dwLowDateTime;
+}
