@@ -3,8 +3,6 @@
 
 #include <memory>
 
-class Append_File;
-
 /// While one of these lives no other program's can begin in this home; in this program any
 /// number may. The system ends it with the program, however that ends.
 class Home_Turn {
@@ -14,5 +12,7 @@ public:
     bool Is_Taken() const { return Lock_ != nullptr; }
 
 private:
-    std::shared_ptr<Append_File> Lock_;
+    struct Lock;
+    static std::weak_ptr<Lock> Held_;
+    std::shared_ptr<Lock> Lock_;
 };

@@ -77,7 +77,7 @@ bool Append_File::Create(std::string_view Path) {
     const auto Native = Native_Path(Path);
     auto H = std::make_unique<Handle>();
     if (!Native || !H->File.Create(*Native)) return false;
-    if (!H->File.Lock() || !File_Exists(Path)) return false;
+    if (!H->File.Lock() || !H->File.Is_At(*Native)) return false;
     H->Dir = Native->parent_path();
     H->Is_New = true;
     Handle_ = std::move(H);
@@ -87,7 +87,8 @@ bool Append_File::Create(std::string_view Path) {
 bool Append_File::Claim(std::string_view Path) {
     const auto Native = Native_Path(Path);
     auto H = std::make_unique<Handle>();
-    if (!Native || !H->File.Open(*Native) || !H->File.Lock()) return false;
+    if (!Native || !H->File.Open(*Native) || !H->File.Lock() || !H->File.Is_At(*Native))
+        return false;
     Handle_ = std::move(H);
     return true;
 }
@@ -104,6 +105,12 @@ bool Append_File::Append(std::string_view Bytes) {
 
 bool Append_File::Sync() {
     return Handle_ && Handle_->Sync();
+}
+
+void Append_File::Delete(std::string_view Path) {
+    const auto Native = Native_Path(Path);
+    if (Handle_ && Native) Handle_->File.Delete(*Native);
+    Close();
 }
 
 void Append_File::Close() {

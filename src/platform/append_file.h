@@ -28,6 +28,8 @@ public:
     /// Waits until everything is on the disk.
     bool Sync();
     void Close();
+    /// Closes the file, whose path is Path, and deletes it unless another program has it by then.
+    void Delete(std::string_view Path);
 
 private:
     struct Handle;

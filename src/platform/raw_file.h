@@ -35,6 +35,8 @@ public:
     /// The open file, whose name is From and which is on the disk, takes the name To; a file of
     /// that name goes, in the same step. Closed at the end; false when it still is From.
     bool Replace(const std::filesystem::path& From, const std::filesystem::path& To);
+    /// Deletes the open file, whose name is Path, and closes it. No other program's goes.
+    void Delete(const std::filesystem::path& Path);
     /// False when the system reports at the end that something was not written.
     bool Close();
 

@@ -118,6 +118,12 @@ bool Raw_File::Replace(const fs::path& From, const fs::path& To) {
     return Is_Named;
 }
 
+// While it is locked, so that nobody else can have it.
+void Raw_File::Delete(const fs::path& Path) {
+    if (Is_At(Path)) unlink(Path.c_str());
+    Close();
+}
+
 bool Raw_File::Close() {
     if (!Is_Open()) return true;
     const int Fd = static_cast<int>(Handle_);

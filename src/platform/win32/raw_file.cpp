@@ -65,6 +65,11 @@ bool Raw_File::Replace(const fs::path& From, const fs::path& To) {
                                   MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
+// No file that is open can be deleted, be it another program's.
+void Raw_File::Delete(const fs::path& Path) {
+    if (Close()) DeleteFileW(Path.c_str());
+}
+
 bool Raw_File::Close() {
     if (!Is_Open()) return true;
     const HANDLE Open = Handle_Of(Handle_);
