@@ -38,7 +38,7 @@ inline std::optional<Double> Stated_Version() {
     return Val(Cur_Token.substr(1, 3));
 }
 
-/// A line of a file, as a message tells it: "/home/me/p.LWM, line 7". Path may be empty.
+/// A line of a file, as a message tells it: "Maps/p.LWM, line 7". Path may be empty.
 std::string Line_Of_File(std::string_view Path, Long Line);
 
 class Field_Reader {

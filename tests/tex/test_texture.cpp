@@ -59,7 +59,7 @@ TEST_F(Texture, EveryLayoutOfTheTable) {
     const std::string Of_444 = Bytes_Of("F3545A F59000 F0F0F0 000000  F59000 7B4300 F59000 000000");
     const std::vector<std::uint32_t> Masks_444 = {0xF00, 0xF0, 0xF};
     struct {
-        Texture_Spec Spec;
+        Texture_Spec Made;
         std::string Rows, Name;
     } const Table[] = {
         {{8, None, 1078, 3, 2, Eight}, Of_8, "Bmp 8 Bits 3x2"},
@@ -75,7 +75,7 @@ TEST_F(Texture, EveryLayoutOfTheTable) {
         {{32, None, 74, 3, 2, Four}, Of_32, "Bmp 32 Bits 3x2 \xE9tendu"},
     };
     for (const auto& Row : Table) {
-        const std::string Bytes = Texture_Bytes(Row.Spec);
+        const std::string Bytes = Texture_Bytes(Row.Made);
         ASSERT_EQ(Read(Bytes), Fault::None) << Row.Name;
         EXPECT_EQ(Rows(), Row.Rows) << Row.Name;
         EXPECT_EQ(Text, Row.Name);
@@ -102,14 +102,14 @@ TEST_F(Texture, BlocksAboveBelowAndEqual) {
     const std::string Half = Times(3, Blue) + Black;
     const std::string Second =
         Half + Half + Times(8, Blue) + Times(2, Black + Times(3, Blue)) + Times(8, Black);
-    Texture_Spec Spec{16, "DXT1", 74, 8, 8, Above + Below + Equal + Equal};
-    ASSERT_EQ(Read(Texture_Bytes(Spec)), Fault::None);
+    Texture_Spec Made{16, "DXT1", 74, 8, 8, Above + Below + Equal + Equal};
+    ASSERT_EQ(Read(Texture_Bytes(Made)), Fault::None);
     EXPECT_EQ(Rows(), First + Second);
     EXPECT_EQ(Text, "Bmp 16 Bits 8x8 \xE9tendu DXT1");
     const std::string Alpha(8, '\x5A');
-    Spec.Compression = "DXT3";
-    Spec.Pixels = Alpha + Above + Alpha + Below + Alpha + Equal + Alpha + Equal;
-    ASSERT_EQ(Read(Texture_Bytes(Spec)), Fault::None);
+    Made.Compression = "DXT3";
+    Made.Pixels = Alpha + Above + Alpha + Below + Alpha + Equal + Alpha + Equal;
+    ASSERT_EQ(Read(Texture_Bytes(Made)), Fault::None);
     EXPECT_EQ(Rows(), First + Second) << "colours are the last half of a block";
     EXPECT_EQ(Text, "Bmp 16 Bits 8x8 \xE9tendu DXT3");
 }
@@ -202,9 +202,9 @@ TEST_F(Texture, WhatIsNoTexture) {
                                   {24, None, 54, 4, 0xFFFFFFFC, Room},
                                   {24, None, 54, 8193, 1, std::string(24'580, 'x')},
                                   {32, None, 54, 1, 0x40000001, Room}};
-    for (const Texture_Spec& Spec : Wrong)
-        EXPECT_EQ(Read(Texture_Bytes(Spec)), Fault::Unsupported)
-            << Spec.Bits << " at " << Spec.Off << ", " << Spec.Width << "x" << Spec.Height;
+    for (const Texture_Spec& Made : Wrong)
+        EXPECT_EQ(Read(Texture_Bytes(Made)), Fault::Unsupported)
+            << Made.Bits << " at " << Made.Off << ", " << Made.Width << "x" << Made.Height;
     std::string Untagged = Texture_Bytes({32, None, 74, 4, 4, Room});
     Untagged[54] = 'f';
     EXPECT_EQ(Read(Untagged), Fault::Unsupported);
@@ -221,8 +221,8 @@ protected:
 };
 
 TEST_F(Texture_File, HeadersOfBothKinds) {
-    const Texture_Spec Spec{32, std::string(4, '\0'), 54, 1, 2, Bytes_Of("010203FF 040506FF")};
-    EXPECT_EQ(Write(Texture_Bytes(Spec)), 0);
+    const Texture_Spec Made{32, std::string(4, '\0'), 54, 1, 2, Bytes_Of("010203FF 040506FF")};
+    EXPECT_EQ(Write(Texture_Bytes(Made)), 0);
     EXPECT_EQ(Dir.Read("out.bmp"),
               "BM" + Bytes_Of("3E000000 00000000 36000000 28000000 01000000 02000000 0100 1800"
                               "00000000 08000000 120B0000 120B0000 00000000 00000000"
